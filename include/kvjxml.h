@@ -1,0 +1,13 @@
+/// @file kvjxml.h
+/// The whole of libkvjxml: reads the XML replies of a family of plastic-card printers into plain records and composes
+/// the XML requests. Each header can be included by itself.
+#ifndef KVJXML_H
+#define KVJXML_H
+
+#include "FoundationRecords.h"
+#include "KVJHelper.h"
+#include "KVJStatusParser.h"
+#include "StatusRecords.h"
+#include "kvjxml_export.h"
+
+#endif

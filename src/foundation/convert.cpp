@@ -1,0 +1,115 @@
+#include "foundation/convert.h"
+
+#include <strings.h>
+#include <charconv>
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+namespace kvjxml::convert {
+
+namespace {
+
+/// The "C" locale as an object, for the functions that take one. Made once, never changed, and no memory of its own.
+locale_t cLocale() noexcept {
+    static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
+    return locale;
+}
+
+/// The calling thread reads numbers in the "C" locale while this lives; the process's locale stays as it is.
+class NumbersInCLocale {
+public:
+    NumbersInCLocale() noexcept : before_(uselocale(cLocale())) {}
+    ~NumbersInCLocale() { uselocale(before_); }
+    NumbersInCLocale(const NumbersInCLocale&) = delete;
+    NumbersInCLocale& operator=(const NumbersInCLocale&) = delete;
+
+private:
+    locale_t before_;
+};
+
+/// The last character of `digits` stays zero.
+template <class... Arguments>
+Digits digitsOf(Arguments... arguments) noexcept {
+    Digits digits;
+    std::to_chars(digits.characters.data(), digits.characters.data() + digits.characters.size() - 1, arguments...);
+    return digits;
+}
+
+}  // namespace
+
+long toLong(const char* text) noexcept { return strtol_l(text, nullptr, 10, cLocale()); }
+
+int toInt(const char* text) noexcept { return static_cast<int>(toLong(text)); }
+
+float toFloat(const char* text) noexcept { return static_cast<float>(strtod_l(text, nullptr, cLocale())); }
+
+bool scanPrefixedHex(const char* text, unsigned int& value) noexcept {
+    if (std::strncmp(text, "0x", 2) != 0) return false;
+    const char* digits = text + 2;
+    char* end = nullptr;
+    const unsigned long number = strtoul_l(digits, &end, 16, cLocale());
+    if (end == digits) return false;
+    value = static_cast<unsigned int>(number);
+    return true;
+}
+
+bool scanUnsignedShort(const char* text, unsigned short& value) noexcept {
+    char* end = nullptr;
+    const unsigned long number = strtoul_l(text, &end, 10, cLocale());
+    if (end == text) return false;
+    value = static_cast<unsigned short>(number);
+    return true;
+}
+
+bool scanFloat(const char* text, float& value) noexcept {
+    const NumbersInCLocale scope;
+    double number = 0;
+    if (std::sscanf(text, "%lf", &number) != 1) return false;
+    value = static_cast<float>(number);
+    return true;
+}
+
+HardwareAddress toHardwareAddress(const char* text) noexcept {
+    std::array<unsigned int, 6> bytes{};
+    const int matched = std::sscanf(text, "%02x:%02x:%02x:%02x:%02x:%02x", bytes.data(), &bytes[1], &bytes[2],
+                                    &bytes[3], &bytes[4], &bytes[5]);
+    static_cast<void>(matched);  // A byte that is not there is 0, and the printer expects no more to be said of it.
+    HardwareAddress address{};
+    for (std::size_t i = 0; i < address.size(); ++i) address[i] = static_cast<unsigned char>(bytes[i]);
+    return address;
+}
+
+bool isTrue(const char* text) noexcept { return equal(text, "enabled") || equal(text, "yes"); }
+
+bool equal(const char* text, const char* word) noexcept { return std::strcmp(text, word) == 0; }
+
+bool equalIgnoringCase(const char* text, const char* word) noexcept { return strcasecmp_l(text, word, cLocale()) == 0; }
+
+bool copy(const char* text, char* destination, int capacity) noexcept {
+    if (capacity <= 0) return false;
+    const std::size_t room = static_cast<std::size_t>(capacity) - 1;
+    const std::size_t length = strnlen(text, room + 1);
+    const std::size_t copied = length <= room ? length : room;
+    std::memcpy(destination, text, copied);
+    destination[copied] = '\0';
+    return length <= room;
+}
+
+Digits fromInt(int value) noexcept { return digitsOf(value); }
+
+Digits fromUnsigned(unsigned value) noexcept { return digitsOf(value); }
+
+Digits fromLong(long value) noexcept { return digitsOf(value); }
+
+Digits fromDouble(double value, int decimals) noexcept { return digitsOf(value, std::chars_format::fixed, decimals); }
+
+Digits fromHardwareAddress(const unsigned char* address) noexcept {
+    Digits digits;
+    static_cast<void>(std::snprintf(digits.characters.data(), digits.characters.size(), "%02x:%02x:%02x:%02x:%02x:%02x",
+                                    address[0], address[1], address[2], address[3], address[4], address[5]));
+    return digits;
+}
+
+}  // namespace kvjxml::convert

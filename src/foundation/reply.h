@@ -1,0 +1,35 @@
+/// @file reply.h
+/// The frame of every reader: a reply's text goes in, the root element of its message comes out.
+#ifndef KVJXML_FOUNDATION_REPLY_H
+#define KVJXML_FOUNDATION_REPLY_H
+
+#include <tinyxml.h>
+
+#include <cstdint>
+
+namespace kvjxml {
+
+/// Parses a reply of `length` wide characters into `document`. It is converted in the process's locale, and of the
+/// multibyte text the first `length` bytes are taken. Nothing is read, and nothing parsed, for a length of zero or
+/// less.
+void parse(TiXmlDocument& document, const wchar_t* reply, std::int64_t length);
+
+/// Parses a reply of narrow text, terminated by NUL; null is no text.
+void parse(TiXmlDocument& document, const char* reply);
+
+/// One reply, parsed. A reply that is no XML, or only to a point, has the tree that TinyXML made of it until then.
+class Reply {
+public:
+    Reply(const wchar_t& first, std::int64_t length) { parse(document_, &first, length); }
+    explicit Reply(const char* text) { parse(document_, text); }
+
+    /// The first element of that name at the top level of the reply, owned by this object; null when there is none.
+    TiXmlElement* root(const char* name) { return document_.FirstChildElement(name); }
+
+private:
+    TiXmlDocument document_;
+};
+
+}  // namespace kvjxml
+
+#endif

@@ -1,0 +1,40 @@
+#include "foundation/words.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "foundation/convert.h"
+
+namespace kvjxml {
+
+namespace {
+
+bool matches(Match match, const char* text, const char* word) noexcept {
+    switch (match) {
+        case Match::wholeIgnoringCase:
+            return convert::equalIgnoringCase(text, word);
+        case Match::part:
+            return std::strstr(text, word) != nullptr;
+        case Match::whole:
+            break;
+    }
+    return convert::equal(text, word);
+}
+
+}  // namespace
+
+std::optional<int> codeOf(Words table, const char* text) noexcept {
+    if (text == nullptr) return table.other;
+    const auto row = std::ranges::find_if(
+        table.rows, [&](const char* word) { return matches(table.match, text, word); }, &Word::word);
+    return row == table.rows.end() ? table.other : row->code;
+}
+
+int anyCodeOf(Words table, const char* text) noexcept { return codeOf(table, text).value_or(0); }
+
+const char* wordOf(Words table, int code) noexcept {
+    const auto row = std::ranges::find(table.rows, code, &Word::code);
+    return row == table.rows.end() ? nullptr : row->word;
+}
+
+}  // namespace kvjxml
