@@ -17,9 +17,8 @@ using Cell = std::array<char, 4>;
 /// @throws std::bad_alloc, also when there is no such amount of memory at all.
 std::unique_ptr<Cell[]> cells(std::size_t characters) { return std::make_unique<Cell[]>(characters + 1); }
 
-void parse(TiXmlDocument& document, std::unique_ptr<Cell[]> text) {
-    // Row and column of each node are nobody's business here, and keeping them is a third of the work.
-    document.SetTabSize(0);
+void parse(TiXmlDocument& document, std::unique_ptr<Cell[]> text, int tabSize) {
+    document.SetTabSize(tabSize);
     // What is wrong with a reply shows in the tree: its root or a value is missing.
     document.Parse(text[0].data(), nullptr, TIXML_ENCODING_UNKNOWN);
 }
@@ -34,15 +33,15 @@ void parse(TiXmlDocument& document, const wchar_t* reply, std::int64_t length) {
     // converted up to there is what the printer said as far as the host can read it.
     std::mbstate_t state{};
     static_cast<void>(std::wcsrtombs(text[0].data(), &reply, characters, &state));
-    parse(document, std::move(text));
+    parse(document, std::move(text), 0);
 }
 
-void parse(TiXmlDocument& document, const char* reply) {
+void parse(TiXmlDocument& document, const char* reply, int tabSize) {
     if (reply == nullptr) return;
     const std::size_t length = std::strlen(reply);
     auto text = cells(length / sizeof(Cell) + 1);
     std::memcpy(text.get(), reply, length);
-    parse(document, std::move(text));
+    parse(document, std::move(text), tabSize);
 }
 
 }  // namespace kvjxml

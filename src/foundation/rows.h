@@ -22,6 +22,7 @@
 #include "KVJHelper.h"
 #include "foundation/convert.h"
 #include "foundation/element.h"
+#include "foundation/member.h"
 #include "foundation/words.h"
 
 namespace kvjxml {
@@ -85,31 +86,10 @@ bool walk(TiXmlElement* element, Record& record, const Rows<Record, N>& table) {
 
 // ---- What the conversions are made of -------------------------------------------------------------------------------
 
-template <class Member>
-struct MemberOf;
-template <class Record_, class Value_>
-struct MemberOf<Value_ Record_::*> {
-    using Record = Record_;
-    using Value = Value_;
-};
-template <auto Member>
-using RecordOf = typename MemberOf<decltype(Member)>::Record;
-template <auto Member>
-using ValueOf = typename MemberOf<decltype(Member)>::Value;
-
 template <class Record, std::size_t N>
 Record recordOf(const Rows<Record, N>&);
 template <const auto& Table>
 using RecordOfTable = decltype(recordOf(Table));
-
-/// The name of a member, taken from what the compiler calls this function.
-template <auto Member>
-consteval std::string_view nameOf() {
-    std::string_view name = __PRETTY_FUNCTION__;
-    name.remove_prefix(name.find("Member = ") + 1);
-    name = name.substr(0, name.find_first_of(";]"));
-    return name.substr(name.rfind(':') + 1);
-}
 
 /// A word as a template argument.
 template <std::size_t N>

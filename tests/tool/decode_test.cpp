@@ -1,0 +1,161 @@
+// The verb "decode": where a reply comes from, which message it is, and what the shell is told.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include "tool/tool.h"
+
+namespace {
+
+using kvjxml::tests::contentOf;
+using kvjxml::tests::Outcome;
+using kvjxml::tests::runTool;
+using kvjxml::tests::TemporaryFolder;
+using nlohmann::json;
+using testing::HasSubstr;
+
+const std::string sample = std::string(KVJXML_REPLIES) + "/get_job_status.xml";
+
+json recordOf(const Outcome& outcome) { return json::parse(outcome.out); }
+
+TEST(Decode, ReadsStandardInputForADashAndWithoutAName) {
+    const std::string reply = contentOf(sample);
+    const Outcome fromFile = runTool("decode " + sample);
+    EXPECT_EQ(runTool("decode -", reply).out, fromFile.out);
+    EXPECT_EQ(runTool("decode", reply).out, fromFile.out);
+    EXPECT_EQ(recordOf(fromFile).at("actionId"), 1042);
+}
+
+TEST(Decode, AFileThatIsNotThereIsCode1AndSaysWhich) {
+    const Outcome outcome = runTool("decode /nowhere/reply.xml");
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(outcome.error, "kvjxml: /nowhere/reply.xml: cannot be read: No such file or directory\n");
+}
+
+TEST(Decode, AFolderIsCode1) {
+    const Outcome outcome = runTool("decode /");
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_EQ(outcome.error, "kvjxml: /: cannot be read: Is a directory\n");
+}
+
+TEST(Decode, OutputThatCannotBeWrittenIsCode1) {
+    const int status =
+        std::system((std::string(KVJXML_TOOL) + " decode " + sample + " >/dev/full 2>/dev/null").c_str());
+    EXPECT_EQ(WEXITSTATUS(status), 1);
+}
+
+TEST(Decode, WrongUseIsCode2) {
+    EXPECT_EQ(runTool("").code, 2);
+    EXPECT_EQ(runTool("decipher").code, 2);
+    EXPECT_EQ(runTool("decode --loud").code, 2);
+    EXPECT_EQ(runTool("decode " + sample + " " + sample).code, 2);
+}
+
+TEST(Decode, AnUnknownMessageNameIsCode2AndNamesTheKnownOnes) {
+    const Outcome outcome = runTool("decode --message get_weather", "<get_weather/>");
+    EXPECT_EQ(outcome.code, 2);
+    EXPECT_THAT(outcome.error, HasSubstr("get_weather not in"));
+    EXPECT_THAT(outcome.error, HasSubstr("get_general_status"));
+}
+
+TEST(Decode, AnUnknownRootIsCode3AndSaysWhich) {
+    const Outcome outcome = runTool("decode", "<get_weather><rain>yes</rain></get_weather>");
+    EXPECT_EQ(outcome.code, 3);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(outcome.error,
+              "kvjxml: standard input: the root element \"get_weather\" is not that of a known message\n");
+}
+
+TEST(Decode, ARootInOtherLetterCaseIsCode3) { EXPECT_EQ(runTool("decode", "<Get_Job_Status/>").code, 3); }
+
+TEST(Decode, WhatIsNoXmlIsCode3AndSaysWhy) {
+    EXPECT_EQ(runTool("decode", "").error, "kvjxml: standard input: at its end: Error document empty.\n");
+    const Outcome outcome = runTool("decode", "ready");
+    EXPECT_EQ(outcome.code, 3);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_THAT(outcome.error, HasSubstr("standard input"));
+    EXPECT_EQ(runTool("decode", "<!-- nothing -->").error, "kvjxml: standard input: there is no XML element in it\n");
+}
+
+TEST(Decode, BytesThatAreNotUtf8AreCode3AndSayWhere) {
+    const Outcome outcome = runTool("decode", "<get_job_status>\xE9</get_job_status>");
+    EXPECT_EQ(outcome.code, 3);
+    EXPECT_EQ(outcome.error, "kvjxml: standard input: byte 16 is not UTF-8 text\n");
+    EXPECT_EQ(runTool("decode", "<a>\xC3").error, "kvjxml: standard input: byte 3 is not UTF-8 text\n");
+}
+
+TEST(Decode, AKnownRootBehindAnUnknownOneIsFound) {
+    const Outcome outcome =
+        runTool("decode", "<header/><get_job_status><action_id>7</action_id></get_job_status><get_general_status/>");
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(recordOf(outcome).at("actionId"), 7);
+}
+
+TEST(Decode, AReaderThatReportsFailureIsCode4AndWhatWasReadIsPrinted) {
+    const Outcome outcome = runTool("decode", "<get_job_status><action_id>7</action_id><uuid/></get_job_status>");
+    EXPECT_EQ(outcome.code, 4);
+    EXPECT_EQ(recordOf(outcome).at("actionId"), 7);
+    EXPECT_THAT(outcome.error, HasSubstr("kvjxml: standard input: ParseJobStatus reported failure"));
+}
+
+TEST(Decode, AGivenMessageOverridesTheRoot) {
+    const std::string both =
+        "<get_job_status><action_id>7</action_id></get_job_status>"
+        "<get_general_status><error>8</error></get_general_status>";
+    EXPECT_EQ(recordOf(runTool("decode --message get_general_status", both)).at("error"), 8);
+    EXPECT_EQ(recordOf(runTool("decode --message get_job_status", both)).at("actionId"), 7);
+}
+
+TEST(Decode, AGivenMessageThatIsNotInTheReplyIsCode4) {
+    const Outcome outcome = runTool("decode --message get_general_status " + sample);
+    EXPECT_EQ(outcome.code, 4);
+    EXPECT_EQ(recordOf(outcome).at("printerState"), 0);
+}
+
+TEST(Decode, ACutReplyIsReadAsFarAsItGoesAndSaysSo) {
+    const Outcome outcome = runTool("decode", "<get_job_status>\n<action_id>7</action_id>\n<uuid>6a1");
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(recordOf(outcome).at("actionId"), 7);
+    EXPECT_EQ(recordOf(outcome).at("uuid"), "6a1");
+    EXPECT_EQ(outcome.error,
+              "kvjxml: standard input: read as far as it goes: at its end: Error reading Element value.\n");
+}
+
+TEST(Decode, AMalformedReplySaysInWhichLine) {
+    const Outcome outcome =
+        runTool("decode", "<get_job_status>\n<action_id>7</action_id>\n  </other></get_job_status>");
+    EXPECT_EQ(recordOf(outcome).at("actionId"), 7);
+    EXPECT_EQ(outcome.error,
+              "kvjxml: standard input: read as far as it goes: line 3, column 3: Error reading end tag.\n");
+}
+
+TEST(Decode, TextBeyondAsciiIsKeptAndCostsNothingOfTheReply) {
+    const Outcome outcome = runTool(
+        "decode", "<get_job_status><uuid>Zo\xC3\xAB \xE2\x82\xAC</uuid><action_id>7</action_id></get_job_status>");
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(recordOf(outcome).at("uuid"), "Zo\xC3\xAB \xE2\x82\xAC");
+    EXPECT_EQ(recordOf(outcome).at("actionId"), 7);
+}
+
+TEST(Decode, ATextCutInsideACharacterStillPrintsAsJson) {
+    // 38 letters and a two-byte character: the field holds 39 bytes, so half of the character is left.
+    const Outcome outcome =
+        runTool("decode", "<get_job_status><uuid>" + std::string(38, 'x') + "\xC3\xAB</uuid></get_job_status>");
+    EXPECT_EQ(outcome.code, 4);
+    EXPECT_EQ(recordOf(outcome).at("uuid"), std::string(38, 'x') + "\xEF\xBF\xBD");
+}
+
+TEST(Decode, HelpShowsTheExitCodes) {
+    for (const char* words : {"--help", "decode --help"}) {
+        const Outcome outcome = runTool(words);
+        EXPECT_EQ(outcome.code, 0);
+        EXPECT_THAT(outcome.out, HasSubstr("0  decoded\n"));
+        EXPECT_THAT(outcome.out, HasSubstr("4  the reader reported failure; what was read is printed all the same\n"));
+    }
+}
+
+TEST(Decode, TheVersionIsTheProjects) { EXPECT_EQ(runTool("--version").out, std::string(KVJXML_VERSION) + "\n"); }
+
+}  // namespace

@@ -1,0 +1,33 @@
+/// @file tool.h
+/// Runs the tool as a user does.
+#ifndef KVJXML_TESTS_TOOL_TOOL_H
+#define KVJXML_TESTS_TOOL_TOOL_H
+
+#include <sys/wait.h>
+
+#include <cstdlib>
+#include <string>
+
+#include "support/files.h"
+
+namespace kvjxml::tests {
+
+struct Outcome {
+    int code;
+    std::string out;
+    std::string error;
+};
+
+/// Runs the tool with these words of a command line, and with `input` on its standard input.
+inline Outcome runTool(const std::string& words, const std::string& input = {}) {
+    const TemporaryFolder folder;
+    write(folder / "in", input);
+    const std::string command = std::string(KVJXML_TOOL) + " " + words + " <" + (folder / "in").string() + " >" +
+                                (folder / "out").string() + " 2>" + (folder / "error").string();
+    const int status = std::system(command.c_str());
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, contentOf(folder / "out"), contentOf(folder / "error")};
+}
+
+}  // namespace kvjxml::tests
+
+#endif

@@ -1,0 +1,65 @@
+#include "input.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cwchar>
+#include <memory>
+#include <system_error>
+
+#include "failure.h"
+
+namespace kvjxml::tool {
+
+namespace {
+
+struct CloseFile {
+    void operator()(std::FILE* file) const noexcept { static_cast<void>(std::fclose(file)); }
+};
+using File = std::unique_ptr<std::FILE, CloseFile>;
+
+[[noreturn]] void cannotRead(const std::string& name) {
+    throw Failure(ExitCode::inputOutput, name + ": cannot be read: " + std::generic_category().message(errno));
+}
+
+std::string contentOf(std::FILE* file, const std::string& name) {
+    if (file == nullptr) cannotRead(name);
+    std::string bytes;
+    std::array<char, 4096> block{};
+    while (const std::size_t count = std::fread(block.data(), 1, block.size(), file)) bytes.append(block.data(), count);
+    if (std::ferror(file) != 0) cannotRead(name);
+    return bytes;
+}
+
+std::wstring wideOf(const std::string& bytes, const std::string& name) {
+    std::wstring text(bytes.size(), L'\0');
+    std::mbstate_t state{};
+    std::size_t length = 0;
+    for (std::size_t at = 0; at < bytes.size();) {
+        const std::size_t used = std::mbrtowc(&text[length], &bytes[at], bytes.size() - at, &state);
+        if (used == 0) break;  // A NUL ends a reply for its reader, too.
+        if (used > bytes.size() - at) {
+            throw Failure(ExitCode::unknownMessage, name + ": byte " + std::to_string(at) + " is not UTF-8 text");
+        }
+        at += used;
+        ++length;
+    }
+    return text;
+}
+
+}  // namespace
+
+Input readInput(const std::string& path) {
+    Input input;
+    if (path == "-") {
+        input.name = "standard input";
+        input.bytes = contentOf(stdin, input.name);
+    } else {
+        input.name = path;
+        input.bytes = contentOf(File(std::fopen(path.c_str(), "rb")).get(), input.name);
+    }
+    input.text = wideOf(input.bytes, input.name);
+    return input;
+}
+
+}  // namespace kvjxml::tool

@@ -1,0 +1,57 @@
+// kvjxml: what a captured reply of the printer says.
+#include <CLI/CLI.hpp>
+#include <clocale>
+#include <cstdlib>
+#include <iostream>
+#include <set>
+#include <string>
+
+#include "decode.h"
+#include "failure.h"
+#include "messages.h"
+
+namespace {
+
+using kvjxml::tool::ExitCode;
+
+int run(int argc, char** argv) {
+    CLI::App app("Shows what the messages of a card printer say.", "kvjxml");
+    app.footer(kvjxml::tool::exitCodeTable());
+    app.set_version_flag("--version", KVJXML_VERSION);
+    app.require_subcommand(1);
+
+    std::string file = "-";
+    std::string message;
+    std::set<std::string> roots;
+    for (const auto& known : kvjxml::tool::messages()) roots.emplace(known.root);
+
+    CLI::App* decode = app.add_subcommand("decode", "Print the record that a captured reply fills, as JSON");
+    decode->footer(kvjxml::tool::exitCodeTable());
+    decode->add_option("FILE", file, "The reply, in UTF-8; - for standard input")->capture_default_str();
+    decode->add_option("--message", message, "Read it as this message, whatever its root element")
+        ->option_text("NAME")
+        ->check(CLI::IsMember(roots));
+
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? static_cast<int>(ExitCode::done) : static_cast<int>(ExitCode::usage);
+    }
+    return static_cast<int>(kvjxml::tool::decode(file, message));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    // Replies are UTF-8, whatever the terminal is set to. Numbers stay those of the "C" locale.
+    static_cast<void>(std::setlocale(LC_CTYPE, "C.UTF-8"));
+    try {
+        return run(argc, argv);
+    } catch (const kvjxml::tool::Failure& failure) {
+        std::cerr << "kvjxml: " << failure.what() << '\n';
+        return static_cast<int>(failure.code());
+    } catch (const std::exception& error) {
+        std::cerr << "kvjxml: " << error.what() << '\n';
+        return static_cast<int>(ExitCode::inputOutput);
+    }
+}

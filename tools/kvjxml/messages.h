@@ -1,0 +1,29 @@
+/// @file messages.h
+/// The replies that the tool knows: one row per reader.
+#ifndef KVJXML_TOOL_MESSAGES_H
+#define KVJXML_TOOL_MESSAGES_H
+
+#include <span>
+#include <string_view>
+
+#include "fields.h"
+#include "input.h"
+
+namespace kvjxml::tool {
+
+struct Decoded {
+    bool result;  ///< what the reader returned
+    Json record;
+};
+
+struct Message {
+    std::string_view root;    ///< the reply's root element
+    std::string_view reader;  ///< the library's operation
+    Decoded (*decode)(const Input& input);
+};
+
+std::span<const Message> messages();
+
+}  // namespace kvjxml::tool
+
+#endif
