@@ -1,5 +1,5 @@
 /// @file member.h
-/// What a pointer to a record's member says about itself.
+/// What a pointer to a record's member says about itself, and the names of things as the source has them.
 #ifndef KVJXML_FOUNDATION_MEMBER_H
 #define KVJXML_FOUNDATION_MEMBER_H
 
@@ -20,13 +20,23 @@ using RecordOf = typename MemberOf<decltype(Member)>::Record;
 template <auto Member>
 using ValueOf = typename MemberOf<decltype(Member)>::Value;
 
-/// The member's name, taken from what the compiler calls this function.
-template <auto Member>
+/// The last name in what a compiler calls a function template's argument, "Argument = &Record::name".
+consteval std::string_view lastNameOf(std::string_view function) {
+    function.remove_prefix(function.find("Argument = "));
+    function = function.substr(0, function.find_first_of(";]"));
+    return function.substr(function.find_last_of(":&= ") + 1);
+}
+
+/// The name of a member.
+template <auto Argument>
 consteval std::string_view nameOf() {
-    std::string_view name = __PRETTY_FUNCTION__;
-    name.remove_prefix(name.find("Member = "));
-    name = name.substr(0, name.find_first_of(";]"));
-    return name.substr(name.rfind(':') + 1);
+    return lastNameOf(__PRETTY_FUNCTION__);
+}
+
+/// The name of a table.
+template <const auto& Argument>
+consteval std::string_view nameOfTable() {
+    return lastNameOf(__PRETTY_FUNCTION__);
 }
 
 }  // namespace kvjxml

@@ -14,8 +14,8 @@ namespace kvjxml {
 /// less.
 void parse(TiXmlDocument& document, const wchar_t* reply, std::int64_t length);
 
-/// Parses a reply of narrow text, terminated by NUL; null is no text. A `tabSize` above zero makes TinyXML keep the row and
-/// column of each node and of an error, which costs a third more time.
+/// Parses a reply of narrow text, terminated by NUL; null is no text. A `tabSize` above zero makes TinyXML keep the row
+/// and column of each node and of an error, which costs a third more time.
 void parse(TiXmlDocument& document, const char* reply, int tabSize = 0);
 
 /// One reply, parsed. A reply that is no XML, or only to a point, has the tree that TinyXML made of it until then.

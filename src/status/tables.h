@@ -4,6 +4,7 @@
 #define KVJXML_STATUS_TABLES_H
 
 #include "StatusRecords.h"
+#include "foundation/getters.h"
 #include "foundation/rows.h"
 
 namespace kvjxml {

@@ -151,7 +151,7 @@ TEST(Decode, HelpShowsTheExitCodes) {
     for (const char* words : {"--help", "decode --help"}) {
         const Outcome outcome = runTool(words);
         EXPECT_EQ(outcome.code, 0);
-        EXPECT_THAT(outcome.out, HasSubstr("0  decoded\n"));
+        EXPECT_THAT(outcome.out, HasSubstr("0  done\n"));
         EXPECT_THAT(outcome.out, HasSubstr("4  the reader reported failure; what was read is printed all the same\n"));
     }
 }

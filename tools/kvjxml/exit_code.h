@@ -13,7 +13,7 @@ enum class ExitCode { done, inputOutput, usage, unknownMessage, readerFailed };
 
 /// In the order of ExitCode.
 inline constexpr std::array<std::string_view, 5> exitCodes{
-    "decoded",
+    "done",
     "a file cannot be read or written",
     "wrong use",
     "not a document of a known message",

@@ -9,6 +9,7 @@
 #include "decode.h"
 #include "failure.h"
 #include "messages.h"
+#include "reference.h"
 
 namespace {
 
@@ -32,12 +33,15 @@ int run(int argc, char** argv) {
         ->option_text("NAME")
         ->check(CLI::IsMember(roots));
 
+    const CLI::App* messages =
+        app.add_subcommand("messages", "Print every known message element by element, as Markdown");
+
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? static_cast<int>(ExitCode::done) : static_cast<int>(ExitCode::usage);
     }
-    return static_cast<int>(kvjxml::tool::decode(file, message));
+    return static_cast<int>(messages->parsed() ? kvjxml::tool::printReference() : kvjxml::tool::decode(file, message));
 }
 
 }  // namespace

@@ -2,6 +2,9 @@
 
 #include <KVJStatusParser.h>
 
+#include "foundation/member.h"
+#include "status/tables.h"
+
 namespace kvjxml::tool {
 
 namespace {
@@ -24,11 +27,16 @@ Decoded decode(const Input& input) {
     return {result, toJson(record)};
 }
 
+template <auto Reader, const auto& Table>
+constexpr Message message(std::string_view root) {
+    return {root, nameOf<Reader>(), described<Table>, decode<Reader>};
+}
+
 using Kavrin::KVJStatusParser;
 
 constexpr Message table[] = {
-    {"get_general_status", "ParseStatus", decode<&KVJStatusParser::ParseStatus>},
-    {"get_job_status", "ParseJobStatus", decode<&KVJStatusParser::ParseJobStatus>},
+    message<&KVJStatusParser::ParseStatus, generalStatus>("get_general_status"),
+    message<&KVJStatusParser::ParseJobStatus, jobStatus>("get_job_status"),
 };
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "fields.h"
+#include "foundation/rows.h"
 #include "input.h"
 
 namespace kvjxml::tool {
@@ -17,8 +18,9 @@ struct Decoded {
 };
 
 struct Message {
-    std::string_view root;    ///< the reply's root element
-    std::string_view reader;  ///< the library's operation
+    std::string_view root;                ///< the reply's root element
+    std::string_view reader;              ///< the library's operation
+    std::span<const DescribedRow> table;  ///< what that operation reads
     Decoded (*decode)(const Input& input);
 };
 

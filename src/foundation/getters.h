@@ -1,0 +1,96 @@
+/// @file getters.h
+/// The conversions that the rows of a table are made with: each makes the getter of one member of a record.
+#ifndef KVJXML_FOUNDATION_GETTERS_H
+#define KVJXML_FOUNDATION_GETTERS_H
+
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+#include <type_traits>
+
+#include "KVJHelper.h"
+#include "foundation/convert.h"
+#include "foundation/element.h"
+#include "foundation/member.h"
+#include "foundation/rows.h"
+
+namespace kvjxml {
+
+template <class Value>
+inline constexpr std::string_view numberKind = "number";
+template <>
+inline constexpr std::string_view numberKind<unsigned short> = "number, its low 16 bits";
+template <>
+inline constexpr std::string_view numberKind<unsigned long> = "number, its low 16 bits";
+template <>
+inline constexpr std::string_view numberKind<float> = "number with a decimal point";
+
+/// A number of the member's type, as KVJHelper::GetNumber reads it.
+template <auto Member>
+inline constexpr Getter<RecordOf<Member>> number{
+    {nameOf<Member>(), numberKind<ValueOf<Member>>},
+    [](TiXmlElement* element, RecordOf<Member>& record) { return KVJHelper::GetNumber(element, record.*Member); }};
+
+/// A text, cut to the size of its field.
+template <auto Member>
+inline constexpr Getter<RecordOf<Member>> text{
+    {.field = nameOf<Member>(), .conversion = "text", .capacity = std::extent_v<ValueOf<Member>>},
+    [](TiXmlElement* element, RecordOf<Member>& record) {
+        constexpr auto capacity = static_cast<int>(std::extent_v<ValueOf<Member>>);
+        return KVJHelper::GetString(element, (record.*Member)[0], capacity);
+    }};
+
+/// A word, as its code; an unknown word is that of the table's other texts, or leaves the field alone. Without text the
+/// field is left alone.
+template <auto Member, const auto& Table>
+inline constexpr Getter<RecordOf<Member>> word{
+    {.field = nameOf<Member>(), .conversion = "word", .tableName = nameOfTable<Table>(), .table = Table},
+    [](TiXmlElement* element, RecordOf<Member>& record) {
+        const char* content = textOf(element);
+        if (content == nullptr) return false;
+        if (const auto code = codeOf(Table, content)) record.*Member = static_cast<ValueOf<Member>>(*code);
+        return true;
+    }};
+
+/// A word as a template argument.
+template <std::size_t N>
+struct Literal {
+    consteval Literal(const char (&word)[N]) { std::ranges::copy(word, characters); }
+    char characters[N]{};
+};
+
+/// A flag that is true for exactly one word. Without text it is stored as false.
+template <auto Member, Literal Word>
+inline constexpr Getter<RecordOf<Member>> is{
+    {.field = nameOf<Member>(), .conversion = "true for exactly", .argument = Word.characters},
+    [](TiXmlElement* element, RecordOf<Member>& record) {
+        bool& flag = record.*Member;
+        const char* content = textOf(element);
+        flag = content != nullptr && convert::equal(content, Word.characters);
+        return content != nullptr;
+    }};
+
+/// A bit set in hexadecimal behind a literal "0x"; any other text leaves it alone and counts as read.
+template <auto Member>
+inline constexpr Getter<RecordOf<Member>> prefixedHex{{nameOf<Member>(), "hexadecimal behind `0x`"},
+                                                      [](TiXmlElement* element, RecordOf<Member>& record) {
+                                                          const char* content = textOf(element);
+                                                          if (content != nullptr)
+                                                              convert::scanPrefixedHex(content, record.*Member);
+                                                          return content != nullptr;
+                                                      }};
+
+template <class Record, std::size_t N>
+Record recordOf(const Rows<Record, N>&);
+template <const auto& Table>
+using RecordOfTable = decltype(recordOf(Table));
+
+/// A group of elements, walked with a table of its own into the same record.
+template <const auto& Table>
+inline constexpr Getter<RecordOfTable<Table>> group{
+    {.field = {}, .conversion = "group", .group = described<Table>},
+    [](TiXmlElement* element, RecordOfTable<Table>& record) { return walk(element, record, Table); }};
+
+}  // namespace kvjxml
+
+#endif

@@ -1,0 +1,67 @@
+// The reference and the headers say what the tables do.
+#include <gtest/gtest.h>
+
+#include <regex>
+#include <string>
+
+#include "tool/tool.h"
+
+namespace {
+
+using kvjxml::tests::contentOf;
+using kvjxml::tests::runTool;
+
+std::string publicHeaders() {
+    std::string text;
+    for (const auto& file : std::filesystem::directory_iterator(KVJXML_INCLUDE)) text += contentOf(file.path());
+    return text;
+}
+
+/// All matches of a pattern in a text.
+std::vector<std::smatch> matchesOf(const std::string& text, const std::regex& pattern) {
+    return {std::sregex_iterator(text.begin(), text.end(), pattern), {}};
+}
+
+TEST(Reference, ThePageIsWhatTheToolPrints) {
+    const auto outcome = runTool("messages");
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(outcome.out, contentOf(std::string(KVJXML_DOCS) + "/messages.md"))
+        << "make it anew: kvjxml messages >docs/messages.md";
+}
+
+TEST(Reference, OutputThatCannotBeWrittenIsCode1) {
+    const int status = std::system((std::string(KVJXML_TOOL) + " messages >/dev/full 2>/dev/null").c_str());
+    EXPECT_EQ(WEXITSTATUS(status), 1);
+}
+
+TEST(Reference, TheHeadersNameTheElementOfEveryFieldBesideIt) {
+    const std::string headers = publicHeaders();
+    const std::string reference = runTool("messages").out;
+    // A row of the reference: the element is the last name of its path, the field the name in the next column.
+    const auto rows = matchesOf(reference, std::regex(R"(`(\w+)` \| `(\w+)` \|)"));
+    ASSERT_FALSE(rows.empty());
+    for (const auto& row : rows) {
+        // The comment of a field: lines that begin with ///, then its declaration.
+        const std::regex field(std::string("((?: *///[^\n]*\n)+) *[\\w ]+ ") + row[2].str() + R"((?:\[\d+\])?;)");
+        bool named = false;
+        for (const auto& declaration : matchesOf(headers, field)) {
+            named = named || declaration[1].str().find(std::string("\"") + row[1].str() + "\"") != std::string::npos;
+        }
+        EXPECT_TRUE(named) << "no header names \"" << row[1] << "\" beside " << row[2];
+    }
+}
+
+TEST(Reference, TheHeadersHaveEveryWordOfEveryTable) {
+    const std::string headers = publicHeaders();
+    const std::string reference = runTool("messages").out;
+    const auto words = matchesOf(reference, std::regex(R"(\| `([^`]+)` \| (-?\d+) \|\n)"));
+    ASSERT_FALSE(words.empty());
+    for (const auto& word : words) {
+        // The code stands behind the word, or behind those that share it: "a", "b" and "c" 7
+        const std::regex listed(std::string("\"") + word[1].str() + "\"(?:(?:,| and)[\\s/]*\"[^\"]+\")*[\\s/]*" +
+                                word[2].str() + "\\b");
+        EXPECT_TRUE(std::regex_search(headers, listed)) << word[1] << " is not in the headers as " << word[2];
+    }
+}
+
+}  // namespace
