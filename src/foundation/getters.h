@@ -59,14 +59,18 @@ struct Literal {
     char characters[N]{};
 };
 
+/// The word of a flag. A copy, since clang++ exports the object that stands for a template argument from the library.
+template <Literal Word>
+inline constexpr Literal flagWord = Word;
+
 /// A flag that is true for exactly one word. Without text it is stored as false.
 template <auto Member, Literal Word>
 inline constexpr Getter<RecordOf<Member>> is{
-    {.field = nameOf<Member>(), .conversion = "true for exactly", .argument = Word.characters},
+    {.field = nameOf<Member>(), .conversion = "true for exactly", .argument = flagWord<Word>.characters},
     [](TiXmlElement* element, RecordOf<Member>& record) {
         bool& flag = record.*Member;
         const char* content = textOf(element);
-        flag = content != nullptr && convert::equal(content, Word.characters);
+        flag = content != nullptr && convert::equal(content, flagWord<Word>.characters);
         return content != nullptr;
     }};
 

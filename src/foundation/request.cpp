@@ -6,8 +6,9 @@
 
 #include <cstdio>
 #include <cstring>
-#include <cwchar>
 #include <memory>
+
+#include "foundation/multibyte.h"
 
 namespace kvjxml {
 
@@ -45,11 +46,7 @@ TiXmlElement* beginRequest(TiXmlDocument& request, const char* rootName) {
 
 bool print(const TiXmlDocument& request, wchar_t* out, int capacity) {
     if (out == nullptr || capacity < 0) return false;
-    return printed(request, [&](const char* text) {
-        // The printer's buffer is as long as the host says; whether the text fits is seen from its end.
-        std::mbstate_t state{};
-        static_cast<void>(std::mbsrtowcs(out, &text, static_cast<std::size_t>(capacity), &state));
-    });
+    return printed(request, [&](const char* text) { toWide(text, out, static_cast<std::size_t>(capacity)); });
 }
 
 bool print(const TiXmlDocument& request, char* out) {

@@ -21,7 +21,6 @@
 #include <span>
 #include <string_view>
 
-#include "foundation/convert.h"
 #include "foundation/words.h"
 
 namespace kvjxml {
@@ -54,7 +53,7 @@ struct Getter {
 
 template <class Record>
 struct Row {
-    const char* name;
+    std::string_view name;
     Getter<Record> getter;
 };
 
@@ -66,7 +65,7 @@ template <class Record, std::size_t N>
 consteval Rows<Record, N> rows(const Row<Record> (&list)[N]) {
     for (std::size_t i = 0; i < N; ++i) {
         for (std::size_t k = 0; k < i; ++k) {
-            if (std::string_view(list[i].name) == list[k].name) throw "a name stands twice in its table";
+            if (list[i].name == list[k].name) throw "a name stands twice in its table";
         }
     }
     return std::to_array(list);
@@ -80,8 +79,7 @@ bool walk(TiXmlElement* element, Record& record, const Rows<Record, N>& table) {
     if (element == nullptr) return false;
     bool result = false;
     for (TiXmlElement* child = element->FirstChildElement(); child != nullptr; child = child->NextSiblingElement()) {
-        const auto row = std::ranges::find_if(
-            table, [&](const char* name) { return convert::equal(child->Value(), name); }, &Row<Record>::name);
+        const auto row = std::ranges::find(table, std::string_view(child->Value()), &Row<Record>::name);
         if (row != table.end()) result = row->getter.read(child, record);
     }
     return result;

@@ -3,9 +3,12 @@
 
 #include <clocale>
 #include <cstdio>
+#include <cstdlib>
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
+    // The locales that were built for the tests, and then those of the system.
+    setenv("LOCPATH", KVJXML_LOCALES ":/usr/lib/locale", 1);
     if (std::setlocale(LC_ALL, "") == nullptr) {
         std::fputs("the locale of the environment is not there\n", stderr);
         return 1;

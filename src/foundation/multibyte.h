@@ -1,0 +1,21 @@
+/// @file multibyte.h
+/// Wide text to multibyte text and back, in the process's locale: hosts speak the one, TinyXML the other.
+#ifndef KVJXML_FOUNDATION_MULTIBYTE_H
+#define KVJXML_FOUNDATION_MULTIBYTE_H
+
+#include <cstddef>
+
+namespace kvjxml {
+
+/// Converts up to `length` wide characters to at most `length` bytes, and a NUL when there is room for it, as wcstombs
+/// does. A character that the locale does not know ends the text. Nothing behind a NUL is looked at.
+/// @param bytes  room for `length` bytes, all zero.
+void toMultibyte(const wchar_t* text, std::size_t length, char* bytes) noexcept;
+
+/// Converts a terminated text to at most `capacity` wide characters, the NUL included when there is room for it, as
+/// mbstowcs does. A byte that the locale does not know ends the text.
+void toWide(const char* text, wchar_t* out, std::size_t capacity) noexcept;
+
+}  // namespace kvjxml
+
+#endif

@@ -1,0 +1,8 @@
+// error: type 'bool&?' .*to a value of (unrelated )?type 'int'
+#include "StatusRecords.h"
+#include "foundation/getters.h"
+
+using namespace kvjxml;
+using Kavrin::KVJobStatus;
+
+constexpr auto table = rows<KVJobStatus>({{"copies_done", is<&KVJobStatus::copiesDone, "yes">}});

@@ -1,0 +1,9 @@
+// error: (initialization of reference of type|initializer list argument to) 'const (kvjxml::)?Row<Kavrin::KVJobStatus>
+#include "StatusRecords.h"
+#include "foundation/getters.h"
+
+using namespace kvjxml;
+using Kavrin::KVJobStatus;
+
+constexpr auto general = rows<Kavrin::KVGeneralStatus>({{"warning", number<&Kavrin::KVGeneralStatus::warning>}});
+constexpr auto table = rows<KVJobStatus>({{"status_printing", group<general>}});

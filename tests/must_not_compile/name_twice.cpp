@@ -1,0 +1,12 @@
+// error: a name stands twice in its table
+#include "StatusRecords.h"
+#include "foundation/getters.h"
+
+using namespace kvjxml;
+using Kavrin::KVJobStatus;
+
+constexpr auto table = rows<KVJobStatus>({
+    {"copies_done", number<&KVJobStatus::copiesDone>},
+    {"uuid", text<&KVJobStatus::uuid>},
+    {"copies_done", number<&KVJobStatus::copiesTotalSpecified>},
+});

@@ -1,0 +1,8 @@
+// error: no matching function for call to 'GetNumber
+#include "StatusRecords.h"
+#include "foundation/getters.h"
+
+using namespace kvjxml;
+using Kavrin::KVJobStatus;
+
+constexpr auto table = rows<KVJobStatus>({{"uuid", number<&KVJobStatus::uuid>}});
