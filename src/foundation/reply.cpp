@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "foundation/multibyte.h"
+#include "foundation/shape.h"
 
 namespace kvjxml {
 
@@ -23,6 +24,7 @@ private:
 };
 
 void parse(TiXmlDocument& document, const Copy& text, int tabSize) {
+    if (!isWithin(largestShape, text.bytes(), std::strlen(text.bytes()))) return;
     document.SetTabSize(tabSize);
     // What is wrong with a reply shows in the tree: its root or a value is missing.
     document.Parse(text.bytes(), nullptr, TIXML_ENCODING_UNKNOWN);

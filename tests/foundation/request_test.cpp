@@ -1,0 +1,367 @@
+// How a composed document gets to the host, and into the files beside it.
+#include "foundation/request.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "foundation/locale_scope.h"
+#include "support/files.h"
+#include "support/xml.h"
+
+using kvjxml::tests::contentOf;
+using kvjxml::tests::LocaleScope;
+using kvjxml::tests::TemporaryFolder;
+using kvjxml::tests::wide;
+
+namespace {
+
+const std::string declaration = "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n";
+
+void addText(TiXmlElement* element, const char* text) { element->LinkEndChild(new TiXmlText(text)); }
+
+/// A small request of two levels.
+class Request : public TiXmlDocument {
+public:
+    Request() {
+        TiXmlElement* root = kvjxml::beginRequest(*this, "media");
+        root->SetAttribute("version", 2);
+        TiXmlElement* cards = root->LinkEndChild(new TiXmlElement("cards"))->ToElement();
+        addText(cards->LinkEndChild(new TiXmlElement("name"))->ToElement(), "a & b");
+        cards->LinkEndChild(new TiXmlElement("empty"));
+    }
+};
+
+const std::string requestText = declaration +
+                                "<media version=\"2\">\n"
+                                "    <cards>\n"
+                                "        <name>a &amp; b</name>\n"
+                                "        <empty />\n"
+                                "    </cards>\n"
+                                "</media>\n";
+
+/// What a host's buffer of `capacity` characters holds after printing, with one more on each side; zeros as '0'.
+struct Printed {
+    bool result;
+    std::wstring buffer;
+    bool operator==(const Printed&) const = default;
+};
+
+Printed printed(const TiXmlDocument& request, int capacity, std::size_t room) {
+    std::wstring buffer(room + 2, L'#');
+    const bool result = kvjxml::print(request, &buffer[1], capacity);
+    for (wchar_t& character : buffer) {
+        if (character == L'\0') character = L'0';
+    }
+    return {result, buffer};
+}
+
+TiXmlDocument documentOf(const char* text) {
+    TiXmlDocument request;
+    addText(kvjxml::beginRequest(request, "r"), text);
+    return request;
+}
+
+// ---- Documents ----
+
+TEST(Request, BeginsWithTheDeclarationAndAnEmptyRoot) {
+    TiXmlDocument request;
+    const TiXmlElement* root = kvjxml::beginRequest(request, "configuration");
+    ASSERT_NE(root, nullptr);
+    EXPECT_STREQ(root->Value(), "configuration");
+    EXPECT_EQ(root->GetDocument(), &request);
+    EXPECT_EQ(printed(request, 59, 59), (Printed{true, L"#" + wide(declaration) + L"<configuration />\n0#"}));
+}
+
+TEST(Request, IsIndentedByFourBlanksALevel) {
+    std::vector<char> buffer(1000, '#');
+    EXPECT_TRUE(kvjxml::print(Request(), buffer.data()));
+    EXPECT_STREQ(buffer.data(), requestText.c_str());
+}
+
+TEST(Request, BegunAgainOnOneDocumentStandsBehindTheFirst) {
+    TiXmlDocument request;
+    const TiXmlElement* first = kvjxml::beginRequest(request, "media");
+    const TiXmlElement* second = kvjxml::beginRequest(request, "media");
+    EXPECT_NE(first, second);
+    std::vector<char> buffer(1000, '#');
+    EXPECT_TRUE(kvjxml::print(request, buffer.data()));
+    EXPECT_EQ(std::string(buffer.data()), declaration + "<media />\n" + declaration + "<media />\n");
+}
+
+// ---- Wide text ----
+
+const int length = static_cast<int>(requestText.size());
+
+TEST(PrintWide, TheTextIsTerminatedWhereThereIsRoom) {
+    const std::size_t room = requestText.size() + 10;
+    const Printed expected{true, L"#" + wide(requestText) + L"0" + std::wstring(10, L'#')};
+    EXPECT_EQ(printed(Request(), length + 1, room), expected);
+    EXPECT_EQ(printed(Request(), length + 10, room), expected);
+}
+
+TEST(PrintWide, ATextAsLongAsTheBufferIsNotTerminated) {
+    EXPECT_EQ(printed(Request(), length, requestText.size()), (Printed{true, L"#" + wide(requestText) + L"#"}));
+}
+
+TEST(PrintWide, ATextTooLongIsCutAndNotTerminated) {
+    for (const int capacity : {1, 10, length - 1}) {
+        const std::string begin = requestText.substr(0, static_cast<std::size_t>(capacity));
+        const std::wstring rest(requestText.size() - begin.size(), L'#');
+        EXPECT_EQ(printed(Request(), capacity, requestText.size()), (Printed{true, L"#" + wide(begin) + rest + L"#"}))
+            << capacity;
+    }
+}
+
+TEST(PrintWide, WithoutCapacityNothingIsWritten) {
+    EXPECT_EQ(printed(Request(), 0, 8), (Printed{true, std::wstring(10, L'#')}));
+    EXPECT_EQ(printed(Request(), -1, 8), (Printed{false, std::wstring(10, L'#')}));
+    EXPECT_EQ(printed(Request(), INT32_MIN, 8), (Printed{false, std::wstring(10, L'#')}));
+}
+
+TEST(PrintWide, WithoutABufferItIsFalse) {
+    EXPECT_FALSE(kvjxml::print(Request(), static_cast<wchar_t*>(nullptr), 100));
+    EXPECT_FALSE(kvjxml::print(Request(), static_cast<wchar_t*>(nullptr), 0));
+}
+
+TEST(PrintWide, InAUtf8LocaleACharacterIsOneWideCharacter) {
+    const LocaleScope utf8("C.UTF-8");
+    const std::wstring text = wide(declaration) + L"<r>caf\u00E9 \u20AC \U0001F5A8</r>\n";
+    const TiXmlDocument request = documentOf("caf\xC3\xA9 \xE2\x82\xAC \xF0\x9F\x96\xA8");
+    EXPECT_EQ(printed(request, 100, text.size()), (Printed{true, L"#" + text + L"0"}));
+    EXPECT_EQ(printed(request, static_cast<int>(text.size()), text.size()), (Printed{true, L"#" + text + L"#"}));
+}
+
+TEST(PrintWide, InAnAsciiLocaleTheTextEndsBeforeAnyOtherCharacter) {
+    const LocaleScope ascii("C");
+    EXPECT_EQ(printed(documentOf("caf\xC3\xA9!"), 100, 60),
+              (Printed{true, L"#" + wide(declaration) + L"<r>caf" + std::wstring(61 - declaration.size() - 6, L'#')}));
+}
+
+TEST(PrintWide, InAUtf8LocaleABrokenCharacterEndsTheText) {
+    const LocaleScope utf8("C.UTF-8");
+    EXPECT_EQ(printed(documentOf("caf\xE9!"), 100, 60),
+              (Printed{true, L"#" + wide(declaration) + L"<r>caf" + std::wstring(61 - declaration.size() - 6, L'#')}));
+}
+
+// ---- Narrow text ----
+
+TEST(PrintNarrow, TheTextIsWrittenWithItsTerminatorAndNoMore) {
+    std::string buffer(requestText.size() + 3, '#');
+    EXPECT_TRUE(kvjxml::print(Request(), &buffer[1]));
+    EXPECT_EQ(buffer, "#" + requestText + '\0' + "#");
+}
+
+TEST(PrintNarrow, BytesBeyondAsciiAreWrittenAsTheyAreInAnyLocale) {
+    for (const char* locale : {"C", "C.UTF-8"}) {
+        const LocaleScope scope(locale);
+        std::vector<char> buffer(1000, '#');
+        EXPECT_TRUE(kvjxml::print(documentOf("caf\xC3\xA9 \xE9"), buffer.data()));
+        EXPECT_EQ(std::string(buffer.data()), declaration + "<r>caf\xC3\xA9 \xE9</r>\n") << locale;
+    }
+}
+
+TEST(PrintNarrow, WithoutABufferItIsFalse) { EXPECT_FALSE(kvjxml::print(Request(), nullptr)); }
+
+// ---- Files ----
+
+TEST(Save, WritesTheDocument) {
+    const TemporaryFolder folder;
+    const std::filesystem::path path = folder / "request.xml";
+    EXPECT_TRUE(kvjxml::save(Request(), path.c_str()));
+    EXPECT_EQ(contentOf(path), requestText);
+}
+
+TEST(Save, ReplacesALongerFile) {
+    const TemporaryFolder folder;
+    const std::filesystem::path path = folder / "request.xml";
+    kvjxml::tests::write(path, std::string(5000, 'z'));
+    EXPECT_TRUE(kvjxml::save(Request(), path.c_str()));
+    EXPECT_EQ(contentOf(path), requestText);
+}
+
+TEST(Save, WithoutAFileToWriteItIsFalse) {
+    const TemporaryFolder folder;
+    EXPECT_FALSE(kvjxml::save(Request(), nullptr));
+    EXPECT_FALSE(kvjxml::save(Request(), ""));
+    EXPECT_FALSE(kvjxml::save(Request(), (folder / "").c_str()));
+    EXPECT_FALSE(kvjxml::save(Request(), (folder / "missing/request.xml").c_str()));
+}
+
+// ---- Diagnostic copies ----
+
+mode_t modeOf(const std::filesystem::path& path) {
+    struct stat status {};
+    if (lstat(path.c_str(), &status) != 0) throw std::runtime_error("no file " + path.string());
+    return status.st_mode & 07777;
+}
+
+class UmaskScope {
+public:
+    explicit UmaskScope(mode_t mask) : before_(umask(mask)) {}
+    ~UmaskScope() { umask(before_); }
+    UmaskScope(const UmaskScope&) = delete;
+    UmaskScope& operator=(const UmaskScope&) = delete;
+
+private:
+    mode_t before_;
+};
+
+/// No file of this process can grow while this lives.
+class NoRoomForFiles {
+public:
+    NoRoomForFiles() : signalBefore_(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit none{0, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &none);
+    }
+    ~NoRoomForFiles() {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, signalBefore_);
+    }
+    NoRoomForFiles(const NoRoomForFiles&) = delete;
+    NoRoomForFiles& operator=(const NoRoomForFiles&) = delete;
+
+private:
+    rlimit before_{};
+    void (*signalBefore_)(int);
+};
+
+class DiagnosticCopy : public testing::Test {
+protected:
+    TemporaryFolder folder;
+    std::filesystem::path path = folder / "settings";
+    std::filesystem::path other = folder / "other";
+
+    void keep() const { kvjxml::keepDiagnosticCopy(Request(), path.c_str()); }
+};
+
+TEST_F(DiagnosticCopy, IsTheDocument) {
+    keep();
+    EXPECT_EQ(contentOf(path), requestText);
+}
+
+TEST_F(DiagnosticCopy, IsReadableByItsOwnerAloneWhateverTheUmask) {
+    const UmaskScope open(0);
+    keep();
+    EXPECT_EQ(modeOf(path), mode_t{0600});
+}
+
+TEST_F(DiagnosticCopy, IsReadableByItsOwnerUnderATightUmask) {
+    const UmaskScope tight(0777);
+    keep();
+    EXPECT_EQ(modeOf(path), mode_t{0600});
+}
+
+TEST_F(DiagnosticCopy, ReplacesALongerOneThatEveryoneCouldRead) {
+    kvjxml::tests::write(path, std::string(5000, 'z'));
+    std::filesystem::permissions(path, std::filesystem::perms{0644});
+    keep();
+    EXPECT_EQ(contentOf(path), requestText);
+    EXPECT_EQ(modeOf(path), mode_t{0600});
+}
+
+TEST_F(DiagnosticCopy, ALinkIsNotFollowed) {
+    kvjxml::tests::write(other, "precious");
+    std::filesystem::permissions(other, std::filesystem::perms{0644});
+    std::filesystem::create_symlink(other, path);
+    keep();
+    EXPECT_EQ(contentOf(other), "precious");
+    EXPECT_EQ(modeOf(other), mode_t{0644});
+    EXPECT_TRUE(std::filesystem::is_symlink(path));
+}
+
+TEST_F(DiagnosticCopy, ALinkToNothingCreatesNothing) {
+    std::filesystem::create_symlink(other, path);
+    keep();
+    EXPECT_FALSE(std::filesystem::exists(other));
+    EXPECT_TRUE(std::filesystem::is_symlink(path));
+}
+
+TEST_F(DiagnosticCopy, AFileWithASecondNameIsNotTouched) {
+    kvjxml::tests::write(other, "precious");
+    std::filesystem::permissions(other, std::filesystem::perms{0644});
+    std::filesystem::create_hard_link(other, path);
+    keep();
+    EXPECT_EQ(contentOf(other), "precious");
+    EXPECT_EQ(modeOf(other), mode_t{0644});
+}
+
+TEST_F(DiagnosticCopy, AFileOfAnotherUserIsNotTouched) {
+    if (geteuid() != 0) GTEST_SKIP() << "only root can give a file away";
+    kvjxml::tests::write(path, "precious");
+    std::filesystem::permissions(path, std::filesystem::perms{0644});
+    ASSERT_EQ(chown(path.c_str(), 65534, 65534), 0);
+    keep();
+    EXPECT_EQ(contentOf(path), "precious");
+    EXPECT_EQ(modeOf(path), mode_t{0644});
+}
+
+TEST_F(DiagnosticCopy, AFolderIsNotTouched) {
+    std::filesystem::create_directory(path);
+    std::filesystem::permissions(path, std::filesystem::perms{0755});
+    keep();
+    EXPECT_TRUE(std::filesystem::is_empty(path));
+    EXPECT_EQ(modeOf(path), mode_t{0755});
+}
+
+TEST_F(DiagnosticCopy, APipeThatNobodyReadsDoesNotBlock) {
+    ASSERT_EQ(mkfifo(path.c_str(), 0644), 0);
+    keep();
+    EXPECT_TRUE(std::filesystem::is_fifo(path));
+}
+
+TEST_F(DiagnosticCopy, APipeThatSomebodyReadsIsNotTouched) {
+    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+    std::filesystem::permissions(path, std::filesystem::perms{0644});
+    const int reader = open(path.c_str(), O_RDONLY | O_NONBLOCK);
+    ASSERT_GE(reader, 0);
+    keep();
+    char byte = 0;
+    EXPECT_EQ(read(reader, &byte, 1), 0);
+    EXPECT_EQ(modeOf(path), mode_t{0644});
+    close(reader);
+}
+
+TEST_F(DiagnosticCopy, AMissingFolderStaysMissing) {
+    kvjxml::keepDiagnosticCopy(Request(), (folder / "missing/settings").c_str());
+    EXPECT_FALSE(std::filesystem::exists(folder / "missing"));
+}
+
+TEST_F(DiagnosticCopy, ADiskWithoutRoomIsNoMatter) {
+    kvjxml::tests::write(path, "old");
+    testing::internal::CaptureStderr();
+    {
+        const NoRoomForFiles scope;
+        keep();
+    }
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_EQ(contentOf(path), "");
+}
+
+TEST_F(DiagnosticCopy, KeepsNoFileOpen) {
+    const auto openFiles = [] {
+        return std::distance(std::filesystem::directory_iterator("/proc/self/fd"),
+                             std::filesystem::directory_iterator());
+    };
+    const auto before = openFiles();
+    keep();
+    std::filesystem::remove(path);
+    std::filesystem::create_directory(path);
+    keep();
+    std::filesystem::remove(path);
+    ASSERT_EQ(mkfifo(path.c_str(), 0644), 0);
+    keep();
+    EXPECT_EQ(openFiles(), before);
+}
+
+}  // namespace
