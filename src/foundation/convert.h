@@ -1,6 +1,7 @@
 /// @file convert.h
-/// What the printer's texts mean as numbers, truth words and addresses, and how these are written. No XML here. Every conversion is that of the C function it names, in the "C" locale: a printer knows nothing
-/// of the decimal comma that the host may be set to.
+/// What the printer's texts mean as numbers, truth words and addresses, and how these are written. No XML here. Every
+/// conversion is that of the C function it names, in the "C" locale: a printer knows nothing of the decimal comma that
+/// the host may be set to.
 #ifndef KVJXML_FOUNDATION_CONVERT_H
 #define KVJXML_FOUNDATION_CONVERT_H
 
