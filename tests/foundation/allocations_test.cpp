@@ -3,39 +3,13 @@
 #include <tinyxml.h>
 
 #include <cstdint>
-#include <cstdlib>
-#include <cstring>
-#include <new>
 #include <string>
 
 #include "KVJHelper.h"
+#include "foundation/counted_allocations.h"
 #include "foundation/name.h"
 #include "foundation/reply.h"
 #include "support/xml.h"
-
-namespace {
-
-std::size_t allocations = 0;
-
-/// What stands behind everything that is allocated, so that a parser that goes on behind its text finds elements there.
-constexpr char behind[] = "<b/><b/><b/>";
-
-void* allocate(std::size_t size) {
-    ++allocations;
-    void* memory = std::malloc(size + sizeof(behind));
-    if (memory == nullptr) throw std::bad_alloc();
-    std::memcpy(static_cast<char*>(memory) + size, behind, sizeof(behind));
-    return memory;
-}
-
-}  // namespace
-
-void* operator new(std::size_t size) { return allocate(size); }
-void* operator new[](std::size_t size) { return allocate(size); }
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete[](void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t /*size*/) noexcept { std::free(memory); }
-void operator delete[](void* memory, std::size_t /*size*/) noexcept { std::free(memory); }
 
 namespace {
 
@@ -45,9 +19,9 @@ using kvjxml::tests::Xml;
 
 template <class Action>
 std::size_t allocationsOf(Action action) {
-    const std::size_t before = allocations;
+    const std::size_t before = allocations();
     action();
-    return allocations - before;
+    return allocations() - before;
 }
 
 TEST(Allocations, AreCountedInTinyXmlToo) {
