@@ -21,7 +21,7 @@ class TiXmlElement;
 /// by the word readers, as an unknown word).
 class KVJXML_API KVJHelper {
 public:
-    // ---- Element text to value -------------------------------------------------------------------------------------
+    // ---- Element text to value ----
     // True when the element had text, whether or not the text made sense; false, and `value` as it was, when it had
     // none. A text that is no number reads as 0, what follows a number is ignored, and a number too large for its type
     // wraps. The trailing bool has no effect.
@@ -58,7 +58,7 @@ public:
     /// @return true when the element had text; false, and the buffer as it was, when it had none or is null.
     static bool GetPhysicalAddress(TiXmlElement* element, unsigned char* address);
 
-    // ---- Attribute to value ----------------------------------------------------------------------------------------
+    // ---- Attribute to value ----
 
     /// Reads an integer attribute, as sscanf with "%d" does. False and untouched when the attribute is missing or does
     /// not begin with a number.
@@ -79,7 +79,7 @@ public:
     /// Reserved: always false, and writes nothing. Readers that need an IPv4 address convert the element's text.
     static bool GetIP(TiXmlElement* element, char* name, unsigned long& address);
 
-    // ---- Value to element ------------------------------------------------------------------------------------------
+    // ---- Value to element ----
     // Each appends one child element `name` to `parent`, which owns it, with one text node. False, and nothing made,
     // when `parent`, `name` or a value that is a pointer is null.
 
@@ -114,7 +114,7 @@ public:
     /// Sets a decimal integer attribute of the element itself. False when the element or the name is null.
     static bool AddTagAttrib(TiXmlElement* element, char* name, int value);
 
-    // ---- Word to code ----------------------------------------------------------------------------------------------
+    // ---- Word to code ----
     // Each looks a NUL-terminated word up in a fixed table and returns its code, or the table's default for any other
     // word. Case counts, and the whole word has to match, unless the table says otherwise.
 

@@ -31,8 +31,37 @@ public:
     bool ParseStatus(const wchar_t& reply, int length, KVGeneralStatus& status);
     /// Reads the reply "get_job_status".
     bool ParseJobStatus(const wchar_t& reply, int length, KVJobStatus& status);
+    /// Reads the reply "get_media_status".
+    bool ParseMediaStatus(const wchar_t& reply, int length, MediaStatus& status);
+    /// Reads the reply "get_job_list". Set `list.count` before, see KVJobList. A list without jobs is false, with a
+    /// `count` of 0.
+    bool ParseJobList(const wchar_t& reply, int length, KVJobList& list);
+    /// Reads the card counters of the reply "get_count", which may carry the count of ParseCleanLogCount as well.
+    bool ParseCardCount(const wchar_t& reply, int length, KVCardCount& counts);
+    /// Reads the reply "get_laminator_up_times".
+    bool ParseUpTime(const wchar_t& reply, int length, KVUpTimes& times);
+    /// Reads the reply "get_free_ram".
+    bool GetPrinterFreeSpace(const wchar_t& reply, int length, __MEMORY& memory);
+    /// Reads the reply "get_free_flash".
+    bool GetFlashFreeSpace(const wchar_t& reply, int length, __MEMORY& memory);
+    /// Reads the reply "get_cleaning_status".
+    bool ParseCleaningStatus(const wchar_t& reply, int length, KVCleaningStatus& status);
+    /// Reads "total_cards_until_next_cleaning", a number of cards, from the reply "get_count".
+    bool ParseCleanLogCount(const wchar_t& reply, int length, int& cards);
+    /// Reads the reply "get_sensor_status"; KVJSensorParser reads other parts of the same reply.
+    bool ParseSensorStatus(const wchar_t& reply, int length, _SENSOR& sensors);
+    /// Reads the reply "get_wireless_status".
+    bool ParseWirelessStatusXML(const wchar_t& reply, int length, _tagWirelessStatus& status);
+    /// Reads the reply "get_wireless_radio_status".
+    bool ParseWirlessRadioXML(const wchar_t& reply, int length, _tagWirelessRadioStatus& status);
+    /// Reads the reply "AccessPoints", in two calls. With `list.accessPoints` null it sets `list.count` to the number
+    /// of elements in the reply and is true. With an array of at least so many entries it sets the count again, fills
+    /// the entries from index 0 on, and its result is that of the last one, false when there is none.
+    ///
+    /// Pass the **same reply** to both: the array is not measured otherwise.
+    bool ParseAccessPoints(const wchar_t& reply, int length, _tagAccessPoints& list);
 
-    // ---- Walkers: the same, for a host that holds the element already. A null element gives false. ------------------
+    // ---- Walkers: the same, for a host that holds the element already. A null element gives false. ----
 
     /// Reads the children of a "get_general_status" element.
     bool parseStatus(TiXmlElement* element, KVGeneralStatus& status);
@@ -43,9 +72,62 @@ public:
     /// Reads the children of a "status_mag", "status_contact" or "status_contactless" element: any of "mag_state",
     /// "contact_state" and "contactless_state", whichever group it stands in.
     bool getStatus(TiXmlElement* element, KVJobStatus& status);
+    /// Reads the children of a "get_media_status" element.
+    bool parseMediaStatus(TiXmlElement* element, MediaStatus& status);
+    /// Reads the children of a "ribbon" element into `status.ribbon`.
+    bool getRibbonStatus(TiXmlElement* element, MediaStatus& status);
+    /// Reads the children of a "film" element into `status.film`.
+    bool getInTMStatus(TiXmlElement* element, MediaStatus& status);
+    /// Reads the children of a "top_laminate" or "bottom_laminate" element. Its "type" goes to `laminate.code`.
+    bool getLaminateStatus(TiXmlElement* element, _MediaStatusInfo& laminate);
+    /// Appends the texts of the "panel" children of a "sequence" element, without a separator, to `description`.
+    /// @param description  a terminated text in a buffer of 32 characters. What does not fit is cut, and the read of
+    /// that
+    ///                     panel is false; so is the whole when `description` is null.
+    /// @return the result of the last panel; false when there is none.
+    bool getRibbonDescription(TiXmlElement* element, char* description);
+    /// Reads the children of a "get_job_list" element; see ParseJobList.
+    bool parseJobList(TiXmlElement* element, KVJobList& list);
+    /// Reads the children of a "job" element.
+    bool parseJobInfo(TiXmlElement* element, _KVJobInfo& job);
+    /// Reads the card counters among the children of a "get_count" element.
+    bool parseCardCount(TiXmlElement* element, KVCardCount& counts);
+    /// Reads the children of a "get_laminator_up_times" element.
+    bool parseUpTime(TiXmlElement* element, KVUpTimes& times);
+    /// Reads the children of a "get_free_ram" or "get_free_flash" element.
+    bool getFreeSpace(TiXmlElement* element, __MEMORY& memory);
+    /// Reads "total_cards_until_next_cleaning" among the children of a "get_count" element.
+    bool parseCleanLog(TiXmlElement* element, int& cards);
+    /// Reads the children of a "get_sensor_status" element.
+    bool parseSensorStatus(TiXmlElement* element, _SENSOR& sensors);
+    /// Reads the children of a "sensor_states" element.
+    bool parseSensorState(TiXmlElement* element, _SENSOR& sensors);
+    /// Reads the children of a "sensor_values" element.
+    bool parseSensorValue(TiXmlElement* element, _SENSOR& sensors);
+    /// Reads the children of a "get_wireless_status" element.
+    bool parseWirelessStatus(TiXmlElement* element, _tagWirelessStatus& status);
+    /// Reads the children of an "in" or "out" element.
+    bool ParsePacketsInfo(TiXmlElement* element, _tagPackets& packets);
+    /// Reads the children of a "get_wireless_radio_status" element.
+    bool parseWirelessRadioStatus(TiXmlElement* element, _tagWirelessRadioStatus& status);
+    /// Reads the children of an "AccessPoints" element; see ParseAccessPoints.
+    bool parseAllWirelessAccessPoint(TiXmlElement* element, _tagAccessPoints& list);
+    /// Reads the children of an "AccessPoint" element.
+    bool parseWirelessAccessPoints(TiXmlElement* element, _tagAccessPoint& accessPoint);
 
-    // ---- Words to codes: a NUL-terminated word, compared with case
-    // ---------------------------------------------------
+    // ---- Elements whose words are combined ----
+    // True when the element has text, whether or not its word is known. The code is OR-ed into `codes`, which the host
+    // sets to zero before: a second reading without that combines the codes. Only these spellings are known.
+
+    /// The security of a wireless network: "open" and "none" 0, "WEP", "wep", "WEP40" and "wep40" 1, "WEP104" and
+    /// "wep104" 2, "WPA" and "wpa" 3, "WPA2" and "wpa2" 4, "WPA_WPA2", "WPA2_WPA", "wpa_wpa2" and "wpa2_wpa" 5; any
+    /// other word adds nothing.
+    bool GetSecurity(TiXmlElement* element, unsigned int& codes);
+    /// The cipher of a wireless network: "none" 0, "RC4" and "rc4" 1, "TKIP" and "tkip" 2, "CCMP" and "ccmp" 3,
+    /// "TKIP_CCMP", "CCMP_TKIP", "tkip_ccmp" and "ccmp_tkip" 4; any other word adds nothing.
+    bool GetCrypto(TiXmlElement* element, unsigned int& codes);
+
+    // ---- Words to codes: a NUL-terminated word, compared with case ----
 
     /// The state of the printer: "initializing" 1, "idle" 2, "xfer_rollers_heating" and "printing_heating" 3,
     /// "standby" 4, "printing" 5, "alarm_handling" 6, "offline" 7, "canceling" 8, "temp_out_of_range" 9, "mag_ops" 10,
@@ -66,6 +148,13 @@ public:
     /// "transferring" 38, "laminate" 39, "laminate_insert" 40, "laminating" 41, "waiting_printer" 42, "printing" 43;
     /// any other word -1.
     int jobStatusToInt(char* word);
+    /// The state of a cleaning: "cleaning" 0, "start_cleaning" 1, "remove_ribbon" 2, "remove_cards" 3,
+    /// "remove_ribbon_and_cards" 4, "insert_cleaning_card" 5, "reload_ribbon" 6, "reload_ribbon_and_cards" 7,
+    /// "cleaning_aborted" 8, "cleaning_not_in_progress" 9; any other word 10.
+    int cleaningStateToInt(char* word);
+    /// The state of the wireless link: "off" 0, "disconnected" 1, "inactive" 2, "scanning" 3, "associating" 4,
+    /// "associated" 5, "handshake" 6, "connected" 7; any other word 0.
+    int GetWirelessState(char* word);
 };
 
 }  // namespace Kavrin

@@ -5,7 +5,12 @@
 #define KVJXML_H
 
 #include "FoundationRecords.h"
+#include "IdentityRecords.h"
+#include "KVJGetEIN.h"
 #include "KVJHelper.h"
+#include "KVJLogParser.h"
+#include "KVJNDC.h"
+#include "KVJSensorParser.h"
 #include "KVJStatusParser.h"
 #include "StatusRecords.h"
 #include "kvjxml_export.h"

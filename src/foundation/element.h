@@ -1,9 +1,11 @@
 /// @file element.h
-/// The text of an element, as the whole vocabulary understands it.
+/// What the whole vocabulary asks of an element beside its name: its text, and how many children it has.
 #ifndef KVJXML_FOUNDATION_ELEMENT_H
 #define KVJXML_FOUNDATION_ELEMENT_H
 
 #include <tinyxml.h>
+
+#include <cstddef>
 
 namespace kvjxml {
 
@@ -12,6 +14,14 @@ namespace kvjxml {
 inline const char* textOf(const TiXmlElement* element) {
     const TiXmlNode* first = element == nullptr ? nullptr : element->FirstChild();
     return first == nullptr ? nullptr : first->Value();
+}
+
+/// How many child elements an element has, of whatever name; a null element has none.
+inline std::size_t countChildren(const TiXmlElement* element) {
+    std::size_t count = 0;
+    const TiXmlElement* child = element == nullptr ? nullptr : element->FirstChildElement();
+    for (; child != nullptr; child = child->NextSiblingElement()) ++count;
+    return count;
 }
 
 }  // namespace kvjxml

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <span>
 #include <string_view>
 #include <type_traits>
 
@@ -44,7 +45,7 @@ inline constexpr Getter<RecordOf<Member>> text{
 /// field is left alone.
 template <auto Member, const auto& Table>
 inline constexpr Getter<RecordOf<Member>> word{
-    {.field = nameOf<Member>(), .conversion = "word", .tableName = nameOfTable<Table>(), .table = Table},
+    {.field = nameOf<Member>(), .conversion = "code of the word", .tableName = nameOfTable<Table>(), .table = Table},
     [](TiXmlElement* element, RecordOf<Member>& record) {
         const char* content = textOf(element);
         if (content == nullptr) return false;
@@ -59,19 +60,52 @@ struct Literal {
     char characters[N]{};
 };
 
-/// The word of a flag. A copy, since clang++ exports the object that stands for a template argument from the library.
+/// Such a word to point to. A copy, since clang++ exports the object that stands for a template argument from the
+/// library.
 template <Literal Word>
-inline constexpr Literal flagWord = Word;
+inline constexpr Literal literal = Word;
 
-/// A flag that is true for exactly one word. Without text it is stored as false.
-template <auto Member, Literal Word>
+enum class WithoutText { isFalse, isKept };
+
+/// A flag that is true for exactly one word. Without text it is stored as false, or kept as it was.
+template <auto Member, Literal Word, WithoutText Otherwise = WithoutText::isFalse>
 inline constexpr Getter<RecordOf<Member>> is{
-    {.field = nameOf<Member>(), .conversion = "true for exactly", .argument = flagWord<Word>.characters},
+    {.field = nameOf<Member>(), .conversion = "true for exactly", .argument = literal<Word>.characters},
     [](TiXmlElement* element, RecordOf<Member>& record) {
         bool& flag = record.*Member;
         const char* content = textOf(element);
-        flag = content != nullptr && convert::equal(content, flagWord<Word>.characters);
+        if (content != nullptr || Otherwise == WithoutText::isFalse) {
+            flag = content != nullptr && convert::equal(content, literal<Word>.characters);
+        }
         return content != nullptr;
+    }};
+
+/// A flag that is false for exactly one word and true for any other. Without text it is kept as it was.
+template <auto Member, Literal Word>
+inline constexpr Getter<RecordOf<Member>> isNot{
+    {.field = nameOf<Member>(), .conversion = "false for exactly", .argument = literal<Word>.characters},
+    [](TiXmlElement* element, RecordOf<Member>& record) {
+        bool& flag = record.*Member;
+        const char* content = textOf(element);
+        if (content != nullptr) flag = !convert::equal(content, literal<Word>.characters);
+        return content != nullptr;
+    }};
+
+/// An integer attribute of the element; its text does not count.
+template <auto Member, Literal Name>
+inline constexpr Getter<RecordOf<Member>> attribute{
+    {.field = nameOf<Member>(), .conversion = "attribute", .argument = literal<Name>.characters},
+    [](TiXmlElement* element, RecordOf<Member>& record) {
+        auto name = literal<Name>;  // The getter takes names that it could write to.
+        return KVJHelper::GetInt(element, name.characters, record.*Member);
+    }};
+
+/// Six bytes, as KVJHelper::GetPhysicalAddress reads them.
+template <auto Member>
+inline constexpr Getter<RecordOf<Member>> hardwareAddress{
+    {nameOf<Member>(), "hardware address"}, [](TiXmlElement* element, RecordOf<Member>& record) {
+        static_assert(sizeof(ValueOf<Member>) == sizeof(convert::HardwareAddress));
+        return KVJHelper::GetPhysicalAddress(element, record.*Member);
     }};
 
 /// A bit set in hexadecimal behind a literal "0x"; any other text leaves it alone and counts as read.
@@ -94,6 +128,36 @@ template <const auto& Table>
 inline constexpr Getter<RecordOfTable<Table>> group{
     {.field = {}, .conversion = "group", .group = described<Table>},
     [](TiXmlElement* element, RecordOfTable<Table>& record) { return walk(element, record, Table); }};
+
+/// A group of elements, walked with a table of its own into a record inside the record.
+template <auto Member, const auto& Table>
+inline constexpr Getter<RecordOf<Member>> part{
+    {.field = nameOf<Member>(), .conversion = "group", .group = described<Table>},
+    [](TiXmlElement* element, RecordOf<Member>& record) { return walk(element, record.*Member, Table); }};
+
+/// A number that is all that is read: the record is the number.
+template <class Number>
+inline constexpr Getter<Number> itself{{{}, numberKind<Number>}, [](TiXmlElement* element, Number& number) {
+                                           return KVJHelper::GetNumber(element, number);
+                                       }};
+
+/// A list being filled: entries of the host's, as many as it has room for.
+template <class Entry>
+struct List {
+    std::span<Entry> entries;
+    std::size_t filled = 0;
+    bool result = false;  ///< that of the last entry
+};
+
+/// One more entry of a list, walked with a table of its own. When there is no room it is skipped: nothing is written,
+/// and the result stays that of the last entry.
+template <const auto& Table>
+inline constexpr Getter<List<RecordOfTable<Table>>> entry{
+    {.field = {}, .conversion = "entry of a list", .group = described<Table>},
+    [](TiXmlElement* element, List<RecordOfTable<Table>>& list) {
+        if (list.filled < list.entries.size()) list.result = walk(element, list.entries[list.filled++], Table);
+        return list.result;
+    }};
 
 }  // namespace kvjxml
 

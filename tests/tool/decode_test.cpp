@@ -14,6 +14,7 @@ using kvjxml::tests::runTool;
 using kvjxml::tests::TemporaryFolder;
 using nlohmann::json;
 using testing::HasSubstr;
+using testing::Not;
 
 const std::string sample = std::string(KVJXML_REPLIES) + "/get_job_status.xml";
 
@@ -145,6 +146,153 @@ TEST(Decode, ATextCutInsideACharacterStillPrintsAsJson) {
         runTool("decode", "<get_job_status><uuid>" + std::string(38, 'x') + "\xC3\xAB</uuid></get_job_status>");
     EXPECT_EQ(outcome.code, 4);
     EXPECT_EQ(recordOf(outcome).at("uuid"), std::string(38, 'x') + "\xEF\xBF\xBD");
+}
+
+// ---- Replies that several readers take their part of ----
+
+const std::string voltageOnly =
+    "<get_sensor_status><sensor_values><voltage_24>24.35</voltage_24></sensor_values></get_sensor_status>";
+
+TEST(Decode, EveryReaderOfAReplyHasItsRecordUnderItsName) {
+    const Outcome outcome =
+        runTool("decode",
+                "<get_count><total_cards_done>31544</total_cards_done>"
+                "<total_cards_until_next_cleaning>456</total_cards_until_next_cleaning></get_count>");
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(outcome.error, "");
+    EXPECT_EQ(recordOf(outcome),
+              (json{{"ParseCardCount",
+                     {{"totalCardsDone", 31544}, {"laminatorCardsLaminated", 0}, {"laminatorCardsProcessed", 0}}},
+                    {"ParseCleanLogCount", 456}}));
+}
+
+TEST(Decode, OneReaderThatReadSomethingIsEnoughAndTheOthersSaySo) {
+    const Outcome outcome = runTool("decode", voltageOnly);
+    EXPECT_EQ(outcome.code, 0);
+    const json records = recordOf(outcome);
+    EXPECT_EQ(records.size(), 3U);
+    EXPECT_EQ(records.at("ParseSensorInfo").at("headOpen"), 0);
+    EXPECT_EQ(records.at("ParseSensorStates").at("doorOpen"), "");
+    EXPECT_THAT(outcome.error, Not(HasSubstr("ParseSensorStatus")));
+    EXPECT_THAT(outcome.error, HasSubstr("kvjxml: standard input: ParseSensorInfo reported failure"));
+    EXPECT_THAT(outcome.error, HasSubstr("kvjxml: standard input: ParseSensorStates reported failure"));
+}
+
+TEST(Decode, OnlyTheLastReaderHavingReadSomethingIsEnough) {
+    const Outcome outcome = runTool(
+        "decode", "<get_count><total_cards_until_next_cleaning>456</total_cards_until_next_cleaning></get_count>");
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(recordOf(outcome).at("ParseCleanLogCount"), 456);
+    EXPECT_THAT(outcome.error, HasSubstr("ParseCardCount reported failure"));
+}
+
+TEST(Decode, NoReaderHavingReadAnythingIsCode4AndEveryRecordIsPrinted) {
+    const Outcome outcome = runTool("decode", "<get_count><total_cards_rejected>31</total_cards_rejected></get_count>");
+    EXPECT_EQ(outcome.code, 4);
+    EXPECT_EQ(recordOf(outcome),
+              (json{{"ParseCardCount",
+                     {{"totalCardsDone", 0}, {"laminatorCardsLaminated", 0}, {"laminatorCardsProcessed", 0}}},
+                    {"ParseCleanLogCount", 0}}));
+    EXPECT_THAT(outcome.error, HasSubstr("ParseCardCount reported failure"));
+    EXPECT_THAT(outcome.error, HasSubstr("ParseCleanLogCount reported failure"));
+}
+
+// ---- Lists ----
+
+/// A root with `count` entries of this name, each with one element that holds its number from 1 on.
+std::string listReply(const std::string& root, const std::string& entry, const std::string& element, int count) {
+    std::string text = "<" + root + ">";
+    for (int number = 1; number <= count; ++number) {
+        text += "<" + entry + "><" + element + ">" + std::to_string(number) + "</" + element + "></" + entry + ">";
+    }
+    return text + "</" + root + ">";
+}
+
+/// `list` has as many entries as there are numbers from 1 to `count`, in this order.
+void expectNumbered(const json& list, const std::string& field, int count) {
+    ASSERT_EQ(list.size(), static_cast<std::size_t>(count));
+    for (int number = 1; number <= count; ++number) {
+        EXPECT_EQ(list[static_cast<std::size_t>(number - 1)].at(field), number);
+    }
+}
+
+TEST(Decode, OfALongJobListTheFirst64JobsArePrinted) {
+    const Outcome outcome = runTool("decode", listReply("get_job_list", "job", "action_id", 70));
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(recordOf(outcome).at("count"), 64);
+    expectNumbered(recordOf(outcome).at("jobs"), "actionId", 64);
+}
+
+TEST(Decode, AJobListWithoutJobsIsEmptyAndCode4) {
+    const Outcome outcome = runTool("decode", "<get_job_list/>");
+    EXPECT_EQ(outcome.code, 4);
+    EXPECT_EQ(recordOf(outcome), (json{{"count", 0}, {"jobs", json::array()}}));
+}
+
+TEST(Decode, EveryAccessPointIsPrinted) {
+    const Outcome outcome = runTool("decode", listReply("AccessPoints", "AccessPoint", "Channel", 70));
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(recordOf(outcome).at("count"), 70);
+    expectNumbered(recordOf(outcome).at("accessPoints"), "Channel", 70);
+}
+
+TEST(Decode, EveryEntryOfTheServiceHistoryIsPrinted) {
+    const Outcome outcome = runTool("decode", listReply("get_log_service_history", "service", "number", 70));
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(recordOf(outcome).at("count"), 70);
+    expectNumbered(recordOf(outcome).at("entries"), "number", 70);
+}
+
+TEST(Decode, OfTheCleaningHistoryOnlyEntriesThatWereFilledArePrinted) {
+    for (const int count : {1, 5, 32}) {
+        const Outcome outcome = runTool("decode", listReply("get_log_cleaning_history", "cleaning", "number", count));
+        EXPECT_EQ(outcome.code, 0);
+        expectNumbered(recordOf(outcome), "number", count);
+    }
+    const Outcome full = runTool("decode", listReply("get_log_cleaning_history", "cleaning", "number", 40));
+    EXPECT_EQ(full.code, 0);
+    expectNumbered(recordOf(full), "number", 32);
+}
+
+TEST(Decode, AnEmptyEntryOfTheCleaningHistoryBetweenOthersIsPrinted) {
+    const Outcome outcome = runTool("decode",
+                                    "<get_log_cleaning_history><cleaning/><cleaning><type>2</type></cleaning>"
+                                    "</get_log_cleaning_history>");
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(recordOf(outcome),
+              (json{{{"number", 0}, {"cards", 0}, {"type", 0}}, {{"number", 0}, {"cards", 0}, {"type", 2}}}));
+}
+
+TEST(Decode, ACleaningHistoryWithoutEntriesIsAnEmptyListAndCode4) {
+    const Outcome outcome = runTool("decode", "<get_log_cleaning_history/>");
+    EXPECT_EQ(outcome.code, 4);
+    EXPECT_EQ(recordOf(outcome), json::array());
+}
+
+// ---- Values ----
+
+TEST(Decode, ANumberWithADecimalPointHasTheDigitsOfTheReply) {
+    EXPECT_THAT(runTool("decode", voltageOnly).out, HasSubstr("\"voltage24\": 24.35,\n"));
+}
+
+TEST(Decode, AHardwareAddressIsText) {
+    const Outcome outcome =
+        runTool("decode", "<AccessPoints><AccessPoint><BSSID>00:1A:2b:3C:4d:5E</BSSID></AccessPoint></AccessPoints>");
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(recordOf(outcome).at("accessPoints").at(0).at("BSSID"), "00:1a:2b:3c:4d:5e");
+}
+
+// ---- The command line ----
+
+TEST(Decode, AListHasNoEntriesForElementsOfOtherNames) {
+    const Outcome points =
+        runTool("decode", "<AccessPoints><AccessPoint><Channel>6</Channel></AccessPoint><scan/></AccessPoints>");
+    EXPECT_EQ(recordOf(points).at("count"), 2);
+    EXPECT_EQ(recordOf(points).at("accessPoints").size(), 1U);
+    const Outcome log = runTool(
+        "decode", "<get_log_service_history><service><year>2024</year></service><next/></get_log_service_history>");
+    EXPECT_EQ(recordOf(log).at("count"), 2);
+    EXPECT_EQ(recordOf(log).at("entries").size(), 1U);
 }
 
 TEST(Decode, HelpShowsTheExitCodes) {

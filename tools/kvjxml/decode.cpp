@@ -52,16 +52,17 @@ ExitCode decode(const std::string& path, const std::string& message) {
         std::cerr << "kvjxml: " << input.name << ": read as far as it goes: " << error << '\n';
     }
 
-    bool allRead = true;
+    // Several readers may take their part of one reply, and a reply need not have a part for each.
+    bool anyRead = false;
     Json record;
     for (const Message& reader : readers) {
         auto decoded = reader.decode(input);
-        if (!decoded.result) {
-            allRead = false;
+        if (decoded.result) {
+            anyRead = true;
+        } else {
             std::cerr << "kvjxml: " << input.name << ": " << reader.reader << " reported failure: \"" << reader.root
                       << "\" is missing or empty, or the last element known in it has no text or one too long\n";
         }
-        // Several readers may take their part of one reply.
         if (readers.size() == 1) {
             record = std::move(decoded.record);
         } else {
@@ -72,7 +73,7 @@ ExitCode decode(const std::string& path, const std::string& message) {
     constexpr int indent = 4;
     std::cout << record.dump(indent, ' ', false, Json::error_handler_t::replace) << std::endl;
     if (!std::cout) throw Failure(ExitCode::inputOutput, "standard output: cannot be written");
-    return allRead ? ExitCode::done : ExitCode::readerFailed;
+    return anyRead ? ExitCode::done : ExitCode::readerFailed;
 }
 
 }  // namespace kvjxml::tool

@@ -1,42 +1,149 @@
 #include "messages.h"
 
+#include <KVJGetEIN.h>
+#include <KVJLogParser.h>
+#include <KVJNDC.h>
+#include <KVJSensorParser.h>
 #include <KVJStatusParser.h>
 
+#include <iterator>
+#include <vector>
+
 #include "foundation/member.h"
-#include "status/tables.h"
+#include "identity/logs.h"
+#include "status/counters.h"
+#include "status/job.h"
+#include "status/media.h"
+#include "status/sensors.h"
+#include "status/wireless.h"
 
 namespace kvjxml::tool {
 
 namespace {
 
+/// How the readers take a reply.
+template <class Parser, class Length, class Record>
+bool read(bool (Parser::*reader)(const wchar_t&, Length, Record&), const Input& input, Record& record) {
+    return (Parser().*reader)(*input.text.c_str(), static_cast<Length>(input.text.size()), record);
+}
+template <class Parser, class Record>
+bool read(bool (Parser::*reader)(const char*, int, Record&), const Input& input, Record& record) {
+    return (Parser().*reader)(input.bytes.c_str(), 0, record);
+}
+template <class Parser, class Record>
+bool read(bool (Parser::*reader)(const char&, int, Record&), const Input& input, Record& record) {
+    return (Parser().*reader)(*input.bytes.c_str(), 0, record);
+}
+
 template <class Reader>
 struct ReaderOf;
-/// A reader of wide text.
-template <class Parser, class Length, class Record_>
-struct ReaderOf<bool (Parser::*)(const wchar_t&, Length, Record_&)> {
+template <class Parser, class Reply, class Length, class Record_>
+struct ReaderOf<bool (Parser::*)(Reply, Length, Record_&)> {
     using Record = Record_;
-    static bool read(bool (Parser::*reader)(const wchar_t&, Length, Record_&), const Input& input, Record_& record) {
-        return (Parser().*reader)(*input.text.c_str(), static_cast<Length>(input.text.size()), record);
-    }
 };
 
+/// A reader of a record that stands for itself.
 template <auto Reader>
 Decoded decode(const Input& input) {
     typename ReaderOf<decltype(Reader)>::Record record{};
-    const bool result = ReaderOf<decltype(Reader)>::read(Reader, input, record);
-    return {result, toJson(record)};
+    const bool result = read(Reader, input, record);
+    return {result, valueToJson(record)};
 }
 
-template <auto Reader, const auto& Table>
-constexpr Message message(std::string_view root) {
-    return {root, nameOf<Reader>(), described<Table>, decode<Reader>};
-}
-
+using Kavrin::KVJGetEIN;
+using Kavrin::KVJLogParser;
+using Kavrin::KVJNDC;
+using Kavrin::KVJSensorParser;
 using Kavrin::KVJStatusParser;
 
+Decoded decodeJobList(const Input& input) {
+    Kavrin::KVJobList list{};
+    list.count = Kavrin::KVJOBLIST_CAPACITY + 1;  // As many as there is room for; it stays so when there is no list.
+    const bool result = read(&KVJStatusParser::ParseJobList, input, list);
+    if (list.count > Kavrin::KVJOBLIST_CAPACITY) list.count = 0;
+    return {result, {{"count", list.count}, {"jobs", toJson(list.jobs, static_cast<std::size_t>(list.count))}}};
+}
+
+/// The entries of an array up to the last that says anything: what is behind it was not in the reply.
+template <class Entry>
+Json filledToJson(const Entry* entries, std::size_t count) {
+    const Json empty = toJson(Entry{});
+    while (count > 0 && toJson(entries[count - 1]) == empty) --count;
+    return toJson(entries, count);
+}
+
+/// Reads a list in the two calls that its reader wants: one for the size, one to fill an array of that size.
+template <class Parser, class Length, class List, class Entry, class Count>
+Decoded decodeList(bool (Parser::*reader)(const wchar_t&, Length, List&), Entry* List::*entries, Count List::*count,
+                   std::string_view entriesName, const Input& input) {
+    List list{};
+    bool result = read(reader, input, list);
+    std::vector<Entry> array(static_cast<std::size_t>(list.*count));
+    if (!array.empty()) {
+        list.*entries = array.data();
+        result = read(reader, input, list);
+    }
+    return {result, {{"count", list.*count}, {entriesName, filledToJson(array.data(), array.size())}}};
+}
+
+Decoded decodeAccessPoints(const Input& input) {
+    using List = Kavrin::_tagAccessPoints;
+    return decodeList(&KVJStatusParser::ParseAccessPoints, &List::accessPoints, &List::count, "accessPoints", input);
+}
+
+Decoded decodeServiceLog(const Input& input) {
+    using List = Kavrin::_tagLogServiceXML;
+    return decodeList(&KVJLogParser::ParseLogServiceXML, &List::entries, &List::count, "entries", input);
+}
+
+Decoded decodeCleaningLog(const Input& input) {
+    Kavrin::_tagCleaningLogEntry entries[32]{};
+    const bool result = read(&KVJLogParser::ParseCleaningLog, input, entries);
+    return {result, filledToJson(entries, std::size(entries))};
+}
+
+Decoded decodeLaminatorResponse(const Input& input) {
+    char response[512]{};
+    const bool result =
+        KVJNDC().GetLaminatorResponse(*input.text.c_str(), static_cast<int>(input.text.size()), response);
+    return {result, {{"response", valueToJson(response)}}};
+}
+
+/// The reply "lam_ndc_rsp" is a text without elements.
+constexpr std::array<Row<int>, 0> laminatorResponse{};
+
+template <auto Reader, const auto& Table>
+constexpr Message message(std::string_view root, Decoded (*decodeIt)(const Input&)) {
+    return {root, nameOf<Reader>(), described<Table>, decodeIt};
+}
+
+/// A message that is read in one call into a record that stands for itself.
+template <auto Reader, const auto& Table>
+constexpr Message message(std::string_view root) {
+    return message<Reader, Table>(root, decode<Reader>);
+}
+
 constexpr Message table[] = {
-    message<&KVJStatusParser::ParseStatus, generalStatus>("get_general_status"),
-    message<&KVJStatusParser::ParseJobStatus, jobStatus>("get_job_status"),
+    message<&KVJStatusParser::ParseStatus, status::generalStatus>("get_general_status"),
+    message<&KVJStatusParser::ParseJobStatus, status::jobStatus>("get_job_status"),
+    message<&KVJStatusParser::ParseJobList, status::jobList>("get_job_list", decodeJobList),
+    message<&KVJStatusParser::ParseMediaStatus, status::mediaStatus>("get_media_status"),
+    message<&KVJStatusParser::ParseCardCount, status::cardCount>("get_count"),
+    message<&KVJStatusParser::ParseCleanLogCount, status::cardsUntilCleaning>("get_count"),
+    message<&KVJStatusParser::ParseUpTime, status::upTimes>("get_laminator_up_times"),
+    message<&KVJStatusParser::GetPrinterFreeSpace, status::freeSpace>("get_free_ram"),
+    message<&KVJStatusParser::GetFlashFreeSpace, status::freeSpace>("get_free_flash"),
+    message<&KVJStatusParser::ParseCleaningStatus, status::cleaningStatus>("get_cleaning_status"),
+    message<&KVJStatusParser::ParseSensorStatus, status::sensorStatus>("get_sensor_status"),
+    message<&KVJSensorParser::ParseSensorInfo, status::sensorInfo>("get_sensor_status"),
+    message<&KVJSensorParser::ParseSensorStates, status::sensorStates>("get_sensor_status"),
+    message<&KVJStatusParser::ParseWirelessStatusXML, status::wirelessStatus>("get_wireless_status"),
+    message<&KVJStatusParser::ParseWirlessRadioXML, status::wirelessRadioStatus>("get_wireless_radio_status"),
+    message<&KVJStatusParser::ParseAccessPoints, status::accessPoints>("AccessPoints", decodeAccessPoints),
+    message<&KVJLogParser::ParseLogServiceXML, identity::serviceHistory>("get_log_service_history", decodeServiceLog),
+    message<&KVJLogParser::ParseCleaningLog, identity::cleaningHistory>("get_log_cleaning_history", decodeCleaningLog),
+    message<&KVJGetEIN::GetMagneticTracks, identity::magneticTracks>("data"),
+    message<&KVJNDC::GetLaminatorResponse, laminatorResponse>("lam_ndc_rsp", decodeLaminatorResponse),
 };
 
 }  // namespace

@@ -23,7 +23,7 @@ std::string conversionOf(const Description& row) {
     std::string text(row.conversion);
     if (!row.argument.empty()) text.append(" ").append(code(row.argument));
     if (row.capacity > 0) text.append(", at most ").append(std::to_string(row.capacity - 1)).append(" bytes");
-    if (!row.tableName.empty()) text.append(" of ").append(code(row.tableName));
+    if (!row.tableName.empty()) text.append(", see ").append(code(row.tableName));
     return text;
 }
 
@@ -50,8 +50,8 @@ ExitCode printReference() {
     std::cout << "# Messages\n\nMade by `kvjxml messages` from the tables that the library reads with.\n";
     TablesByName tables;
     for (const Message& message : messages()) {
-        std::cout << "\n## " << message.root << "\n\nRead by `" << message.reader
-                  << "`.\n\n| Element | Field | Read as |\n| --- | --- | --- |\n";
+        std::cout << "\n## " << message.root << ", read by " << message.reader
+                  << "\n\n| Element | Field | Read as |\n| --- | --- | --- |\n";
         printRows(message.table, "", tables);
     }
     std::cout << "\n## Words and their codes\n";

@@ -1,13 +1,18 @@
-/// @file status/tables.h
-/// The status replies, element by element.
-#ifndef KVJXML_STATUS_TABLES_H
-#define KVJXML_STATUS_TABLES_H
+/// @file status/job.h
+/// The general status, the status of a job and the list of jobs, element by element.
+#ifndef KVJXML_STATUS_JOB_H
+#define KVJXML_STATUS_JOB_H
 
 #include "StatusRecords.h"
 #include "foundation/getters.h"
 #include "foundation/rows.h"
+#include "foundation/words.h"
 
-namespace kvjxml {
+namespace kvjxml::status {
+
+using Kavrin::_KVJobInfo;
+using Kavrin::KVGeneralStatus;
+using Kavrin::KVJobStatus;
 
 /// The codes are the ones that hosts compare with; the gaps are codes that no word stands for.
 inline constexpr WordTable printerStates{38,
@@ -100,53 +105,65 @@ inline constexpr WordTable jobStates{-1,
 // clang-format off
 
 /// "get_general_status"
-inline constexpr auto generalStatus = rows<Kavrin::KVGeneralStatus>({
-    {"printer_state",                 word<&Kavrin::KVGeneralStatus::printerState, printerStates>},
-    {"alarms",                        prefixedHex<&Kavrin::KVGeneralStatus::alarms>},
-    {"error",                         number<&Kavrin::KVGeneralStatus::error>},
-    {"printer_lock",                  is<&Kavrin::KVGeneralStatus::printerLock, "locked">},
-    {"num_jobs_receiving_or_pending", number<&Kavrin::KVGeneralStatus::jobsReceivingOrPending>},
-    {"num_jobs_inprogress",           number<&Kavrin::KVGeneralStatus::jobsInProgress>},
-    {"num_jobs_done_ok",              number<&Kavrin::KVGeneralStatus::jobsDoneOk>},
-    {"num_jobs_done_error",           number<&Kavrin::KVGeneralStatus::jobsDoneError>},
-    {"num_jobs_total",                number<&Kavrin::KVGeneralStatus::jobsTotal>},
-    {"action_id_next",                number<&Kavrin::KVGeneralStatus::actionIdNext>},
-    {"warning",                       number<&Kavrin::KVGeneralStatus::warning>},
-    {"laminator_state",               word<&Kavrin::KVGeneralStatus::laminatorState, laminatorStates>},
-    {"param_chg_counter",             number<&Kavrin::KVGeneralStatus::paramChangeCounter>},
+inline constexpr auto generalStatus = rows<KVGeneralStatus>({
+    {"printer_state",                 word<&KVGeneralStatus::printerState, printerStates>},
+    {"alarms",                        prefixedHex<&KVGeneralStatus::alarms>},
+    {"error",                         number<&KVGeneralStatus::error>},
+    {"printer_lock",                  is<&KVGeneralStatus::printerLock, "locked">},
+    {"num_jobs_receiving_or_pending", number<&KVGeneralStatus::jobsReceivingOrPending>},
+    {"num_jobs_inprogress",           number<&KVGeneralStatus::jobsInProgress>},
+    {"num_jobs_done_ok",              number<&KVGeneralStatus::jobsDoneOk>},
+    {"num_jobs_done_error",           number<&KVGeneralStatus::jobsDoneError>},
+    {"num_jobs_total",                number<&KVGeneralStatus::jobsTotal>},
+    {"action_id_next",                number<&KVGeneralStatus::actionIdNext>},
+    {"warning",                       number<&KVGeneralStatus::warning>},
+    {"laminator_state",               word<&KVGeneralStatus::laminatorState, laminatorStates>},
+    {"param_chg_counter",             number<&KVGeneralStatus::paramChangeCounter>},
 });
 
 /// "status_printing" in "get_job_status"
-inline constexpr auto jobPrinting = rows<Kavrin::KVJobStatus>({
-    {"copies_done",            number<&Kavrin::KVJobStatus::copiesDone>},
-    {"copies_total_specified", number<&Kavrin::KVJobStatus::copiesTotalSpecified>},
-    {"error_code",             number<&Kavrin::KVJobStatus::errorCode>},
-    {"print_state",            word<&Kavrin::KVJobStatus::printState, jobStates>},
-    {"position_in_transport",  word<&Kavrin::KVJobStatus::positionInTransport, jobStates>},
-    {"laminator_state",        word<&Kavrin::KVJobStatus::laminatorState, laminatorStates>},
+inline constexpr auto jobPrinting = rows<KVJobStatus>({
+    {"copies_done",            number<&KVJobStatus::copiesDone>},
+    {"copies_total_specified", number<&KVJobStatus::copiesTotalSpecified>},
+    {"error_code",             number<&KVJobStatus::errorCode>},
+    {"print_state",            word<&KVJobStatus::printState, jobStates>},
+    {"position_in_transport",  word<&KVJobStatus::positionInTransport, jobStates>},
+    {"laminator_state",        word<&KVJobStatus::laminatorState, laminatorStates>},
 });
 
 /// "status_mag", "status_contact" and "status_contactless" in "get_job_status": the printer puts any of the three states
 /// into any of the three groups.
-inline constexpr auto jobEncoding = rows<Kavrin::KVJobStatus>({
-    {"mag_state",         word<&Kavrin::KVJobStatus::magState, jobStates>},
-    {"contact_state",     word<&Kavrin::KVJobStatus::contactState, jobStates>},
-    {"contactless_state", word<&Kavrin::KVJobStatus::contactlessState, jobStates>},
+inline constexpr auto jobEncoding = rows<KVJobStatus>({
+    {"mag_state",         word<&KVJobStatus::magState, jobStates>},
+    {"contact_state",     word<&KVJobStatus::contactState, jobStates>},
+    {"contactless_state", word<&KVJobStatus::contactlessState, jobStates>},
 });
 
 /// "get_job_status"
-inline constexpr auto jobStatus = rows<Kavrin::KVJobStatus>({
-    {"action_id",          number<&Kavrin::KVJobStatus::actionId>},
-    {"uuid",               text<&Kavrin::KVJobStatus::uuid>},
-    {"ready_for_next_job", is<&Kavrin::KVJobStatus::readyForNextJob, "yes">},
+inline constexpr auto jobStatus = rows<KVJobStatus>({
+    {"action_id",          number<&KVJobStatus::actionId>},
+    {"uuid",               text<&KVJobStatus::uuid>},
+    {"ready_for_next_job", is<&KVJobStatus::readyForNextJob, "yes">},
     {"status_printing",    group<jobPrinting>},
     {"status_mag",         group<jobEncoding>},
     {"status_contact",     group<jobEncoding>},
     {"status_contactless", group<jobEncoding>},
 });
 
+/// "job" in "get_job_list"
+inline constexpr auto jobInfo = rows<_KVJobInfo>({
+    {"action_id",   number<&_KVJobInfo::actionId>},
+    {"uuid",        text<&_KVJobInfo::uuid>},
+    {"print_state", word<&_KVJobInfo::printState, jobStates>},
+});
+
+/// "get_job_list"
+inline constexpr auto jobList = rows<List<_KVJobInfo>>({
+    {"job", entry<jobInfo>},
+});
+
 // clang-format on
 
-}  // namespace kvjxml
+}  // namespace kvjxml::status
 
 #endif

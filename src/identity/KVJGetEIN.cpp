@@ -1,0 +1,22 @@
+#include "KVJGetEIN.h"
+
+#include "foundation/reply.h"
+#include "identity/logs.h"
+
+namespace Kavrin {
+
+using kvjxml::Reply;
+using kvjxml::walk;
+namespace tables = kvjxml::identity;
+
+bool KVJGetEIN::GetMagneticTracks(const char& reply, int /*ignored*/, __GETTRACK& tracks) {
+    return parseMag(Reply(&reply).root("data"), tracks);
+}
+
+bool KVJGetEIN::parseMag(TiXmlElement* element, __GETTRACK& tracks) {
+    return walk(element, tracks, tables::magneticTracks);
+}
+
+bool KVJGetEIN::parseTrack(TiXmlElement* element, __GETTRACK& tracks) { return walk(element, tracks, tables::track); }
+
+}  // namespace Kavrin

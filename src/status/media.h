@@ -1,0 +1,105 @@
+/// @file status/media.h
+/// The loaded media, element by element.
+#ifndef KVJXML_STATUS_MEDIA_H
+#define KVJXML_STATUS_MEDIA_H
+
+#include <cstring>
+
+#include "StatusRecords.h"
+#include "foundation/getters.h"
+#include "foundation/rows.h"
+#include "foundation/vocabulary.h"
+
+namespace kvjxml::status {
+
+/// A description that the words of a panel sequence are appended to.
+struct PanelSequence {
+    char* description;
+};
+
+inline constexpr int descriptionCapacity = sizeof(_MediaStatusInfo::description);
+
+/// The word of one panel, appended without a separator: the panels Y, M and C make "YMC". What does not fit is cut.
+inline constexpr Getter<PanelSequence> panel{
+    {"description", "text, appended"}, [](TiXmlElement* element, PanelSequence& sequence) {
+        const auto used = static_cast<int>(strnlen(sequence.description, descriptionCapacity));
+        return used < descriptionCapacity &&
+               KVJHelper::GetString(element, sequence.description[used], descriptionCapacity - used);
+    }};
+
+// clang-format off
+
+/// "sequence" in "ribbon"
+inline constexpr auto panelSequence = rows<PanelSequence>({
+    {"panel", panel},
+});
+
+/// The ribbon's description is made longer by its panels, and the code is that of the whole.
+inline constexpr Getter<_MediaStatusInfo> sequence{
+    {.field = "code", .conversion = "code of the description with the panels behind it",
+     .tableName = "ribbonDescriptions", .table = ribbonDescriptions, .group = described<panelSequence>},
+    [](TiXmlElement* element, _MediaStatusInfo& ribbon) {
+        PanelSequence panels{ribbon.description};
+        if (!walk(element, panels, panelSequence)) return false;
+        ribbon.code = anyCodeOf(ribbonDescriptions, ribbon.description);
+        return true;
+    }};
+
+/// A description, and its code when it fits the field.
+inline constexpr Getter<_MediaStatusInfo> description{
+    {.field = "description", .conversion = "text, and its code to `code`", .capacity = descriptionCapacity,
+     .tableName = "ribbonNames", .table = ribbonNames},
+    [](TiXmlElement* element, _MediaStatusInfo& medium) {
+        if (!text<&_MediaStatusInfo::description>.read(element, medium)) return false;
+        medium.code = anyCodeOf(ribbonNames, medium.description);
+        return true;
+    }};
+
+/// "ribbon"
+inline constexpr auto ribbon = rows<_MediaStatusInfo>({
+    {"type",               number<&_MediaStatusInfo::type>},
+    {"sequence",           sequence},
+    {"description",        description},
+    {"oem_country",        text<&_MediaStatusInfo::oemCountry>},
+    {"initial_size",       number<&_MediaStatusInfo::initialSize>},
+    {"panels_remaining",   number<&_MediaStatusInfo::panelsRemaining>},
+    {"ribbon_remaining",   number<&_MediaStatusInfo::panelsRemaining>},
+    {"part_number",        text<&_MediaStatusInfo::partNumber>},
+    {"diam_ribbon_payout", number<&_MediaStatusInfo::payoutDiameter>},
+    {"diam_ribbon_takeup", number<&_MediaStatusInfo::takeupDiameter>},
+});
+
+/// "film"
+inline constexpr auto film = rows<_MediaStatusInfo>({
+    {"type",               number<&_MediaStatusInfo::type>},
+    {"description",        description},
+    {"oem_country",        text<&_MediaStatusInfo::oemCountry>},
+    {"initial_size",       number<&_MediaStatusInfo::initialSize>},
+    {"panels_remaining",   number<&_MediaStatusInfo::panelsRemaining>},
+    {"diam_ribbon_payout", number<&_MediaStatusInfo::payoutDiameter>},
+    {"diam_ribbon_takeup", number<&_MediaStatusInfo::takeupDiameter>},
+});
+
+/// "top_laminate" and "bottom_laminate". A laminate's type is its code: hosts look for it there, and its description is
+/// not a ribbon's.
+inline constexpr auto laminate = rows<_MediaStatusInfo>({
+    {"type",             number<&_MediaStatusInfo::code>},
+    {"description",      text<&_MediaStatusInfo::description>},
+    {"oem_country",      text<&_MediaStatusInfo::oemCountry>},
+    {"initial_size",     number<&_MediaStatusInfo::initialSize>},
+    {"panels_remaining", number<&_MediaStatusInfo::panelsRemaining>},
+});
+
+/// "get_media_status"
+inline constexpr auto mediaStatus = rows<MediaStatus>({
+    {"ribbon",          part<&MediaStatus::ribbon, ribbon>},
+    {"film",            part<&MediaStatus::film, film>},
+    {"top_laminate",    part<&MediaStatus::topLaminate, laminate>},
+    {"bottom_laminate", part<&MediaStatus::bottomLaminate, laminate>},
+});
+
+// clang-format on
+
+}  // namespace kvjxml::status
+
+#endif
