@@ -1,0 +1,416 @@
+// The small replies with a counter, a size or a state: card counters, up-times, free memory and the cleaning.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "KVJStatusParser.h"
+#include "support/xml.h"
+
+namespace {
+
+using Kavrin::__MEMORY;
+using Kavrin::KVCardCount;
+using Kavrin::KVCleaningStatus;
+using Kavrin::KVJStatusParser;
+using Kavrin::KVUpTimes;
+using kvjxml::tests::wide;
+using kvjxml::tests::Xml;
+
+template <class Record>
+using Reader = bool (KVJStatusParser::*)(const wchar_t&, int, Record&);
+
+template <class Record>
+bool read(Reader<Record> reader, const std::string& reply, Record& record) {
+    const std::wstring text = wide(reply);
+    return (KVJStatusParser().*reader)(*text.c_str(), static_cast<int>(text.size()), record);
+}
+
+std::string element(const std::string& name, const std::string& content) {
+    return "<" + name + ">" + content + "</" + name + ">";
+}
+
+// ---- Card counters and up-times: two messages of three 16-bit counters each ----
+
+template <class Record_>
+struct Counter {
+    const char* name;
+    unsigned long Record_::*field;
+};
+
+struct CardCountMessage {
+    using Record = KVCardCount;
+    static constexpr auto reader = &KVJStatusParser::ParseCardCount;
+    static constexpr auto walker = &KVJStatusParser::parseCardCount;
+    static constexpr auto root = "get_count";
+    static constexpr Counter<Record> counters[] = {{"total_cards_done", &Record::totalCardsDone},
+                                                   {"laminator_cards_laminated", &Record::laminatorCardsLaminated},
+                                                   {"laminator_cards_processed", &Record::laminatorCardsProcessed}};
+};
+
+struct UpTimesMessage {
+    using Record = KVUpTimes;
+    static constexpr auto reader = &KVJStatusParser::ParseUpTime;
+    static constexpr auto walker = &KVJStatusParser::parseUpTime;
+    static constexpr auto root = "get_laminator_up_times";
+    static constexpr Counter<Record> counters[] = {
+        {"laminator_total_up_time", &Record::laminatorTotalUpTime},
+        {"laminator_top_bulb_on_time", &Record::laminatorTopBulbOnTime},
+        {"laminator_bottom_bulb_on_time", &Record::laminatorBottomBulbOnTime}};
+};
+
+template <class Message>
+class Counters : public testing::Test {
+protected:
+    using Record = typename Message::Record;
+
+    static Record preset() { return {101, 102, 103}; }
+
+    static void expectEqual(const Record& actual, const Record& expected) {
+        for (const auto& [name, field] : Message::counters) EXPECT_EQ(actual.*field, expected.*field) << name;
+    }
+
+    static bool readChildren(const std::string& children, Record& record) {
+        return read(Message::reader, element(Message::root, children), record);
+    }
+
+    /// The names of the three counters.
+    static std::vector<std::string> names() {
+        std::vector<std::string> list;
+        for (const auto& counter : Message::counters) list.emplace_back(counter.name);
+        return list;
+    }
+};
+
+struct MessageName {
+    template <class Message>
+    static std::string GetName(int /*index*/) {
+        return Message::root;
+    }
+};
+
+using Messages = testing::Types<CardCountMessage, UpTimesMessage>;
+TYPED_TEST_SUITE(Counters, Messages, MessageName);
+
+TYPED_TEST(Counters, FillEveryFieldFromOneReply) {
+    const auto names = this->names();
+    auto record = this->preset();
+    EXPECT_TRUE(
+        this->readChildren(element(names[0], "12345") + element(names[1], "2") + element(names[2], "65535"), record));
+    this->expectEqual(record, {12345, 2, 65535});
+}
+
+TYPED_TEST(Counters, AreReadInAnyOrderEachIntoItsField) {
+    const auto names = this->names();
+    auto record = this->preset();
+    EXPECT_TRUE(this->readChildren(element(names[2], "3") + element(names[0], "1"), record));
+    this->expectEqual(record, {1, 102, 3});
+    EXPECT_TRUE(this->readChildren(element(names[1], "2"), record));
+    this->expectEqual(record, {1, 2, 3});
+}
+
+TYPED_TEST(Counters, Have16Bits) {
+    const std::pair<const char*, unsigned long> texts[] = {{"12345", 12345}, {"65535", 65535}, {"65536", 0},
+                                                           {"70000", 4464},  {"-1", 65535},    {"0", 0}};
+    for (const auto& [name, field] : TypeParam::counters) {
+        for (const auto& [text, value] : texts) {
+            auto record = this->preset();
+            auto expected = record;
+            expected.*field = value;
+            EXPECT_TRUE(this->readChildren(element(name, text), record)) << name << ' ' << text;
+            this->expectEqual(record, expected);
+        }
+    }
+}
+
+TYPED_TEST(Counters, AreDecimalAndWhatIsNoNumberReadsAs0) {
+    for (const auto& [name, field] : TypeParam::counters) {
+        auto record = this->preset();
+        EXPECT_TRUE(this->readChildren(element(name, "010"), record));
+        EXPECT_EQ(record.*field, 10U) << name;
+        EXPECT_TRUE(this->readChildren(element(name, "0x1f"), record));
+        EXPECT_EQ(record.*field, 0U) << name;
+        EXPECT_TRUE(this->readChildren(element(name, "many"), record));
+        EXPECT_EQ(record.*field, 0U) << name;
+    }
+}
+
+TYPED_TEST(Counters, WithoutTextAreFalseAndKept) {
+    for (const auto& name : this->names()) {
+        auto record = this->preset();
+        EXPECT_FALSE(this->readChildren(element(name, ""), record)) << name;
+        this->expectEqual(record, this->preset());
+    }
+}
+
+TYPED_TEST(Counters, AReplyWithoutKnownElementsLeavesEveryFieldAndIsFalse) {
+    auto record = this->preset();
+    EXPECT_FALSE(this->readChildren("<serial>1</serial><Total_Cards_Done>1</Total_Cards_Done>", record));
+    EXPECT_FALSE(this->readChildren("<LAMINATOR_TOTAL_UP_TIME>1</LAMINATOR_TOTAL_UP_TIME>", record));
+    EXPECT_FALSE(this->readChildren(element("group", element(this->names()[0], "1")), record));
+    EXPECT_FALSE(this->readChildren("", record));
+    EXPECT_FALSE(this->readChildren("text", record));
+    this->expectEqual(record, this->preset());
+}
+
+TYPED_TEST(Counters, AnotherRootIsFalseAndLeavesTheRecord) {
+    auto record = this->preset();
+    const std::string children = element(this->names()[0], "1");
+    for (const char* root : {"get_general_status", "Get_Count", "GET_LAMINATOR_UP_TIMES"}) {
+        EXPECT_FALSE(read(TypeParam::reader, element(root, children), record)) << root;
+    }
+    EXPECT_FALSE(read(TypeParam::reader, children, record));
+    EXPECT_FALSE(read(TypeParam::reader, element("reply", element(TypeParam::root, children)), record));
+    this->expectEqual(record, this->preset());
+}
+
+TYPED_TEST(Counters, TheResultIsThatOfTheLastKnownElement) {
+    const auto names = this->names();
+    auto record = this->preset();
+    EXPECT_FALSE(this->readChildren(element(names[0], "1") + element(names[1], ""), record));
+    this->expectEqual(record, {1, 102, 103});
+    EXPECT_TRUE(this->readChildren(element(names[1], "") + element(names[0], "2"), record));
+    EXPECT_TRUE(this->readChildren(element(names[0], "3") + "<serial/>", record));
+    EXPECT_FALSE(this->readChildren(element(names[0], "") + "<serial>1</serial>", record));
+    this->expectEqual(record, {3, 102, 103});
+}
+
+TYPED_TEST(Counters, OfARepeatedElementTheLaterValueWins) {
+    const auto name = this->names()[1];
+    auto record = this->preset();
+    EXPECT_TRUE(this->readChildren(element(name, "1") + element(name, "2"), record));
+    this->expectEqual(record, {101, 2, 103});
+}
+
+TYPED_TEST(Counters, TheWalkerReadsAnElementThatTheHostHolds) {
+    KVJStatusParser parser;
+    auto record = this->preset();
+    Xml reply(element("any", element(this->names()[2], "7")).c_str());
+    EXPECT_TRUE((parser.*TypeParam::walker)(reply.root(), record));
+    this->expectEqual(record, {101, 102, 7});
+}
+
+TYPED_TEST(Counters, TheWalkerIsFalseForNoElementAndForOneWithoutChildren) {
+    KVJStatusParser parser;
+    auto record = this->preset();
+    Xml empty("<any>text</any>");
+    EXPECT_FALSE((parser.*TypeParam::walker)(nullptr, record));
+    EXPECT_FALSE((parser.*TypeParam::walker)(empty.root(), record));
+    this->expectEqual(record, this->preset());
+}
+
+// ---- Cards until the next cleaning ----
+
+bool readCleanLogCount(const std::string& children, int& cards) {
+    return read(&KVJStatusParser::ParseCleanLogCount, element("get_count", children), cards);
+}
+
+TEST(CleanLogCount, IsDecimalWithAllItsBits) {
+    const std::pair<const char*, int> texts[] = {
+        {"250", 250}, {"0", 0}, {"-5", -5}, {"70000", 70000}, {"2147483647", 2147483647}, {"010", 10}, {"soon", 0}};
+    for (const auto& [text, value] : texts) {
+        int cards = -1;
+        EXPECT_TRUE(readCleanLogCount(element("total_cards_until_next_cleaning", text), cards)) << text;
+        EXPECT_EQ(cards, value);
+    }
+}
+
+TEST(CleanLogCount, OneReplyServesItAndTheCardCounters) {
+    const std::string children =
+        "<total_cards_done>812</total_cards_done>"
+        "<total_cards_until_next_cleaning>188</total_cards_until_next_cleaning>";
+    int cards = -1;
+    EXPECT_TRUE(readCleanLogCount(children, cards));
+    EXPECT_EQ(cards, 188);
+    KVCardCount counts{101, 102, 103};
+    EXPECT_TRUE(read(&KVJStatusParser::ParseCardCount, element("get_count", children), counts));
+    EXPECT_EQ(counts.totalCardsDone, 812U);
+    EXPECT_EQ(counts.laminatorCardsLaminated, 102U);
+    EXPECT_EQ(counts.laminatorCardsProcessed, 103U);
+}
+
+TEST(CleanLogCount, NeitherReaderTakesTheElementOfTheOther) {
+    int cards = -1;
+    EXPECT_FALSE(readCleanLogCount("<total_cards_done>812</total_cards_done>", cards));
+    EXPECT_EQ(cards, -1);
+    KVCardCount counts{101, 102, 103};
+    EXPECT_FALSE(read(&KVJStatusParser::ParseCardCount,
+                      "<get_count><total_cards_until_next_cleaning>1</total_cards_until_next_cleaning></get_count>",
+                      counts));
+    EXPECT_EQ(counts.totalCardsDone, 101U);
+}
+
+TEST(CleanLogCount, OfARepeatedElementTheLastCounts) {
+    int cards = -1;
+    EXPECT_TRUE(
+        readCleanLogCount("<total_cards_until_next_cleaning>1</total_cards_until_next_cleaning>"
+                          "<total_cards_until_next_cleaning>2</total_cards_until_next_cleaning><serial/>",
+                          cards));
+    EXPECT_EQ(cards, 2);
+    EXPECT_FALSE(
+        readCleanLogCount("<total_cards_until_next_cleaning>3</total_cards_until_next_cleaning>"
+                          "<total_cards_until_next_cleaning/>",
+                          cards));
+    EXPECT_EQ(cards, 3);
+    EXPECT_TRUE(
+        readCleanLogCount("<total_cards_until_next_cleaning/>"
+                          "<total_cards_until_next_cleaning>4</total_cards_until_next_cleaning>",
+                          cards));
+    EXPECT_EQ(cards, 4);
+}
+
+TEST(CleanLogCount, WithoutItsElementOrItsTextItIsFalseAndKept) {
+    int cards = -1;
+    for (const char* children : {"", "text", "<serial>1</serial>", "<total_cards_until_next_cleaning/>",
+                                 "<Total_cards_until_next_cleaning>1</Total_cards_until_next_cleaning>",
+                                 "<log><total_cards_until_next_cleaning>1</total_cards_until_next_cleaning></log>"}) {
+        EXPECT_FALSE(readCleanLogCount(children, cards)) << children;
+    }
+    EXPECT_EQ(cards, -1);
+}
+
+TEST(CleanLogCount, AnotherRootIsFalseAndLeavesTheCount) {
+    int cards = -1;
+    const std::string child = "<total_cards_until_next_cleaning>1</total_cards_until_next_cleaning>";
+    EXPECT_FALSE(read(&KVJStatusParser::ParseCleanLogCount, element("get_cleaning_status", child), cards));
+    EXPECT_FALSE(read(&KVJStatusParser::ParseCleanLogCount, element("Get_count", child), cards));
+    EXPECT_FALSE(read(&KVJStatusParser::ParseCleanLogCount, child, cards));
+    EXPECT_EQ(cards, -1);
+}
+
+TEST(CleanLogCount, TheWalkerReadsAnElementThatTheHostHolds) {
+    KVJStatusParser parser;
+    int cards = -1;
+    Xml empty("<any>text</any>");
+    EXPECT_FALSE(parser.parseCleanLog(nullptr, cards));
+    EXPECT_FALSE(parser.parseCleanLog(empty.root(), cards));
+    EXPECT_EQ(cards, -1);
+    Xml reply("<any><total_cards_until_next_cleaning>9</total_cards_until_next_cleaning></any>");
+    EXPECT_TRUE(parser.parseCleanLog(reply.root(), cards));
+    EXPECT_EQ(cards, 9);
+}
+
+// ---- Free memory: two messages, one field ----
+
+struct MemoryMessage {
+    const char* root;
+    Reader<__MEMORY> reader;
+};
+constexpr MemoryMessage memoryMessages[] = {{"get_free_ram", &KVJStatusParser::GetPrinterFreeSpace},
+                                            {"get_free_flash", &KVJStatusParser::GetFlashFreeSpace}};
+
+TEST(FreeMemory, IsDecimalWithAllIts32Bits) {
+    const std::pair<const char*, unsigned int> texts[] = {{"1048576", 1048576},
+                                                          {"0", 0},
+                                                          {"70000", 70000},
+                                                          {"2147483648", 2147483648U},
+                                                          {"4294967295", 4294967295U},
+                                                          {"-1", 4294967295U},
+                                                          {"010", 10},
+                                                          {"0x1f", 0},
+                                                          {"plenty", 0}};
+    for (const auto& [root, reader] : memoryMessages) {
+        for (const auto& [text, value] : texts) {
+            __MEMORY memory{101};
+            EXPECT_TRUE(read(reader, element(root, element("bytes_free", text)), memory)) << root << ' ' << text;
+            EXPECT_EQ(memory.bytesFree, value) << root << ' ' << text;
+        }
+    }
+}
+
+TEST(FreeMemory, EachReaderTakesItsOwnMessageOnly) {
+    for (const auto& message : memoryMessages) {
+        for (const auto& other : memoryMessages) {
+            __MEMORY memory{101};
+            const bool own = &message == &other;
+            EXPECT_EQ(read(message.reader, element(other.root, "<bytes_free>5</bytes_free>"), memory), own);
+            EXPECT_EQ(memory.bytesFree, own ? 5U : 101U);
+        }
+    }
+}
+
+TEST(FreeMemory, OfARepeatedElementTheLastCounts) {
+    for (const auto& [root, reader] : memoryMessages) {
+        __MEMORY memory{101};
+        EXPECT_TRUE(read(reader, element(root, "<bytes_free>1</bytes_free><bytes_free>2</bytes_free><x/>"), memory));
+        EXPECT_EQ(memory.bytesFree, 2U) << root;
+        EXPECT_FALSE(read(reader, element(root, "<bytes_free>3</bytes_free><bytes_free/>"), memory));
+        EXPECT_EQ(memory.bytesFree, 3U) << root;
+        EXPECT_TRUE(read(reader, element(root, "<bytes_free/><bytes_free>4</bytes_free>"), memory));
+        EXPECT_EQ(memory.bytesFree, 4U) << root;
+    }
+}
+
+TEST(FreeMemory, WithoutItsElementOrItsTextItIsFalseAndKept) {
+    for (const auto& [root, reader] : memoryMessages) {
+        __MEMORY memory{101};
+        for (const char* children : {"", "text", "<bytes_used>1</bytes_used>", "<bytes_free/>",
+                                     "<Bytes_free>1</Bytes_free>", "<ram><bytes_free>1</bytes_free></ram>"}) {
+            EXPECT_FALSE(read(reader, element(root, children), memory)) << root << ' ' << children;
+        }
+        EXPECT_FALSE(read(reader, "<Get_Free_Ram><bytes_free>1</bytes_free></Get_Free_Ram>", memory));
+        EXPECT_FALSE(read(reader, "<bytes_free>1</bytes_free>", memory));
+        EXPECT_EQ(memory.bytesFree, 101U) << root;
+    }
+}
+
+TEST(FreeMemory, TheWalkerReadsAnElementThatTheHostHolds) {
+    KVJStatusParser parser;
+    __MEMORY memory{101};
+    Xml empty("<any>text</any>");
+    EXPECT_FALSE(parser.getFreeSpace(nullptr, memory));
+    EXPECT_FALSE(parser.getFreeSpace(empty.root(), memory));
+    EXPECT_EQ(memory.bytesFree, 101U);
+    Xml reply("<any><bytes_free>9</bytes_free></any>");
+    EXPECT_TRUE(parser.getFreeSpace(reply.root(), memory));
+    EXPECT_EQ(memory.bytesFree, 9U);
+}
+
+// ---- Cleaning ----
+
+bool readCleaning(const std::string& children, KVCleaningStatus& status) {
+    return read(&KVJStatusParser::ParseCleaningStatus, element("get_cleaning_status", children), status);
+}
+
+TEST(CleaningStatus, RemoveCardsIs3CleaningIs0AndAnUnknownWord10) {
+    const std::pair<std::string, int> words[] = {
+        {"remove_cards", 3}, {"cleaning", 0}, {"polishing", 10}, {"Cleaning", 10}, {std::string(100000, 'c'), 10}};
+    for (const auto& [word, code] : words) {
+        KVCleaningStatus status{-1};
+        EXPECT_TRUE(readCleaning(element("cleaning_status", word), status));
+        EXPECT_EQ(status.cleaningState, code);
+    }
+}
+
+TEST(CleaningStatus, OfARepeatedElementTheLastCounts) {
+    KVCleaningStatus status{-1};
+    EXPECT_TRUE(readCleaning(
+        "<cleaning_status>remove_ribbon</cleaning_status><cleaning_status>cleaning</cleaning_status><x/>", status));
+    EXPECT_EQ(status.cleaningState, 0);
+    EXPECT_FALSE(readCleaning("<cleaning_status>remove_ribbon</cleaning_status><cleaning_status/>", status));
+    EXPECT_EQ(status.cleaningState, 2);
+    EXPECT_TRUE(readCleaning("<cleaning_status/><cleaning_status>reload_ribbon</cleaning_status>", status));
+    EXPECT_EQ(status.cleaningState, 6);
+}
+
+TEST(CleaningStatus, WithoutItsElementOrItsTextItIsFalseAndKept) {
+    KVCleaningStatus status{-1};
+    for (const char* children :
+         {"", "cleaning", "<state>cleaning</state>", "<cleaning_status/>", "<cleaning_status></cleaning_status>",
+          "<Cleaning_Status>cleaning</Cleaning_Status>", "<x><cleaning_status>cleaning</cleaning_status></x>"}) {
+        EXPECT_FALSE(readCleaning(children, status)) << children;
+    }
+    EXPECT_EQ(status.cleaningState, -1);
+}
+
+TEST(CleaningStatus, AnotherRootIsFalseAndLeavesTheState) {
+    KVCleaningStatus status{-1};
+    const std::string child = "<cleaning_status>cleaning</cleaning_status>";
+    EXPECT_FALSE(read(&KVJStatusParser::ParseCleaningStatus, element("get_general_status", child), status));
+    EXPECT_FALSE(read(&KVJStatusParser::ParseCleaningStatus, element("Get_cleaning_status", child), status));
+    EXPECT_FALSE(read(&KVJStatusParser::ParseCleaningStatus, child, status));
+    EXPECT_EQ(status.cleaningState, -1);
+}
+
+}  // namespace

@@ -1,0 +1,142 @@
+// The words of the wireless link: states, security and ciphers, each with the code that hosts compare with.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+
+#include "KVJStatusParser.h"
+#include "support/xml.h"
+
+namespace {
+
+using Kavrin::KVJStatusParser;
+using kvjxml::tests::Xml;
+
+using Combiner = bool (KVJStatusParser::*)(TiXmlElement*, unsigned int&);
+
+/// Combines the code of a word into `codes`.
+bool combine(Combiner combiner, const std::string& word, unsigned int& codes) {
+    Xml element(("<any>" + word + "</any>").c_str());
+    return (KVJStatusParser().*combiner)(element.root(), codes);
+}
+
+// ---- States ----
+
+TEST(WirelessStateWords, EachHasItsCode) {
+    KVJStatusParser parser;
+    std::pair<std::string, int> words[] = {{"off", 0},         {"disconnected", 1}, {"inactive", 2},  {"scanning", 3},
+                                           {"associating", 4}, {"associated", 5},   {"handshake", 6}, {"connected", 7}};
+    for (auto& [word, code] : words) EXPECT_EQ(parser.GetWirelessState(word.data()), code) << word;
+}
+
+TEST(WirelessStateWords, AnyOtherIsOff) {
+    KVJStatusParser parser;
+    for (std::string word : {"", "Connected", "CONNECTED", "connect", "connected ", " connected", "on"}) {
+        EXPECT_EQ(parser.GetWirelessState(word.data()), 0) << '"' << word << '"';
+    }
+}
+
+TEST(WirelessStateWords, NoWordAtAllIsOff) {
+    KVJStatusParser parser;
+    EXPECT_EQ(parser.GetWirelessState(nullptr), 0);
+}
+
+// ---- Security ----
+
+TEST(SecurityWords, EachHasItsCode) {
+    const std::pair<const char*, unsigned int> words[] = {
+        {"open", 0},     {"none", 0},     {"WEP", 1},      {"wep", 1},     {"WEP40", 1}, {"wep40", 1},
+        {"WEP104", 2},   {"wep104", 2},   {"WPA", 3},      {"wpa", 3},     {"WPA2", 4},  {"wpa2", 4},
+        {"WPA_WPA2", 5}, {"WPA2_WPA", 5}, {"wpa_wpa2", 5}, {"wpa2_wpa", 5}};
+    for (const auto& [word, code] : words) {
+        unsigned int codes = 0;
+        EXPECT_TRUE(combine(&KVJStatusParser::GetSecurity, word, codes)) << word;
+        EXPECT_EQ(codes, code) << word;
+    }
+}
+
+TEST(SecurityWords, AnUnknownWordAddsNothingAndIsTrue) {
+    for (const std::string& word :
+         {std::string("Open"), std::string("Wep"), std::string("wEP104"), std::string("Wpa2"), std::string("wpa_WPA2"),
+          std::string("WPA3"), std::string("WPA_WPA"), std::string("TKIP"), std::string(100000, 'w')}) {
+        for (const unsigned int before : {0U, 0x80U}) {
+            unsigned int codes = before;
+            EXPECT_TRUE(combine(&KVJStatusParser::GetSecurity, word, codes)) << word;
+            EXPECT_EQ(codes, before) << word;
+        }
+    }
+}
+
+TEST(SecurityWords, ACodeIsCombinedWithWhatIsThere) {
+    unsigned int codes = 0;
+    EXPECT_TRUE(combine(&KVJStatusParser::GetSecurity, "WPA", codes));
+    EXPECT_TRUE(combine(&KVJStatusParser::GetSecurity, "WPA", codes));
+    EXPECT_EQ(codes, 3U);
+    EXPECT_TRUE(combine(&KVJStatusParser::GetSecurity, "WPA2", codes));
+    EXPECT_EQ(codes, 7U);
+    EXPECT_TRUE(combine(&KVJStatusParser::GetSecurity, "open", codes));
+    EXPECT_EQ(codes, 7U);
+    codes = 0;
+    EXPECT_TRUE(combine(&KVJStatusParser::GetSecurity, "wep104", codes));
+    EXPECT_TRUE(combine(&KVJStatusParser::GetSecurity, "WPA", codes));
+    EXPECT_EQ(codes, 3U);
+}
+
+TEST(SecurityWords, OnlyTheLowestByteOfTheCodesChanges) {
+    unsigned int codes = 0xABCDEF00U;
+    EXPECT_TRUE(combine(&KVJStatusParser::GetSecurity, "wpa_wpa2", codes));
+    EXPECT_EQ(codes, 0xABCDEF05U);
+}
+
+// ---- Ciphers ----
+
+TEST(CipherWords, EachHasItsCode) {
+    const std::pair<const char*, unsigned int> words[] = {
+        {"none", 0}, {"RC4", 1},       {"rc4", 1},       {"TKIP", 2},      {"tkip", 2},     {"CCMP", 3},
+        {"ccmp", 3}, {"TKIP_CCMP", 4}, {"CCMP_TKIP", 4}, {"tkip_ccmp", 4}, {"ccmp_tkip", 4}};
+    for (const auto& [word, code] : words) {
+        unsigned int codes = 0;
+        EXPECT_TRUE(combine(&KVJStatusParser::GetCrypto, word, codes)) << word;
+        EXPECT_EQ(codes, code) << word;
+    }
+}
+
+TEST(CipherWords, AnUnknownWordAddsNothingAndIsTrue) {
+    for (const std::string& word :
+         {std::string("tkip_CCMP"), std::string("TKIP_ccmp"), std::string("Rc4"), std::string("Tkip"),
+          std::string("None"), std::string("AES"), std::string("open"), std::string("WPA"), std::string(100000, 'c')}) {
+        for (const unsigned int before : {0U, 0x80U}) {
+            unsigned int codes = before;
+            EXPECT_TRUE(combine(&KVJStatusParser::GetCrypto, word, codes)) << word;
+            EXPECT_EQ(codes, before) << word;
+        }
+    }
+}
+
+TEST(CipherWords, ACodeIsCombinedWithWhatIsThere) {
+    unsigned int codes = 0;
+    EXPECT_TRUE(combine(&KVJStatusParser::GetCrypto, "CCMP", codes));
+    EXPECT_TRUE(combine(&KVJStatusParser::GetCrypto, "tkip_ccmp", codes));
+    EXPECT_EQ(codes, 7U);
+    EXPECT_TRUE(combine(&KVJStatusParser::GetCrypto, "none", codes));
+    EXPECT_EQ(codes, 7U);
+}
+
+TEST(CipherWords, OnlyTheLowestByteOfTheCodesChanges) {
+    unsigned int codes = 0xABCDEF00U;
+    EXPECT_TRUE(combine(&KVJStatusParser::GetCrypto, "TKIP_CCMP", codes));
+    EXPECT_EQ(codes, 0xABCDEF04U);
+}
+
+TEST(CombinedWords, WithoutTextOrElementAreFalseAndTheCodesKept) {
+    KVJStatusParser parser;
+    Xml empty("<any/>");
+    for (const Combiner combiner : {&KVJStatusParser::GetSecurity, &KVJStatusParser::GetCrypto}) {
+        unsigned int codes = 101;
+        EXPECT_FALSE((parser.*combiner)(empty.root(), codes));
+        EXPECT_FALSE((parser.*combiner)(nullptr, codes));
+        EXPECT_EQ(codes, 101U);
+    }
+}
+
+}  // namespace
