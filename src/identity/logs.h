@@ -9,9 +9,7 @@
 
 namespace kvjxml::identity {
 
-using Kavrin::__GETTRACK;
-using Kavrin::_tagCleaningLogEntry;
-using Kavrin::_tagLogServiceValues;
+using namespace Kavrin;  // the records
 
 // clang-format off
 

@@ -10,10 +10,7 @@
 
 namespace kvjxml::status {
 
-using Kavrin::__MEMORY;
-using Kavrin::KVCardCount;
-using Kavrin::KVCleaningStatus;
-using Kavrin::KVUpTimes;
+using namespace Kavrin;  // the records
 
 inline constexpr WordTable cleaningStates{10,
                                           {{"cleaning", 0},

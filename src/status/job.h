@@ -10,9 +10,7 @@
 
 namespace kvjxml::status {
 
-using Kavrin::_KVJobInfo;
-using Kavrin::KVGeneralStatus;
-using Kavrin::KVJobStatus;
+using namespace Kavrin;  // the records
 
 /// The codes are the ones that hosts compare with; the gaps are codes that no word stands for.
 inline constexpr WordTable printerStates{38,

@@ -9,9 +9,7 @@
 
 namespace kvjxml::status {
 
-using Kavrin::_KVPrinterSensorInfo;
-using Kavrin::_SENSOR;
-using Kavrin::KVSensorInfo;
+using namespace Kavrin;  // the records
 
 // clang-format off
 

@@ -10,10 +10,7 @@
 
 namespace kvjxml::status {
 
-using Kavrin::_tagAccessPoint;
-using Kavrin::_tagPackets;
-using Kavrin::_tagWirelessRadioStatus;
-using Kavrin::_tagWirelessStatus;
+using namespace Kavrin;  // the records
 
 /// An unknown state counts as off.
 inline constexpr WordTable wirelessStates{0,
