@@ -6,12 +6,16 @@
 
 #include "FoundationRecords.h"
 #include "IdentityRecords.h"
+#include "KVJDeviceControl.h"
 #include "KVJGetEIN.h"
 #include "KVJHelper.h"
 #include "KVJLogParser.h"
 #include "KVJNDC.h"
+#include "KVJSecAction.h"
 #include "KVJSensorParser.h"
+#include "KVJSetSecActions.h"
 #include "KVJStatusParser.h"
+#include "SecurityRecords.h"
 #include "StatusRecords.h"
 #include "kvjxml_export.h"
 

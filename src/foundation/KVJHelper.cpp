@@ -3,11 +3,10 @@
 #include <tinyxml.h>
 
 #include <algorithm>
-#include <memory>
-#include <utility>
 
 #include "foundation/convert.h"
 #include "foundation/element.h"
+#include "foundation/tags.h"
 #include "foundation/vocabulary.h"
 
 using kvjxml::textOf;
@@ -25,31 +24,6 @@ bool store(const TiXmlElement* element, Value& value, Convert convert) {
 
 const char* attributeOf(const TiXmlElement* element, const char* name) {
     return element == nullptr || name == nullptr ? nullptr : element->Attribute(name);
-}
-
-using Element = std::unique_ptr<TiXmlElement>;
-
-/// A new element with a text node; none when there is no name or no text.
-Element make(const char* name, const char* content) {
-    if (name == nullptr || content == nullptr) return nullptr;
-    auto element = std::make_unique<TiXmlElement>(name);
-    element->LinkEndChild(std::make_unique<TiXmlText>(content).release());
-    return element;
-}
-
-/// Hands `element` over to `parent` as its last child; false when there is no element or no parent.
-bool append(TiXmlElement* parent, Element element) {
-    return parent != nullptr && element != nullptr && parent->LinkEndChild(element.release()) != nullptr;
-}
-
-/// A setting with its range, its numbers already in the form that the printer takes.
-bool appendSetting(TiXmlElement* parent, const char* name, const char* min, const char* max, const char* content) {
-    Element element = make(name, content);
-    if (element != nullptr) {
-        element->SetAttribute("min", min);
-        element->SetAttribute("max", max);
-    }
-    return append(parent, std::move(element));
 }
 
 }  // namespace
@@ -137,65 +111,57 @@ bool KVJHelper::GetIP(TiXmlElement* /*element*/, char* /*name*/, unsigned long& 
 
 // ---- Value to element ----
 
-TiXmlElement* KVJHelper::AddTag(TiXmlElement* parent, char* name) {
-    if (parent == nullptr || name == nullptr) return nullptr;
-    append(parent, std::make_unique<TiXmlElement>(name));
-    return parent->LastChild()->ToElement();
-}
+TiXmlElement* KVJHelper::AddTag(TiXmlElement* parent, char* name) { return kvjxml::addTag(parent, name); }
 
 bool KVJHelper::AddTagString(TiXmlElement* parent, char* name, const char* value) {
-    return append(parent, make(name, value));
+    return kvjxml::addTag(parent, name, value);
 }
 
 bool KVJHelper::AddTagNumber(TiXmlElement* parent, char* name, int value) {
-    return append(parent, make(name, convert::fromInt(value).c_str()));
+    return kvjxml::addTag(parent, name, convert::fromInt(value).c_str());
 }
 
 bool KVJHelper::AddTagUnsigned(TiXmlElement* parent, char* name, unsigned int value) {
-    return append(parent, make(name, convert::fromUnsigned(value).c_str()));
+    return kvjxml::addTag(parent, name, convert::fromUnsigned(value).c_str());
 }
 
 bool KVJHelper::AddTagLong(TiXmlElement* parent, char* name, long value) {
-    return append(parent, make(name, convert::fromLong(value).c_str()));
+    return kvjxml::addTag(parent, name, convert::fromLong(value).c_str());
 }
 
 bool KVJHelper::AddTagFloat(TiXmlElement* parent, char* name, float value) {
-    return append(parent, make(name, convert::fromDouble(value, 4).c_str()));
+    return kvjxml::addTag(parent, name, convert::fromDouble(value, 4).c_str());
 }
 
 bool KVJHelper::AddTagDouble(TiXmlElement* parent, char* name, double value) {
-    return append(parent, make(name, convert::fromDouble(value, 6).c_str()));
+    return kvjxml::addTag(parent, name, convert::fromDouble(value, 6).c_str());
 }
 
 bool KVJHelper::AddTagBool(TiXmlElement* parent, char* name, long value) {
-    return append(parent, make(name, value != 0 ? "yes" : "no"));
+    return kvjxml::addTag(parent, name, value != 0 ? "yes" : "no");
 }
 
 bool KVJHelper::AddTagPhysicalAddress(TiXmlElement* parent, char* name, const unsigned char* address) {
-    return address != nullptr && append(parent, make(name, convert::fromHardwareAddress(address).c_str()));
+    return address != nullptr && kvjxml::addTag(parent, name, convert::fromHardwareAddress(address).c_str());
 }
 
 bool KVJHelper::AddTagMinMaxVal(TiXmlElement* parent, char* name, const Kavrin::_MinMaxVal& setting) {
-    return appendSetting(parent, name, convert::fromInt(setting.min).c_str(), convert::fromInt(setting.max).c_str(),
-                         convert::fromInt(setting.value).c_str());
+    return kvjxml::addSetting(parent, name, convert::fromInt(setting.min).c_str(),
+                              convert::fromInt(setting.max).c_str(), convert::fromInt(setting.value).c_str());
 }
 
 bool KVJHelper::AddTagMinMaxVal(TiXmlElement* parent, char* name, const Kavrin::_MinMaxValFloat& setting) {
     // The printer expects the maximum as the element's text here, not the value.
     const convert::Digits max = convert::fromDouble(setting.max, 2);
-    return appendSetting(parent, name, convert::fromDouble(setting.min, 2).c_str(), max.c_str(), max.c_str());
+    return kvjxml::addSetting(parent, name, convert::fromDouble(setting.min, 2).c_str(), max.c_str(), max.c_str());
 }
 
 bool KVJHelper::AddTagAttrib(TiXmlElement* element, const char* name, const char* value) {
-    if (element == nullptr || name == nullptr || value == nullptr) return false;
-    element->SetAttribute(name, value);
-    return true;
+    return kvjxml::setAttribute(element, name, value);
 }
 
 bool KVJHelper::AddTagAttrib(TiXmlElement* element, char* name, int value) {
-    if (element == nullptr || name == nullptr) return false;
-    element->SetAttribute(name, value);
-    return true;
+    return kvjxml::setAttribute(element, name, convert::fromInt(value).c_str());
 }
 
 // ---- Word to code ----

@@ -29,6 +29,17 @@ private:
     locale_t before_;
 };
 
+bool hasHexPrefix(const char* text) noexcept { return std::strncmp(text, "0x", 2) == 0; }
+
+template <class Unsigned>
+bool scanNumber(const char* text, int base, Unsigned& value) noexcept {
+    char* end = nullptr;
+    const unsigned long number = strtoul_l(text, &end, base, cLocale());
+    if (end == text) return false;
+    value = static_cast<Unsigned>(number);
+    return true;
+}
+
 /// The last character of `digits` stays zero.
 template <class... Arguments>
 Digits digitsOf(Arguments... arguments) noexcept {
@@ -46,21 +57,14 @@ int toInt(const char* text) noexcept { return static_cast<int>(toLong(text)); }
 float toFloat(const char* text) noexcept { return static_cast<float>(strtod_l(text, nullptr, cLocale())); }
 
 bool scanPrefixedHex(const char* text, unsigned int& value) noexcept {
-    if (std::strncmp(text, "0x", 2) != 0) return false;
-    const char* digits = text + 2;
-    char* end = nullptr;
-    const unsigned long number = strtoul_l(digits, &end, 16, cLocale());
-    if (end == digits) return false;
-    value = static_cast<unsigned int>(number);
-    return true;
+    if (!hasHexPrefix(text)) return false;
+    return scanNumber(text + 2, 16, value);
 }
 
-bool scanUnsignedShort(const char* text, unsigned short& value) noexcept {
-    char* end = nullptr;
-    const unsigned long number = strtoul_l(text, &end, 10, cLocale());
-    if (end == text) return false;
-    value = static_cast<unsigned short>(number);
-    return true;
+bool scanUnsignedShort(const char* text, unsigned short& value) noexcept { return scanNumber(text, 10, value); }
+
+bool scanKeyNumber(const char* text, unsigned long& value) noexcept {
+    return scanNumber(text, hasHexPrefix(text) ? 16 : 10, value);
 }
 
 bool scanFloat(const char* text, float& value) noexcept {

@@ -19,6 +19,8 @@ float toFloat(const char* text) noexcept;
 bool scanPrefixedHex(const char* text, unsigned int& value) noexcept;
 /// "%hu".
 bool scanUnsignedShort(const char* text, unsigned short& value) noexcept;
+/// "%lx" behind "0x", else "%lu".
+bool scanKeyNumber(const char* text, unsigned long& value) noexcept;
 /// "%lf", narrowed.
 bool scanFloat(const char* text, float& value) noexcept;
 

@@ -44,6 +44,11 @@ TiXmlElement* beginRequest(TiXmlDocument& request, const char* rootName) {
     return request.LinkEndChild(root.release())->ToElement();
 }
 
+TiXmlElement* beginRequestAnew(TiXmlDocument& request, const char* rootName) {
+    request.Clear();
+    return beginRequest(request, rootName);
+}
+
 bool print(const TiXmlDocument& request, wchar_t* out, int capacity) {
     if (out == nullptr || capacity < 0) return false;
     return printed(request, [&](const char* text) { toWide(text, out, static_cast<std::size_t>(capacity)); });

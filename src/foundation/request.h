@@ -12,6 +12,9 @@ namespace kvjxml {
 /// @return the root, owned by `request`. What `request` holds already stays in front of them.
 TiXmlElement* beginRequest(TiXmlDocument& request, const char* rootName);
 
+/// The same after clearing `request`, for composers whose objects serve any number of messages.
+TiXmlElement* beginRequestAnew(TiXmlDocument& request, const char* rootName);
+
 /// Prints `request`, indented by four spaces a level, as wide text in the process's locale.
 /// @param out  a buffer of `capacity` wide characters. A text of that length or longer fills it **without** a
 /// terminator;

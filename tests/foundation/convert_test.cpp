@@ -313,6 +313,45 @@ TEST(ScanUnsignedShort, LeavesTheValueAloneWhereNoNumberBegins) {
     expectNoMatch(convert::scanUnsignedShort, {"", " ", "abc", "-", "+", "+-1", "- 1", "x1", ".5"});
 }
 
+TEST(ScanKeyNumber, ReadsHexadecimalDigitsBehindThePrefix) {
+    expectMatches(convert::scanKeyNumber, {{"0x0", 0},
+                                           {"0x1f", 0x1F},
+                                           {"0x1F", 0x1F},
+                                           {"0x1fz", 0x1F},
+                                           {"0x1f 2", 0x1F},
+                                           {"0x123456789ABCDEF0", 0x123456789ABCDEF0},
+                                           {"0xFFFFFFFFFFFFFFFF", ULONG_MAX},
+                                           {"0x" + manyZeros + "1f", 0x1F}});
+}
+
+TEST(ScanKeyNumber, ReadsADecimalNumberWithoutThePrefix) {
+    expectMatches(convert::scanKeyNumber, {{"0", 0},
+                                           {"12", 12},
+                                           {"+12", 12},
+                                           {" \t\n12abc", 12},
+                                           {"007", 7},
+                                           {"1,5", 1},
+                                           {"18446744073709551615", ULONG_MAX},
+                                           {"-1", ULONG_MAX},
+                                           {manyZeros + "7", 7}});
+}
+
+TEST(ScanKeyNumber, ThePrefixIsInLowerCaseAtTheVeryBeginning) {
+    expectMatches(convert::scanKeyNumber, {{"0X1f", 0}, {" 0x1f", 0}, {"-0x1f", 0}, {"00x1f", 0}});
+}
+
+TEST(ScanKeyNumber, ANumberTooLargeIsTheLargest) {
+    expectMatches(convert::scanKeyNumber, {{"0x10000000000000000", ULONG_MAX},
+                                           {"0x1FFFFFFFFFFFFFFFF", ULONG_MAX},
+                                           {"18446744073709551616", ULONG_MAX},
+                                           {manyNines, ULONG_MAX},
+                                           {"0x" + manyNines, ULONG_MAX}});
+}
+
+TEST(ScanKeyNumber, LeavesTheValueAloneWhereNoNumberBegins) {
+    expectNoMatch(convert::scanKeyNumber, {"", " ", "abc", "x1f", "-", "+", "+-1", "- 1", ".5", "f"});
+}
+
 void expectAddress(const std::string& text, const convert::HardwareAddress& address) {
     EXPECT_EQ(convert::toHardwareAddress(text.c_str()), address) << '"' << text.substr(0, 40) << '"';
 }
@@ -441,15 +480,20 @@ TEST(Conversions, AreThoseOfTheCLibraryInItsOwnLocale) {
                              "1.2.3",
                              "4294967296",
                              "2147483648",
-                             "18446744073709551616"}) {
+                             "18446744073709551615",
+                             "18446744073709551616",
+                             "0xFFFFFFFFFFFFFFFF",
+                             "0x10000000000000000"}) {
         int integer = 0;
         long longInteger = 0;
         double real = 0;
         unsigned int hex = 77;
         unsigned short shortInteger = 77;
+        unsigned long key = 77;
         double scanned = 77;
         int hexMatches = 0;
         int shortMatches = 0;
+        int keyMatches = 0;
         int realMatches = 0;
         {
             const LocaleScope c("C");
@@ -458,6 +502,8 @@ TEST(Conversions, AreThoseOfTheCLibraryInItsOwnLocale) {
             real = std::atof(text);
             hexMatches = std::sscanf(text, "0x%x", &hex);
             shortMatches = std::sscanf(text, "%hu", &shortInteger);
+            keyMatches =
+                std::strncmp(text, "0x", 2) == 0 ? std::sscanf(text, "%lx", &key) : std::sscanf(text, "%lu", &key);
             realMatches = std::sscanf(text, "%lf", &scanned);
         }
         EXPECT_EQ(convert::toInt(text), integer) << '"' << text << '"';
@@ -471,6 +517,9 @@ TEST(Conversions, AreThoseOfTheCLibraryInItsOwnLocale) {
         unsigned short ownShort = 77;
         EXPECT_EQ(convert::scanUnsignedShort(text, ownShort), shortMatches == 1) << '"' << text << '"';
         EXPECT_EQ(ownShort, shortInteger) << '"' << text << '"';
+        unsigned long ownKey = 77;
+        EXPECT_EQ(convert::scanKeyNumber(text, ownKey), keyMatches == 1) << '"' << text << '"';
+        EXPECT_EQ(ownKey, key) << '"' << text << '"';
         float own = 77;
         EXPECT_EQ(convert::scanFloat(text, own), realMatches == 1) << '"' << text << '"';
         EXPECT_TRUE(own == static_cast<float>(scanned) || (std::isnan(own) && std::isnan(scanned)))

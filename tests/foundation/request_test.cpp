@@ -98,6 +98,24 @@ TEST(Request, BegunAgainOnOneDocumentStandsBehindTheFirst) {
     EXPECT_EQ(std::string(buffer.data()), declaration + "<media />\n" + declaration + "<media />\n");
 }
 
+TEST(Request, BegunAnewOnOneDocumentTakesThePlaceOfTheFirst) {
+    Request request;
+    const TiXmlElement* root = kvjxml::beginRequestAnew(request, "nonce");
+    EXPECT_EQ(root, request.RootElement());
+    std::vector<char> buffer(1000, '#');
+    EXPECT_TRUE(kvjxml::print(request, buffer.data()));
+    EXPECT_EQ(std::string(buffer.data()), declaration + "<nonce />\n");
+}
+
+TEST(Request, BegunAnewOnAnEmptyDocumentIsTheOnlyOne) {
+    TiXmlDocument request;
+    const TiXmlElement* root = kvjxml::beginRequestAnew(request, "nonce");
+    EXPECT_EQ(root, request.RootElement());
+    std::vector<char> buffer(1000, '#');
+    EXPECT_TRUE(kvjxml::print(request, buffer.data()));
+    EXPECT_EQ(std::string(buffer.data()), declaration + "<nonce />\n");
+}
+
 // ---- Wide text ----
 
 const int length = static_cast<int>(requestText.size());

@@ -1,4 +1,5 @@
-// Every sample reply has the record that it fills beside it: examples/replies/X.xml and tests/golden/X.json.
+// Every sample reply has the record that it fills, examples/replies/X.xml and tests/golden/X.json, and every sample
+// request the document that it becomes, examples/requests/X.json and tests/golden/X.xml.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -23,21 +24,35 @@ std::set<std::string> namesIn(const fs::path& folder, const std::string& extensi
 const fs::path replies = KVJXML_REPLIES;
 const fs::path golden = KVJXML_GOLDEN;
 
-class Golden : public testing::TestWithParam<std::string> {};
+const fs::path requests = KVJXML_REQUESTS;
 
-TEST_P(Golden, ASampleReplyDecodesToItsRecord) {
+class GoldenReply : public testing::TestWithParam<std::string> {};
+
+TEST_P(GoldenReply, DecodesToItsRecord) {
     const auto outcome = runTool("decode " + (replies / (GetParam() + ".xml")).string());
     EXPECT_EQ(outcome.code, 0);
     EXPECT_EQ(outcome.error, "");
     EXPECT_EQ(outcome.out, contentOf(golden / (GetParam() + ".json")));
 }
 
-INSTANTIATE_TEST_SUITE_P(Replies, Golden, testing::ValuesIn(namesIn(replies, ".xml")),
-                         [](const auto& sample) { return sample.param; });
+INSTANTIATE_TEST_SUITE_P(Replies, GoldenReply, testing::ValuesIn(namesIn(replies, ".xml")));
 
-TEST(Golden, EverySampleHasItsRecordAndEveryRecordItsSample) {
+class GoldenRequest : public testing::TestWithParam<std::string> {};
+
+TEST_P(GoldenRequest, EncodesToItsDocument) {
+    const auto outcome = runTool("encode " + GetParam() + " " + (requests / (GetParam() + ".json")).string());
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(outcome.error, "");
+    EXPECT_EQ(outcome.out, contentOf(golden / (GetParam() + ".xml")));
+}
+
+INSTANTIATE_TEST_SUITE_P(Requests, GoldenRequest, testing::ValuesIn(namesIn(requests, ".json")));
+
+TEST(Golden, EverySampleHasItsPairAndEveryPairItsSample) {
     EXPECT_EQ(namesIn(replies, ".xml"), namesIn(golden, ".json"));
+    EXPECT_EQ(namesIn(requests, ".json"), namesIn(golden, ".xml"));
     EXPECT_FALSE(namesIn(replies, ".xml").empty());
+    EXPECT_FALSE(namesIn(requests, ".json").empty());
 }
 
 }  // namespace

@@ -9,15 +9,16 @@
 
 namespace kvjxml::tool {
 
-enum class ExitCode { done, inputOutput, usage, unknownMessage, readerFailed };
+enum class ExitCode { done, inputOutput, usage, unknownMessage, readerFailed, badJson };
 
 /// In the order of ExitCode.
-inline constexpr std::array<std::string_view, 5> exitCodes{
+inline constexpr std::array<std::string_view, 6> exitCodes{
     "done",
     "a file cannot be read or written",
     "wrong use",
     "not a document of a known message",
     "the reader reported failure; what was read is printed all the same",
+    "the JSON is not what the request takes; nothing is composed",
 };
 
 /// The table as --help shows it.

@@ -49,15 +49,15 @@ std::wstring wideOf(const std::string& bytes, const std::string& name) {
 
 }  // namespace
 
+std::string sourceName(const std::string& path) { return path == "-" ? "standard input" : path; }
+
+std::string readBytes(const std::string& path) {
+    if (path == "-") return contentOf(stdin, sourceName(path));
+    return contentOf(File(std::fopen(path.c_str(), "rb")).get(), path);
+}
+
 Input readInput(const std::string& path) {
-    Input input;
-    if (path == "-") {
-        input.name = "standard input";
-        input.bytes = contentOf(stdin, input.name);
-    } else {
-        input.name = path;
-        input.bytes = contentOf(File(std::fopen(path.c_str(), "rb")).get(), input.name);
-    }
+    Input input{sourceName(path), readBytes(path), {}};
     input.text = wideOf(input.bytes, input.name);
     return input;
 }

@@ -15,7 +15,14 @@ struct Input {
     std::wstring text;
 };
 
-/// Reads a file, or standard input for "-".
+/// The bytes of a file, or of standard input for "-".
+/// @throws Failure when it cannot be read.
+std::string readBytes(const std::string& path);
+
+/// What messages call a file, or standard input for "-".
+std::string sourceName(const std::string& path);
+
+/// Reads a reply from a file, or from standard input for "-".
 /// @throws Failure when it cannot be read, or is not text in UTF-8.
 Input readInput(const std::string& path);
 

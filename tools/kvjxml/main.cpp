@@ -7,9 +7,11 @@
 #include <string>
 
 #include "decode.h"
+#include "encode.h"
 #include "failure.h"
 #include "messages.h"
 #include "reference.h"
+#include "requests.h"
 
 namespace {
 
@@ -33,6 +35,16 @@ int run(int argc, char** argv) {
         ->option_text("NAME")
         ->check(CLI::IsMember(roots));
 
+    CLI::App* encode =
+        app.add_subcommand("encode", "Compose a request from JSON; keys are read from it, never from options");
+    encode->footer(kvjxml::tool::exitCodeTable());
+    encode->require_subcommand(1);
+    for (const auto& request : kvjxml::tool::requests()) {
+        CLI::App* verb =
+            encode->add_subcommand(std::string(request.name), "From an object with " + std::string(request.fields));
+        verb->add_option("FILE", file, "The JSON; - for standard input")->capture_default_str();
+    }
+
     const CLI::App* messages =
         app.add_subcommand("messages", "Print every known message element by element, as Markdown");
 
@@ -40,6 +52,10 @@ int run(int argc, char** argv) {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? static_cast<int>(ExitCode::done) : static_cast<int>(ExitCode::usage);
+    }
+    for (const auto& request : kvjxml::tool::requests()) {
+        if (encode->got_subcommand(std::string(request.name)))
+            return static_cast<int>(kvjxml::tool::encode(request, file));
     }
     return static_cast<int>(messages->parsed() ? kvjxml::tool::printReference() : kvjxml::tool::decode(file, message));
 }

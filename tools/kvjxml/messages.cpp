@@ -3,6 +3,7 @@
 #include <KVJGetEIN.h>
 #include <KVJLogParser.h>
 #include <KVJNDC.h>
+#include <KVJSecAction.h>
 #include <KVJSensorParser.h>
 #include <KVJStatusParser.h>
 
@@ -11,6 +12,7 @@
 
 #include "foundation/member.h"
 #include "identity/logs.h"
+#include "security/tables.h"
 #include "status/counters.h"
 #include "status/job.h"
 #include "status/media.h"
@@ -35,6 +37,12 @@ bool read(bool (Parser::*reader)(const char&, int, Record&), const Input& input,
     return (Parser().*reader)(*input.bytes.c_str(), 0, record);
 }
 
+template <class Parser, class Record>
+bool read(bool (Parser::*reader)(wchar_t*, unsigned long, Record&), const Input& input, Record& record) {
+    std::wstring text = input.text;
+    return (Parser().*reader)(text.data(), text.size(), record);
+}
+
 template <class Reader>
 struct ReaderOf;
 template <class Parser, class Reply, class Length, class Record_>
@@ -53,6 +61,7 @@ Decoded decode(const Input& input) {
 using Kavrin::KVJGetEIN;
 using Kavrin::KVJLogParser;
 using Kavrin::KVJNDC;
+using Kavrin::KVJSecAction;
 using Kavrin::KVJSensorParser;
 using Kavrin::KVJStatusParser;
 
@@ -102,15 +111,22 @@ Decoded decodeCleaningLog(const Input& input) {
     return {result, filledToJson(entries, std::size(entries))};
 }
 
-Decoded decodeLaminatorResponse(const Input& input) {
-    char response[512]{};
-    const bool result =
-        KVJNDC().GetLaminatorResponse(*input.text.c_str(), static_cast<int>(input.text.size()), response);
-    return {result, {{"response", valueToJson(response)}}};
+/// Reads a reply that is one text, into a buffer of the size that its reader wants.
+template <std::size_t Capacity, class Parser>
+Decoded decodeText(bool (Parser::*reader)(const wchar_t&, int, char*), std::string_view name, const Input& input) {
+    char text[Capacity]{};
+    const bool result = (Parser().*reader)(*input.text.c_str(), static_cast<int>(input.text.size()), text);
+    return {result, {{name, valueToJson(text)}}};
 }
 
-/// The reply "lam_ndc_rsp" is a text without elements.
-constexpr std::array<Row<int>, 0> laminatorResponse{};
+Decoded decodeLaminatorResponse(const Input& input) {
+    return decodeText<512>(&KVJNDC::GetLaminatorResponse, "response", input);
+}
+
+Decoded decodeNonce(const Input& input) { return decodeText<32>(&KVJSecAction::GetNonceValue, "nonce", input); }
+
+/// A reply that is a text, without elements.
+constexpr std::array<Row<int>, 0> textAlone{};
 
 template <auto Reader, const auto& Table>
 constexpr Message message(std::string_view root, Decoded (*decodeIt)(const Input&)) {
@@ -143,7 +159,15 @@ constexpr Message table[] = {
     message<&KVJLogParser::ParseLogServiceXML, identity::serviceHistory>("get_log_service_history", decodeServiceLog),
     message<&KVJLogParser::ParseCleaningLog, identity::cleaningHistory>("get_log_cleaning_history", decodeCleaningLog),
     message<&KVJGetEIN::GetMagneticTracks, identity::magneticTracks>("data"),
-    message<&KVJNDC::GetLaminatorResponse, laminatorResponse>("lam_ndc_rsp", decodeLaminatorResponse),
+    message<&KVJNDC::GetLaminatorResponse, textAlone>("lam_ndc_rsp", decodeLaminatorResponse),
+    message<&KVJSecAction::GetNonceValue, textAlone>("nonce", decodeNonce),
+    message<&KVJSecAction::ParseHostDHKeyValues, security::keyExchange>("diffie_hellman"),
+    message<&KVJSecAction::ParsePrinterDHKeyValues, security::keyExchange>("diffie_hellman"),
+    message<&KVJSecAction::ParseSecureDirectiveValues, security::directive>("action"),
+    message<&KVJSecAction::ParseSecureRequestValues, security::request>("secure_action_request"),
+    message<&KVJSecAction::ParseSecurityKeys, security::keys>("keys"),
+    message<&KVJSecAction::ParseSetSecurityKeys, security::keyChanges>("keys"),
+    message<&KVJSecAction::ParseGetSecureActionRequest, textAlone>("passkey"),
 };
 
 }  // namespace

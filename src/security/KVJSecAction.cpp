@@ -1,0 +1,104 @@
+#include "KVJSecAction.h"
+
+#include <cstring>
+
+#include "foundation/reply.h"
+#include "security/tables.h"
+
+namespace Kavrin {
+
+using kvjxml::Reply;
+using kvjxml::textOf;
+using kvjxml::walk;
+namespace tables = kvjxml::security;
+
+namespace {
+
+/// A length as the frame takes it; one that no reply has counts as none.
+std::int64_t signedLength(unsigned long length) { return static_cast<std::int64_t>(length); }
+
+}  // namespace
+
+bool KVJSecAction::GetNonceValue(const wchar_t& reply, int length, char* nonce) {
+    constexpr int capacity = 32;
+    if (nonce == nullptr) return false;
+    return KVJHelper::GetString(Reply(reply, length).root("nonce"), *nonce, capacity);
+}
+
+bool KVJSecAction::ParseHostDHKeyValues(const wchar_t& reply, unsigned long length, _tagHostDHKeys& keys) {
+    long printerKey = 0;
+    return ParseDHKeys(Reply(reply, signedLength(length)).root("diffie_hellman"), keys, printerKey);
+}
+
+bool KVJSecAction::ParsePrinterDHKeyValues(const wchar_t& reply, unsigned long length, long& key) {
+    _tagHostDHKeys keys{};
+    return ParseDHKeys(Reply(reply, signedLength(length)).root("diffie_hellman"), keys, key);
+}
+
+bool KVJSecAction::ParseDHKeys(TiXmlElement* element, _tagHostDHKeys& keys, long& printerKey) {
+    tables::KeyExchange exchange{keys.modulus, keys.base, keys.host_interim_key, static_cast<unsigned long>(printerKey),
+                                 false};
+    walk(element, exchange, tables::keyExchange);
+    keys = {exchange.modulus, exchange.base, exchange.host_interim_key};
+    printerKey = static_cast<long>(exchange.printer_interim_key);
+    return exchange.any;
+}
+
+bool KVJSecAction::ParseSecureDirectiveValues(const wchar_t& reply, unsigned long length, _tagSecDirecXML& directive) {
+    Reply message(reply, signedLength(length));
+    TiXmlElement* action = message.root("action");
+    if (textOf(action) != nullptr) {
+        // A text that is cut is still looked through for a name.
+        static_cast<void>(KVJHelper::GetString(action, directive.action[0], sizeof directive.action));
+        GetActionName(directive.action);
+    }
+    return ParseDirectiveValues(action, directive);
+}
+
+bool KVJSecAction::ParseDirectiveValues(TiXmlElement* element, _tagSecDirecXML& directive) {
+    return walk(element, directive, tables::directive);
+}
+
+bool KVJSecAction::ParseSecureRequestValues(wchar_t* reply, unsigned long length, _tagSecReqXML& request) {
+    if (reply == nullptr) return false;
+    return ParseReqValues(Reply(*reply, signedLength(length)).root("secure_action_request"), request);
+}
+
+bool KVJSecAction::ParseReqValues(TiXmlElement* element, _tagSecReqXML& request) {
+    return walk(element, request, tables::request);
+}
+
+bool KVJSecAction::ParseSecurityKeys(const wchar_t& reply, unsigned long length, _tagSecKeys& keys) {
+    return ParseHostNEncryptKey(Reply(reply, signedLength(length)).root("keys"), keys);
+}
+
+bool KVJSecAction::ParseHostNEncryptKey(TiXmlElement* element, _tagSecKeys& keys) {
+    return walk(element, keys, tables::keys);
+}
+
+bool KVJSecAction::ParseSetSecurityKeys(const wchar_t& reply, unsigned long length, _tagSecSetKeys& keys) {
+    return ParsePassKey(Reply(reply, signedLength(length)).root("keys"), keys);
+}
+
+bool KVJSecAction::ParsePassKey(TiXmlElement* element, _tagSecSetKeys& keys) {
+    return walk(element, keys, tables::keyChanges);
+}
+
+bool KVJSecAction::ParsePassKey1(TiXmlElement* element, _tagSecSetKeys& keys) {
+    return walk(element, keys, tables::keyChange);
+}
+
+bool KVJSecAction::ParseGetSecureActionRequest(const wchar_t& reply, unsigned long length, _tagSecSetKeys& keys) {
+    return KVJHelper::GetString(Reply(reply, signedLength(length)).root("passkey"), keys.current_passkey[0],
+                                sizeof keys.current_passkey);
+}
+
+bool KVJSecAction::GetActionName(char* name) {
+    const auto code = codeOf(tables::actionNames, name);
+    if (!code) return false;
+    const char* found = wordOf(tables::actionNames, *code);
+    std::memmove(name, found, std::strlen(found) + 1);
+    return true;
+}
+
+}  // namespace Kavrin

@@ -1,0 +1,137 @@
+/// @file security/tables.h
+/// The printer's side of the hand-shake, element by element.
+#ifndef KVJXML_SECURITY_TABLES_H
+#define KVJXML_SECURITY_TABLES_H
+
+#include <cstring>
+#include <string>
+
+#include "SecurityRecords.h"
+#include "foundation/getters.h"
+#include "foundation/rows.h"
+#include "foundation/tags.h"
+#include "foundation/words.h"
+
+namespace kvjxml::security {
+
+using namespace Kavrin;  // the records
+
+/// The four values of a key exchange, which two readers share.
+struct KeyExchange {
+    unsigned long modulus;
+    unsigned long base;
+    unsigned long host_interim_key;
+    unsigned long printer_interim_key;
+    bool any;  ///< whether any of them had a text
+};
+
+/// Hexadecimal behind "0x", else decimal; a text that is no number leaves the value alone, and counts as read. An
+/// element without text does not take back what came before it.
+template <auto Member>
+inline constexpr Getter<KeyExchange> keyNumber{{nameOf<Member>(), "number, hexadecimal behind `0x`"},
+                                               [](TiXmlElement* element, KeyExchange& exchange) {
+                                                   if (const char* content = textOf(element)) {
+                                                       convert::scanKeyNumber(content, exchange.*Member);
+                                                       exchange.any = true;
+                                                   }
+                                                   return exchange.any;
+                                               }};
+
+/// Sets an attribute of the received element from a field that need not be terminated.
+template <std::size_t N>
+void setFromField(TiXmlElement* element, const char* name, const char (&field)[N]) {
+    const std::string value(field, strnlen(field, N));
+    kvjxml::setAttribute(element, name, value.c_str());
+}
+
+/// The printer's identity is the host's to know: the received element is given what the record holds, and the record is
+/// left alone.
+template <class Record>
+inline constexpr Getter<Record> printerIdentity{
+    {.field = {}, .conversion = "nothing: its attributes `model`, `serial` and `nonce` are set from the record"},
+    [](TiXmlElement* element, Record& record) {
+        setFromField(element, "model", record.model);
+        setFromField(element, "serial", record.serial);
+        setFromField(element, "nonce", record.nonce);
+        return true;
+    }};
+
+inline constexpr Getter<_tagSecReqXML> actionIdentity{
+    {.field = {}, .conversion = "nothing: its attribute `name` is set from the record"},
+    [](TiXmlElement* element, _tagSecReqXML& request) {
+        setFromField(element, "name", request.action);
+        return true;
+    }};
+
+/// The protected actions, in the order that they are looked for: "unlock_printer" contains "lock_printer". The codes
+/// count the rows; the name itself is the action's identity.
+inline constexpr WordTable actionNames({{"cancel_printer_passkey", 1},
+                                        {"set_single_sided", 2},
+                                        {"set_double_sided", 3},
+                                        {"reset_physical_address", 4},
+                                        {"reset_oem", 5},
+                                        {"reset_printer_serial_number", 6},
+                                        {"reset_laminator_serial_number", 7},
+                                        {"clear_error_log", 8},
+                                        {"clear_card_cleaning_log", 9},
+                                        {"clear_service_log", 10},
+                                        {"reset_card_count", 11},
+                                        {"reset_impression_count", 12},
+                                        {"reset_system_defaults", 13},
+                                        {"reset_cards_laminated", 14},
+                                        {"unlock_printer", 15},
+                                        {"lock_printer", 16},
+                                        {"reset_media_auth_cfg", 17}},
+                                       Match::part);
+
+// clang-format off
+
+/// "diffie_hellman"
+inline constexpr auto keyExchange = rows<KeyExchange>({
+    {"modulus",             keyNumber<&KeyExchange::modulus>},
+    {"base",                keyNumber<&KeyExchange::base>},
+    {"host_interim_key",    keyNumber<&KeyExchange::host_interim_key>},
+    {"printer_interim_key", keyNumber<&KeyExchange::printer_interim_key>},
+});
+
+/// "action"
+inline constexpr auto directive = rows<_tagSecDirecXML>({
+    {"printer", printerIdentity<_tagSecDirecXML>},
+    {"hmac",    text<&_tagSecDirecXML::hmac>},
+});
+
+/// "secure_action_request". The printer looks for "printer" beside "action" here, where a request has it inside.
+inline constexpr auto request = rows<_tagSecReqXML>({
+    {"action",  actionIdentity},
+    {"printer", printerIdentity<_tagSecReqXML>},
+});
+
+/// "keys"
+inline constexpr auto keys = rows<_tagSecKeys>({
+    {"host_authentication_key", text<&_tagSecKeys::host_authentication_key>},
+    {"data_encryption_key",     text<&_tagSecKeys::data_encryption_key>},
+    {"printer_lock_key",        text<&_tagSecKeys::printer_lock_key>},
+});
+
+/// "set" in "keys"
+inline constexpr auto keyChange = rows<_tagSecSetKeys>({
+    {"current_passkey",                 text<&_tagSecSetKeys::current_passkey>},
+    {"new_passkey",                     text<&_tagSecSetKeys::new_passkey>},
+    {"current_host_authentication_key", text<&_tagSecSetKeys::current_host_authentication_key>},
+    {"new_host_authentication_key",     text<&_tagSecSetKeys::new_host_authentication_key>},
+    {"current_data_encryption_key",     text<&_tagSecSetKeys::current_data_encryption_key>},
+    {"new_data_encryption_key",         text<&_tagSecSetKeys::new_data_encryption_key>},
+    {"current_printer_lock_key",        text<&_tagSecSetKeys::current_printer_lock_key>},
+    {"new_printer_lock_key",            text<&_tagSecSetKeys::new_printer_lock_key>},
+});
+
+/// "keys" as well
+inline constexpr auto keyChanges = rows<_tagSecSetKeys>({
+    {"set", group<keyChange>},
+});
+
+// clang-format on
+
+}  // namespace kvjxml::security
+
+#endif
