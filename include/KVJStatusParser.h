@@ -82,8 +82,7 @@ public:
     bool getLaminateStatus(TiXmlElement* element, _MediaStatusInfo& laminate);
     /// Appends the texts of the "panel" children of a "sequence" element, without a separator, to `description`.
     /// @param description  a terminated text in a buffer of 32 characters. What does not fit is cut, and the read of
-    /// that
-    ///                     panel is false; so is the whole when `description` is null.
+    ///                     that panel is false; so is the whole when `description` is null.
     /// @return the result of the last panel; false when there is none.
     bool getRibbonDescription(TiXmlElement* element, char* description);
     /// Reads the children of a "get_job_list" element; see ParseJobList.

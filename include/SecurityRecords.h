@@ -14,8 +14,8 @@ namespace Kavrin {
 // NOLINTBEGIN(bugprone-reserved-identifier)
 
 /// The Diffie-Hellman values that the printer proposes: the reply "diffie_hellman", read by
-/// KVJSecAction::ParseHostDHKeyValues. Each is hexadecimal behind "0x", else decimal; a text that is no number leaves
-/// its field as it was.
+/// KVJSecAction::ParseHostDHKeyValues. Each is hexadecimal behind "0x", else decimal; a text that does not begin with a
+/// number leaves its field as it was, and "0x" alone reads as 0.
 struct _tagHostDHKeys {
     unsigned long modulus;           ///< "modulus"
     unsigned long base;              ///< "base"
