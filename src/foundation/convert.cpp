@@ -1,6 +1,8 @@
 #include "foundation/convert.h"
 
+#include <arpa/inet.h>
 #include <strings.h>
+
 #include <charconv>
 #include <clocale>
 #include <cstdio>
@@ -61,6 +63,12 @@ bool scanPrefixedHex(const char* text, unsigned int& value) noexcept {
     return scanNumber(text + 2, 16, value);
 }
 
+bool scanPrefixedHexByte(const char* text, unsigned int& value) noexcept {
+    return std::sscanf(text, "0x%02x", &value) == 1;
+}
+
+bool scanUnsigned(const char* text, unsigned int& value) noexcept { return scanNumber(text, 10, value); }
+
 bool scanUnsignedShort(const char* text, unsigned short& value) noexcept { return scanNumber(text, 10, value); }
 
 bool scanKeyNumber(const char* text, unsigned long& value) noexcept {
@@ -84,6 +92,8 @@ HardwareAddress toHardwareAddress(const char* text) noexcept {
     for (std::size_t i = 0; i < address.size(); ++i) address[i] = static_cast<unsigned char>(bytes[i]);
     return address;
 }
+
+unsigned long toIpAddress(const char* text) noexcept { return inet_addr(text); }
 
 bool isTrue(const char* text) noexcept { return equal(text, "enabled") || equal(text, "yes"); }
 
@@ -113,6 +123,19 @@ Digits fromHardwareAddress(const unsigned char* address) noexcept {
     Digits digits;
     static_cast<void>(std::snprintf(digits.characters.data(), digits.characters.size(), "%02x:%02x:%02x:%02x:%02x:%02x",
                                     address[0], address[1], address[2], address[3], address[4], address[5]));
+    return digits;
+}
+
+Digits fromIpAddress(unsigned long address) noexcept {
+    Digits digits;
+    const in_addr network{static_cast<in_addr_t>(address)};
+    inet_ntop(AF_INET, &network, digits.characters.data(), digits.characters.size());
+    return digits;
+}
+
+Digits fromPrefixedHex(unsigned value) noexcept {
+    Digits digits;
+    static_cast<void>(std::snprintf(digits.characters.data(), digits.characters.size(), "0x%02x", value));
     return digits;
 }
 

@@ -17,6 +17,10 @@ float toFloat(const char* text) noexcept;
 /// The scans say whether the text matched, and leave `value` alone when it did not.
 /// "0x%x": the prefix has to be there, in lower case.
 bool scanPrefixedHex(const char* text, unsigned int& value) noexcept;
+/// "0x%02x": at most two digits behind the prefix.
+bool scanPrefixedHexByte(const char* text, unsigned int& value) noexcept;
+/// "%u": a negative number wraps.
+bool scanUnsigned(const char* text, unsigned int& value) noexcept;
 /// "%hu".
 bool scanUnsignedShort(const char* text, unsigned short& value) noexcept;
 /// "%lx" behind "0x", else "%lu".
@@ -27,6 +31,9 @@ bool scanFloat(const char* text, float& value) noexcept;
 using HardwareAddress = std::array<unsigned char, 6>;
 /// "%02x:%02x:%02x:%02x:%02x:%02x"; what does not match is 0.
 HardwareAddress toHardwareAddress(const char* text) noexcept;
+
+/// An IPv4 address in network byte order, as inet_addr reads it: 4294967295 for a text that is none.
+unsigned long toIpAddress(const char* text) noexcept;
 
 /// Truth words: exactly "enabled" and "yes" are true.
 bool isTrue(const char* text) noexcept;
@@ -51,6 +58,10 @@ Digits fromLong(long value) noexcept;          ///< "%ld"
 Digits fromDouble(double value, int decimals) noexcept;
 /// "%02x:%02x:%02x:%02x:%02x:%02x"
 Digits fromHardwareAddress(const unsigned char* address) noexcept;
+/// Dotted, as inet_ntoa writes it; only the low 32 bits count.
+Digits fromIpAddress(unsigned long address) noexcept;
+/// "0x%02x"
+Digits fromPrefixedHex(unsigned value) noexcept;
 
 }  // namespace kvjxml::convert
 

@@ -41,17 +41,38 @@ inline constexpr Getter<RecordOf<Member>> text{
         return KVJHelper::GetString(element, (record.*Member)[0], capacity);
     }};
 
-/// A word, as its code; an unknown word is that of the table's other texts, or leaves the field alone. Without text the
-/// field is left alone.
+/// A word, as its code; an unknown word is that of the table's other texts, or leaves the value alone. Without text the
+/// value is left alone.
+template <class Value>
+bool readWord(const TiXmlElement* element, Value& value, const Words& table) {
+    const char* content = textOf(element);
+    if (content == nullptr) return false;
+    if (const auto code = codeOf(table, content)) value = static_cast<Value>(*code);
+    return true;
+}
+
 template <auto Member, const auto& Table>
 inline constexpr Getter<RecordOf<Member>> word{
     {.field = nameOf<Member>(), .conversion = "code of the word", .tableName = nameOfTable<Table>(), .table = Table},
-    [](TiXmlElement* element, RecordOf<Member>& record) {
-        const char* content = textOf(element);
-        if (content == nullptr) return false;
-        if (const auto code = codeOf(Table, content)) record.*Member = static_cast<ValueOf<Member>>(*code);
-        return true;
-    }};
+    [](TiXmlElement* element, RecordOf<Member>& record) { return readWord(element, record.*Member, Table); }};
+
+/// The bits of words, added to those that are set already; an unknown word adds none.
+template <auto Member, const auto& Table>
+inline constexpr Getter<RecordOf<Member>> bits{{.field = nameOf<Member>(),
+                                                .conversion = "bit of the word, added",
+                                                .tableName = nameOfTable<Table>(),
+                                                .table = Table},
+                                               [](TiXmlElement* element, RecordOf<Member>& record) {
+                                                   const char* content = textOf(element);
+                                                   if (const auto bit = codeOf(Table, content)) record.*Member |= *bit;
+                                                   return content != nullptr;
+                                               }};
+
+/// A truth word, as KVJHelper::GetBool reads it.
+template <auto Member>
+inline constexpr Getter<RecordOf<Member>> flag{
+    {nameOf<Member>(), "true for exactly `enabled` and `yes`"},
+    [](TiXmlElement* element, RecordOf<Member>& record) { return KVJHelper::GetBool(element, record.*Member); }};
 
 /// A word as a template argument.
 template <std::size_t N>
@@ -108,6 +129,27 @@ inline constexpr Getter<RecordOf<Member>> hardwareAddress{
         return KVJHelper::GetPhysicalAddress(element, record.*Member);
     }};
 
+/// A setting with its range, as KVJConfigParser::getMinMaxVal reads it.
+template <class Setting>
+bool readSetting(TiXmlElement* element, Setting& setting) {
+    char min[] = "min";
+    char max[] = "max";
+    KVJHelper::GetNumberFromAttr(element, min, setting.min);
+    KVJHelper::GetNumberFromAttr(element, max, setting.max);
+    const bool result = KVJHelper::GetNumber(element, setting.value);
+    // Not std::clamp: where the range is the wrong way round, the printer expects its maximum.
+    if (setting.value < setting.min) setting.value = setting.min;
+    if (setting.value > setting.max) setting.value = setting.max;
+    return result;
+}
+
+template <auto Member>
+inline constexpr Getter<RecordOf<Member>> setting{
+    {nameOf<Member>(), std::is_same_v<ValueOf<Member>, Kavrin::_MinMaxVal>
+                           ? "number, brought into the range of `min` and `max`"
+                           : "number with a decimal point, brought into the range of `min` and `max`"},
+    [](TiXmlElement* element, RecordOf<Member>& record) { return readSetting(element, record.*Member); }};
+
 /// A bit set in hexadecimal behind a literal "0x"; any other text leaves it alone and counts as read.
 template <auto Member>
 inline constexpr Getter<RecordOf<Member>> prefixedHex{{nameOf<Member>(), "hexadecimal behind `0x`"},
@@ -117,11 +159,6 @@ inline constexpr Getter<RecordOf<Member>> prefixedHex{{nameOf<Member>(), "hexade
                                                               convert::scanPrefixedHex(content, record.*Member);
                                                           return content != nullptr;
                                                       }};
-
-template <class Record, std::size_t N>
-Record recordOf(const Rows<Record, N>&);
-template <const auto& Table>
-using RecordOfTable = decltype(recordOf(Table));
 
 /// A group of elements, walked with a table of its own into the same record.
 template <const auto& Table>
@@ -156,6 +193,17 @@ inline constexpr Getter<List<RecordOfTable<Table>>> entry{
     {.field = {}, .conversion = "entry of a list", .group = described<Table>},
     [](TiXmlElement* element, List<RecordOfTable<Table>>& list) {
         if (list.filled < list.entries.size()) list.result = walk(element, list.entries[list.filled++], Table);
+        return list.result;
+    }};
+
+template <class Record>
+Record recordOf(const Getter<Record>&);
+
+/// One more entry of a list that has no elements of its own: its getter reads the entry's text.
+template <const auto& Entry>
+inline constexpr Getter<List<RecordOfTable<Entry>>> each{
+    Entry.description, [](TiXmlElement* element, List<RecordOfTable<Entry>>& list) {
+        if (list.filled < list.entries.size()) list.result = Entry.read(element, list.entries[list.filled++]);
         return list.result;
     }};
 

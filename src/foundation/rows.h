@@ -31,7 +31,8 @@ struct DescribedRow;
 struct Description {
     std::string_view field;                 ///< the record's field; empty for a group in the same record
     std::string_view conversion;            ///< in words
-    std::string_view argument{};            ///< the word that a flag is compared with
+    std::string_view argument{};            ///< the word that a flag is compared with or written as
+    std::string_view otherwise{};           ///< the word that any other value is written as
     std::size_t capacity{};                 ///< the size of a text field in bytes
     std::string_view tableName{};           ///< of the table that words are looked up in
     Words table{};                          ///< that table
@@ -41,6 +42,8 @@ struct Description {
 struct DescribedRow {
     std::string_view name;
     Description description;
+    std::string_view condition{};  ///< when it is written, in words; empty for always
+    long section{};                ///< the bit that it is written for; 0 when it is no section
 };
 
 /// How the content of an element gets into a record.
@@ -56,6 +59,11 @@ struct Row {
     std::string_view name;
     Getter<Record> getter;
 };
+
+template <class Record>
+constexpr DescribedRow describe(const Row<Record>& row) {
+    return {row.name, row.getter.description};
+}
 
 template <class Record, std::size_t N>
 using Rows = std::array<Row<Record>, N>;
@@ -78,8 +86,10 @@ template <class Record, std::size_t N>
 bool walk(TiXmlElement* element, Record& record, const Rows<Record, N>& table) {
     if (element == nullptr) return false;
     bool result = false;
-    for (TiXmlElement* child = element->FirstChildElement(); child != nullptr; child = child->NextSiblingElement()) {
-        const auto row = std::ranges::find(table, std::string_view(child->Value()), &Row<Record>::name);
+    for (TiXmlNode* node = element->FirstChild(); node != nullptr; node = node->NextSibling()) {
+        TiXmlElement* const child = node->ToElement();
+        if (child == nullptr) continue;
+        const auto row = std::ranges::find(table, std::string_view(child->ValueStr()), &Row<Record>::name);
         if (row != table.end()) result = row->getter.read(child, record);
     }
     return result;
@@ -89,11 +99,15 @@ bool walk(TiXmlElement* element, Record& record, const Rows<Record, N>& table) {
 template <const auto& Table>
 inline constexpr auto described = [] {
     std::array<DescribedRow, Table.size()> list{};
-    std::ranges::transform(Table, list.begin(), [](const auto& row) {
-        return DescribedRow{row.name, row.getter.description};
-    });
+    std::ranges::transform(Table, list.begin(), [](const auto& row) { return describe(row); });
     return list;
 }();
+
+template <template <class> class RowOf, class Record, std::size_t N>
+Record recordOf(const std::array<RowOf<Record>, N>&);
+/// The record that a table is for.
+template <const auto& Table>
+using RecordOfTable = decltype(recordOf(Table));
 
 }  // namespace kvjxml
 

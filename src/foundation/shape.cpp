@@ -57,7 +57,8 @@ class Scanner {
 public:
     Scanner(const char* text, std::size_t length) noexcept
         : at_(text), end_(text + length), encoding_(begins(text, byteOrderMark) ? Encoding::utf8 : Encoding::unknown) {
-        plain_ = isAscii(text, length) && std::memchr(text, '&', length) == nullptr;
+        ascii_ = isAscii(text, length);
+        plain_ = ascii_ && std::memchr(text, '&', length) == nullptr;
     }
 
     Shape scan() noexcept {
@@ -129,7 +130,11 @@ private:
             const void* found = std::memchr(at_, last, static_cast<std::size_t>(end_ - at_));
             at_ = found == nullptr ? end_ : static_cast<const char*>(found);
         }
-        while (*at_ != '\0' && *at_ != last) skipCharacter(value);
+        const char special[] = {last, '&', '\0'};
+        for (;; skipCharacter(value)) {
+            if (ascii_ && value == nullptr) at_ += std::strcspn(at_, special);
+            if (*at_ == '\0' || *at_ == last) return;
+        }
     }
 
     void skipCharacter(Value* value) noexcept {
@@ -254,7 +259,8 @@ private:
     const char* at_;
     const char* end_;
     Encoding encoding_;
-    bool plain_ = false;  ///< Every byte of the text is a character that stands for itself.
+    bool ascii_ = false;  ///< Every byte of the text is a character.
+    bool plain_ = false;  ///< And there are no references: it stands for itself.
     std::size_t depth_ = 0;
     Shape shape_;
 };

@@ -37,4 +37,16 @@ const char* wordOf(Words table, int code) noexcept {
     return row == table.rows.end() ? nullptr : row->word;
 }
 
+const char* wordOf(Words table, int code, const char* other) noexcept {
+    const char* word = wordOf(table, code);
+    return word == nullptr ? other : word;
+}
+
+bool writeWord(char* buffer, Words table, int code) noexcept {
+    if (buffer == nullptr) return false;
+    const char* word = wordOf(table, code);
+    std::strcpy(buffer, word == nullptr ? "" : word);
+    return word != nullptr;
+}
+
 }  // namespace kvjxml

@@ -1,0 +1,150 @@
+/// @file compose.h
+/// A request is a table too: one row per element, saying its name, how it is written and when. One loop writes them
+/// all, in the table's order. The conversions that rows are made with are in writers.h.
+///
+///     constexpr auto cardTags = tags<_CardInfo>({
+///         {"transfer_temps",        put::part<&_CardInfo::transferTemps, transferTempTags>, withTransfer<_CardInfo>},
+///         {"laminator_adjustments", put::part<&_CardInfo::laminationAdjustments, adjustmentTags>},
+///         {"cal_table",             put::number<&_CardInfo::calTable>},
+///     });
+#ifndef KVJXML_FOUNDATION_COMPOSE_H
+#define KVJXML_FOUNDATION_COMPOSE_H
+
+#include <tinyxml.h>
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+#include "foundation/rows.h"
+#include "foundation/tags.h"
+
+namespace kvjxml {
+
+/// What a host asks for beside the record.
+struct Selection {
+    bool directToCard = false;      ///< The printer prints on the card itself: film and transfer are left out.
+    bool withoutAddresses = false;  ///< Network addresses are left out.
+    long sections = 0;              ///< Bits of the sections that are wanted.
+    int card = 0;                   ///< One of the custom cards alone; 0 for the whole document.
+};
+
+/// How an element is written.
+template <class Record>
+struct Writer {
+    Description description;
+    /// Adds the element `name` to `parent`; false when it cannot be added.
+    bool (*write)(TiXmlElement* parent, const char* name, const Record& record, const Selection& selection);
+};
+
+/// When an element is written.
+template <class Record>
+struct Condition {
+    std::string_view description;
+    bool (*holds)(const Record& record, const Selection& selection);
+};
+
+template <class Record>
+inline constexpr Condition<Record> always{{}, [](const Record&, const Selection&) { return true; }};
+/// Film and transfer are the retransfer printer's.
+template <class Record>
+inline constexpr Condition<Record> withTransfer{
+    "unless printing is direct to card",
+    [](const Record&, const Selection& selection) { return !selection.directToCard; }};
+template <class Record>
+inline constexpr Condition<Record> directToCard{
+    "when printing is direct to card",
+    [](const Record&, const Selection& selection) { return selection.directToCard; }};
+
+template <class Record>
+struct Tag {
+    const char* name;
+    Writer<Record> writer;
+    Condition<Record> when = always<Record>;
+};
+
+template <class Record>
+constexpr DescribedRow describe(const Tag<Record>& tag) {
+    return {tag.name, tag.writer.description, tag.when.description};
+}
+
+template <class Record>
+bool isWanted(const Tag<Record>& tag, const Record& record, const Selection& selection) {
+    return tag.when.holds(record, selection);
+}
+
+/// A row that hosts choose by a bit. Two rows may share one.
+template <class Record>
+struct Section {
+    long bit;
+    const char* name;
+    Writer<Record> writer;
+    Condition<Record> when = always<Record>;
+    bool ofCards = false;  ///< whether it is written for a card alone as well
+};
+
+template <class Record>
+constexpr DescribedRow describe(const Section<Record>& section) {
+    return {section.name, section.writer.description, section.when.description, section.bit};
+}
+
+template <class Record>
+bool isWanted(const Section<Record>& section, const Record& record, const Selection& selection) {
+    return (selection.sections & section.bit) != 0 && (selection.card == 0 || section.ofCards) &&
+           section.when.holds(record, selection);
+}
+
+/// Makes a table.
+template <class Record, std::size_t N>
+consteval std::array<Tag<Record>, N> tags(const Tag<Record> (&list)[N]) {
+    return std::to_array(list);
+}
+template <class Record, std::size_t N>
+consteval std::array<Section<Record>, N> sections(const Section<Record> (&list)[N]) {
+    return std::to_array(list);
+}
+
+/// The one loop. The result is that of the last element written; `result` when there was none.
+template <class Record, template <class> class RowOf, std::size_t N>
+bool compose(TiXmlElement* parent, const Record& record, const std::array<RowOf<Record>, N>& table,
+             const Selection& selection = {}, bool result = false) {
+    for (const auto& row : table) {
+        if (isWanted(row, record, selection)) result = row.writer.write(parent, row.name, record, selection);
+    }
+    return result;
+}
+
+/// One row alone, for the operation that is named after it.
+template <class Record>
+bool compose(TiXmlElement* parent, const Record& record, const Tag<Record>& tag, const Selection& selection = {}) {
+    return isWanted(tag, record, selection) && tag.writer.write(parent, tag.name, record, selection);
+}
+
+/// Adds the element `name` and composes it with a table of its own.
+template <class Record, class Table>
+bool addGroup(TiXmlElement* parent, const char* name, const Record& record, const Table& table,
+              const Selection& selection = {}) {
+    TiXmlElement* group = addTag(parent, name);
+    return group != nullptr && compose(group, record, table, selection);
+}
+
+/// Adds an element `name` for each of `count` entries. A null array has none.
+template <class Entry>
+bool addEntries(TiXmlElement* parent, const char* name, const Entry* entries, int count, const Writer<Entry>& writer,
+                const Selection& selection = {}) {
+    bool result = false;
+    for (int i = 0; entries != nullptr && i < count; ++i) result = writer.write(parent, name, entries[i], selection);
+    return result;
+}
+
+/// Adds the element `name` with an element `entryName` for each entry.
+template <class Entry>
+bool addList(TiXmlElement* parent, const char* name, const char* entryName, const Entry* entries, int count,
+             const Writer<Entry>& writer) {
+    TiXmlElement* list = addTag(parent, name);
+    return list != nullptr && addEntries(list, entryName, entries, count, writer);
+}
+
+}  // namespace kvjxml
+
+#endif

@@ -1,0 +1,146 @@
+/// @file writers.h
+/// The conversions that the rows of a request's table are made with: each makes the writer of one member of a record.
+#ifndef KVJXML_FOUNDATION_WRITERS_H
+#define KVJXML_FOUNDATION_WRITERS_H
+
+#include <cstring>
+#include <string>
+#include <type_traits>
+
+#include "KVJHelper.h"
+#include "foundation/compose.h"
+#include "foundation/convert.h"
+#include "foundation/getters.h"
+#include "foundation/member.h"
+
+namespace kvjxml::put {
+
+/// A decimal number.
+template <auto Member>
+inline constexpr Writer<RecordOf<Member>> number{
+    {nameOf<Member>(), "number"},
+    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
+        if constexpr (std::is_unsigned_v<ValueOf<Member>>) {
+            return addTag(parent, name, convert::fromUnsigned(record.*Member).c_str());
+        } else {
+            return addTag(parent, name, convert::fromInt(record.*Member).c_str());
+        }
+    }};
+
+/// A number with four decimals.
+template <auto Member>
+inline constexpr Writer<RecordOf<Member>> decimal{
+    {nameOf<Member>(), "number with four decimals"},
+    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
+        return addTag(parent, name, convert::fromDouble(record.*Member, 4).c_str());
+    }};
+
+/// A text, which need not be terminated in its field.
+template <auto Member>
+inline constexpr Writer<RecordOf<Member>> text{
+    {nameOf<Member>(), "text"},
+    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
+        const auto& field = record.*Member;
+        return addTag(parent, name, std::string(field, strnlen(field, sizeof field)).c_str());
+    }};
+
+/// One of two words.
+template <auto Member, Literal True, Literal False>
+inline constexpr Writer<RecordOf<Member>> either{
+    {.field = nameOf<Member>(),
+     .conversion = "when true",
+     .argument = literal<True>.characters,
+     .otherwise = literal<False>.characters},
+    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
+        return addTag(parent, name, record.*Member ? literal<True>.characters : literal<False>.characters);
+    }};
+
+template <auto Member>
+inline constexpr const auto& yesOrNo = either<Member, "yes", "no">;
+template <auto Member>
+inline constexpr const auto& enabledOrNot = either<Member, "enabled", "disabled">;
+
+/// The word of a code; a code without one is written as `Otherwise`.
+template <auto Member, const auto& Table, Literal Otherwise = "">
+inline constexpr Writer<RecordOf<Member>> word{
+    {.field = nameOf<Member>(),
+     .conversion = "word of the code",
+     .otherwise = literal<Otherwise>.characters,
+     .tableName = nameOfTable<Table>(),
+     .table = Table},
+    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
+        return addTag(parent, name, wordOf(Table, record.*Member, literal<Otherwise>.characters));
+    }};
+
+/// A setting with its range.
+template <auto Member>
+inline constexpr Writer<RecordOf<Member>> setting{
+    {nameOf<Member>(), std::is_same_v<ValueOf<Member>, Kavrin::_MinMaxVal>
+                           ? "attributes `min` and `max`, and the value"
+                           : "attributes `min` and `max`, and the maximum once more, with two decimals"},
+    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
+        std::string tag(name);  // KVJHelper takes names that it could write to.
+        return KVJHelper::AddTagMinMaxVal(parent, tag.data(), record.*Member);
+    }};
+
+/// Six bytes, "00:1a:2b:3c:4d:5e".
+template <auto Member>
+inline constexpr Writer<RecordOf<Member>> hardwareAddress{
+    {nameOf<Member>(), "hardware address"},
+    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
+        static_assert(sizeof(ValueOf<Member>) == sizeof(convert::HardwareAddress));
+        return addTag(parent, name, convert::fromHardwareAddress(record.*Member).c_str());
+    }};
+
+/// A word that is always the same.
+template <class Record, Literal Word>
+inline constexpr Writer<Record> constant{{.field = {}, .conversion = "always", .argument = literal<Word>.characters},
+                                         [](TiXmlElement* parent, const char* name, const Record&, const Selection&) {
+                                             return addTag(parent, name, literal<Word>.characters);
+                                         }};
+
+/// An element for each bit of a number that has a word, in the order of the words.
+template <auto Member, const auto& Table>
+inline constexpr Writer<RecordOf<Member>> bits{
+    {.field = nameOf<Member>(),
+     .conversion = "an element for each bit",
+     .tableName = nameOfTable<Table>(),
+     .table = Table},
+    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
+        bool result = false;
+        for (const Word& row : Words(Table).rows) {
+            if ((record.*Member & row.code) != 0) result = addTag(parent, name, row.word);
+        }
+        return result;
+    }};
+
+/// A list: an element `EntryName` for each entry of an array.
+template <auto Count, auto Array, Literal EntryName, const auto& Entry>
+inline constexpr Writer<RecordOf<Array>> list{
+    {.field = nameOf<Array>(),
+     .conversion = "a list of",
+     .argument = literal<EntryName>.characters,
+     .group = Entry.description.group},
+    [](TiXmlElement* parent, const char* name, const RecordOf<Array>& record, const Selection&) {
+        return addList(parent, name, literal<EntryName>.characters, record.*Array, record.*Count, Entry);
+    }};
+
+/// A group of elements, composed with a table of its own from the same record.
+template <const auto& Table>
+inline constexpr Writer<RecordOfTable<Table>> group{
+    {.field = {}, .conversion = "group", .group = described<Table>},
+    [](TiXmlElement* parent, const char* name, const RecordOfTable<Table>& record, const Selection& selection) {
+        return addGroup(parent, name, record, Table, selection);
+    }};
+
+/// A group of elements, composed with a table of its own from a record inside the record.
+template <auto Member, const auto& Table>
+inline constexpr Writer<RecordOf<Member>> part{
+    {.field = nameOf<Member>(), .conversion = "group", .group = described<Table>},
+    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection& selection) {
+        return addGroup(parent, name, record.*Member, Table, selection);
+    }};
+
+}  // namespace kvjxml::put
+
+#endif
