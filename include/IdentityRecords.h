@@ -1,5 +1,6 @@
 /// @file IdentityRecords.h
-/// The printer's logs and what it read back from a card: the records that KVJLogParser and KVJGetEIN fill.
+/// Who a printer is, its logs, and what it read back from a card: the records that KVJPrinterIDParser, KVJLogParser and
+/// KVJGetEIN fill.
 ///
 /// Records are plain structures. The host owns them and sets them to zero before the first call; a reader never clears
 /// one, so a field whose element the reply does not carry keeps the value that it had.
@@ -46,6 +47,31 @@ struct __GETTRACK {
 };
 
 // NOLINTEND(bugprone-reserved-identifier)
+
+/// Who a printer is: the reply "printer_id", read by KVJPrinterIDParser::ParsePrinterInfo and written by
+/// KVJSetPrinterInfo. Texts are terminated; a longer one is cut to its field and that read reports false.
+struct KVPrinterInfo {
+    char vendor[32];                    ///< "vendor"
+    char printer_model[32];             ///< "printer_model"
+    unsigned int printer_serial;        ///< "printer_serial": decimal; a text that is no number leaves it alone.
+    unsigned int laminator_serial;      ///< "laminator_serial": likewise.
+    unsigned char physical_address[6];  ///< "physical_address": hardware address, "00:1a:2b:3c:4d:5e".
+    char printhead_serial[32];          ///< "printhead_serial"
+    char oem_country[8];                ///< "oem_country"
+    char firmware_version[32];          ///< "firmware_version"
+    char laminator_fw_version[32];      ///< "laminator_fw_version". Never written.
+    char lam_mab_fw_version[32];        ///< "lam_mab_fw_version". Never written.
+    char reserved_version[32];          ///< Neither read nor written.
+    char hcb_fw_version[32];            ///< "hcb_fw_version". Never written.
+    char mab_fw_version[32];            ///< "mab_fw_version". Never written.
+    char kavrin_version[32];            ///< "kavrin_version": of the printer's command-language firmware.
+    char ethernet_deviceid[256];        ///< "ethernet_deviceid"
+    /// "media_auth_cfg": setting of the media authentication, at most two hexadecimal digits behind "0x", "0x1f" as 31;
+    /// any other text leaves it alone. Written with at least two digits.
+    unsigned int media_auth_cfg;
+    unsigned int reserved;                       ///< Neither read nor written.
+    unsigned char wireless_physical_address[6];  ///< "wireless_physical_address": as `physical_address`.
+};
 
 }  // namespace Kavrin
 

@@ -1,12 +1,20 @@
-// The layout of the logs and read-backs is a contract with hosts that were built against an earlier release.
+// The layout of the identity, logs and read-backs is a contract with hosts that were built against an earlier release.
+#include <tinyxml.h>
+
 #include <cstddef>
+#include <type_traits>
 
 #include "IdentityRecords.h"
+#include "KVJPrinterIDParser.h"
+#include "KVJSetPrinterInfo.h"
 
 using Kavrin::__GETTRACK;
 using Kavrin::_tagCleaningLogEntry;
 using Kavrin::_tagLogServiceValues;
 using Kavrin::_tagLogServiceXML;
+using Kavrin::KVJPrinterIDParser;
+using Kavrin::KVJSetPrinterInfo;
+using Kavrin::KVPrinterInfo;
 
 static_assert(sizeof(_tagLogServiceValues) == 24);
 static_assert(offsetof(_tagLogServiceValues, number) == 0);
@@ -29,3 +37,33 @@ static_assert(sizeof(__GETTRACK) == 768);
 static_assert(offsetof(__GETTRACK, track1) == 0);
 static_assert(offsetof(__GETTRACK, track2) == 256);
 static_assert(offsetof(__GETTRACK, track3) == 512);
+
+static_assert(sizeof(KVPrinterInfo) == 616);
+static_assert(offsetof(KVPrinterInfo, vendor) == 0);
+static_assert(offsetof(KVPrinterInfo, printer_model) == 32);
+static_assert(offsetof(KVPrinterInfo, printer_serial) == 64);
+static_assert(sizeof(KVPrinterInfo::printer_serial) == 4);
+static_assert(offsetof(KVPrinterInfo, laminator_serial) == 68);
+static_assert(offsetof(KVPrinterInfo, physical_address) == 72);
+static_assert(sizeof(KVPrinterInfo::physical_address) == 6);
+static_assert(offsetof(KVPrinterInfo, printhead_serial) == 78);
+static_assert(offsetof(KVPrinterInfo, oem_country) == 110);
+static_assert(offsetof(KVPrinterInfo, firmware_version) == 118);
+static_assert(offsetof(KVPrinterInfo, laminator_fw_version) == 150);
+static_assert(offsetof(KVPrinterInfo, lam_mab_fw_version) == 182);
+static_assert(offsetof(KVPrinterInfo, reserved_version) == 214);
+static_assert(offsetof(KVPrinterInfo, hcb_fw_version) == 246);
+static_assert(offsetof(KVPrinterInfo, mab_fw_version) == 278);
+static_assert(offsetof(KVPrinterInfo, kavrin_version) == 310);
+static_assert(offsetof(KVPrinterInfo, ethernet_deviceid) == 342);
+static_assert(sizeof(KVPrinterInfo::ethernet_deviceid) == 256);
+static_assert(offsetof(KVPrinterInfo, media_auth_cfg) == 600);
+static_assert(sizeof(KVPrinterInfo::media_auth_cfg) == 4);
+static_assert(offsetof(KVPrinterInfo, reserved) == 604);
+static_assert(offsetof(KVPrinterInfo, wireless_physical_address) == 608);
+static_assert(sizeof(KVPrinterInfo::wireless_physical_address) == 6);
+static_assert(std::is_aggregate_v<KVPrinterInfo> && std::is_trivial_v<KVPrinterInfo>);
+
+// Both objects are documents.
+static_assert(std::is_convertible_v<KVJPrinterIDParser*, TiXmlDocument*>);
+static_assert(std::is_convertible_v<KVJSetPrinterInfo*, TiXmlDocument*>);

@@ -1,5 +1,6 @@
 // Every sample reply has the record that it fills, examples/replies/X.xml and tests/golden/X.json, and every sample
-// request the document that it becomes, examples/requests/X.json and tests/golden/X.xml.
+// request the document that it becomes, examples/requests/X.json and tests/golden/X.xml. Where there is more to it,
+// tests/golden/X.stderr is what decoding writes to the standard error stream, the line X.options what encoding is told.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -26,12 +27,15 @@ const fs::path golden = KVJXML_GOLDEN;
 
 const fs::path requests = KVJXML_REQUESTS;
 
+/// The content of a file that need not be there.
+std::string contentIfAny(const fs::path& file) { return fs::exists(file) ? contentOf(file) : ""; }
+
 class GoldenReply : public testing::TestWithParam<std::string> {};
 
 TEST_P(GoldenReply, DecodesToItsRecord) {
     const auto outcome = runTool("decode " + (replies / (GetParam() + ".xml")).string());
     EXPECT_EQ(outcome.code, 0);
-    EXPECT_EQ(outcome.error, "");
+    EXPECT_EQ(outcome.error, contentIfAny(golden / (GetParam() + ".stderr")));
     EXPECT_EQ(outcome.out, contentOf(golden / (GetParam() + ".json")));
 }
 
@@ -40,7 +44,9 @@ INSTANTIATE_TEST_SUITE_P(Replies, GoldenReply, testing::ValuesIn(namesIn(replies
 class GoldenRequest : public testing::TestWithParam<std::string> {};
 
 TEST_P(GoldenRequest, EncodesToItsDocument) {
-    const auto outcome = runTool("encode " + GetParam() + " " + (requests / (GetParam() + ".json")).string());
+    const std::string options = contentIfAny(golden / (GetParam() + ".options"));
+    const auto outcome = runTool("encode " + GetParam() + " " + (requests / (GetParam() + ".json")).string() + " " +
+                                 options.substr(0, options.find('\n')));
     EXPECT_EQ(outcome.code, 0);
     EXPECT_EQ(outcome.error, "");
     EXPECT_EQ(outcome.out, contentOf(golden / (GetParam() + ".xml")));

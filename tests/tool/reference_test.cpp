@@ -37,7 +37,7 @@ TEST(Reference, OutputThatCannotBeWrittenIsCode1) {
 
 TEST(Reference, TheHeadersNameTheElementOfEveryFieldBesideIt) {
     // A field's comment: lines that begin with ///, then its declaration, or ///< behind it.
-    const std::regex declaration(R"(((?: *///[^\n]*\n)*) *[\w ]+ (\w+)(?:\[\w+\])?;([^\n]*))");
+    const std::regex declaration(R"(((?: *///[^\n]*\n)*) *[\w :<>*]+ (\w+)(?:\[\w+\]| : 1| = nullptr)?;([^\n]*))");
     const std::string headers = publicHeaders();
     std::map<std::string, std::string> comments;
     for (const auto& field : matchesOf(headers, declaration)) comments[field[2]] += field[1].str() + field[3].str();
@@ -64,6 +64,18 @@ TEST(Reference, TheHeadersHaveEveryWordOfEveryTable) {
         const std::regex listed(std::string("\"") + word[1].str() + "\"(?:(?:,| and)[\\s/]*\"[^\"]+\")*[\\s/]*" +
                                 word[2].str() + "\\b");
         EXPECT_TRUE(std::regex_search(headers, listed)) << word[1] << " is not in the headers as " << word[2];
+    }
+}
+
+TEST(Reference, TheHeaderHasEverySectionBesideItsBit) {
+    const std::string header = contentOf(std::string(KVJXML_INCLUDE) + "/KVJSetConfig.h") +
+                               contentOf(std::string(KVJXML_INCLUDE) + "/KVJSetPrinterInfo.h");
+    const std::string reference = runTool("messages").out;
+    const auto sections = matchesOf(reference, std::regex("\n\\| `(\\w+)` \\|[^\n]*\\| bit `(0x[0-9a-f]+)`"));
+    ASSERT_EQ(sections.size(), 22U + 2U);
+    for (const auto& section : sections) {
+        const std::regex listed(section[2].str() + " [^\n]*\"" + section[1].str() + "\"");
+        EXPECT_TRUE(std::regex_search(header, listed)) << section[1] << " is not in the header beside " << section[2];
     }
 }
 

@@ -1,16 +1,13 @@
 /// @file arguments.h
-/// The JSON that a request is composed from, read field by field. Whatever is not as the request takes it is refused,
-/// with a JSON pointer to the place: a wrong word in a request ruins cards.
+/// The JSON that a request is composed from, read field by field.
 #ifndef KVJXML_TOOL_ARGUMENTS_H
 #define KVJXML_TOOL_ARGUMENTS_H
 
-#include <limits>
 #include <nlohmann/json.hpp>
 #include <set>
 #include <string>
-#include <string_view>
 
-#include "failure.h"
+#include "place.h"
 
 namespace kvjxml::tool {
 
@@ -36,6 +33,9 @@ public:
     /// The bytes that a document made of these arguments cannot exceed.
     [[nodiscard]] std::size_t room() const { return room_; }
 
+    /// The whole object, for a request that is made of a record.
+    [[nodiscard]] Place whole() const { return {object_, source_}; }
+
     int number(const char* name);
     float decimal(const char* name);
     bool flag(const char* name);
@@ -46,18 +46,16 @@ public:
     /// A text for a field of a record.
     template <std::size_t N>
     void text(const char* name, char (&field)[N]) {
-        const Text value = text(name);
-        if (value.text().size() >= N) refuse(name, "is longer than " + std::to_string(N - 1) + " bytes");
-        value.text().copy(field, N - 1);
+        if (has(name)) whole().at(name).read(field);
     }
 
     /// @throws Failure when there is a field that nothing asked for.
     void expectNoOthers() const;
 
 private:
-    [[noreturn]] void refuse(std::string_view name, const std::string& reason) const;
-    const nlohmann::json* find(const char* name);
-    const nlohmann::json& at(const char* name);
+    bool has(const char* name);
+    template <class Value>
+    Value value(const char* name);
 
     std::string source_;
     nlohmann::json object_;

@@ -14,7 +14,9 @@ namespace {
 
 std::vector<Message> messagesOf(std::string_view root) {
     std::vector<Message> found;
-    std::ranges::copy_if(messages(), std::back_inserter(found), [&](const Message& m) { return m.root == root; });
+    std::ranges::copy_if(messages(), std::back_inserter(found), [&](const Message& m) {
+        return m.root == root || (!m.otherRoot.empty() && m.otherRoot == root);
+    });
     return found;
 }
 

@@ -4,12 +4,14 @@
 
 #include "failure.h"
 #include "input.h"
+#include "sections.h"
 
 namespace kvjxml::tool {
 
-ExitCode encode(const Request& request, const std::string& path) {
+ExitCode encode(const Request& request, const Options& options, const std::string& path) {
+    if (options.listSections) return listSections(request.table);
     Arguments arguments(readBytes(path), sourceName(path));
-    std::cout << request.compose(arguments) << std::flush;
+    std::cout << request.compose(arguments, options) << std::flush;
     if (!std::cout) throw Failure(ExitCode::inputOutput, "standard output: cannot be written");
     return ExitCode::done;
 }

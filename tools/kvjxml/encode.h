@@ -12,7 +12,7 @@ namespace kvjxml::tool {
 
 /// Prints the request that the JSON in the file `path` ("-" for standard input) makes.
 /// @throws Failure
-ExitCode encode(const Request& request, const std::string& path);
+ExitCode encode(const Request& request, const Options& options, const std::string& path);
 
 }  // namespace kvjxml::tool
 

@@ -3,7 +3,10 @@
 #ifndef KVJXML_TOOL_FIELDS_H
 #define KVJXML_TOOL_FIELDS_H
 
+#include <CapabilitiesRecords.h>
+#include <ConfigurationRecords.h>
 #include <IdentityRecords.h>
+#include <MediaRecords.h>
 #include <SecurityRecords.h>
 #include <StatusRecords.h>
 
@@ -12,29 +15,86 @@
 #include <nlohmann/json.hpp>
 #include <string>
 #include <type_traits>
+#include <vector>
 
+#include "foundation/convert.h"
 #include "foundation/member.h"
+#include "shared/card.h"
 
 namespace kvjxml::tool {
 
 using Json = nlohmann::ordered_json;
 
-template <auto... Members>
+template <auto... Fields>
 struct FieldList {};
 
 /// The fields of a record; a record without a list does not compile.
 template <class Record>
 inline constexpr std::nullptr_t fields = nullptr;
 
+// ---- Fields that are more, or less, than one member ----
+
+/// A list: a count and an array of as many entries.
+template <auto Count_, auto Array_>
+struct ListField {
+    static constexpr auto count = Count_;
+    static constexpr auto array = Array_;
+    using Entry = std::remove_pointer_t<ValueOf<Array_>>;
+};
+template <auto Count, auto Array>
+inline constexpr ListField<Count, Array> list{};
+
+/// One bit; the first of a byte stands for all of it.
+template <class Bit_, bool First>
+struct BitField {
+    using Bit = Bit_;
+    static constexpr bool first = First;
+};
+template <class Bit, bool First = false>
+inline constexpr BitField<Bit, First> bitField{};
+
+/// An IPv4 address in network byte order.
+template <auto Member_>
+struct AddressField {
+    static constexpr auto member = Member_;
+};
+template <auto Member>
+inline constexpr AddressField<Member> address{};
+
+// ---- What a field is called, and where it ends in its record ----
+
+template <auto Field>
+struct FieldTraits {
+    static constexpr std::string_view name = nameOf<Field>();
+    static constexpr std::size_t endAfter(std::size_t end) { return endAfter<ValueOf<Field>>(end); }
+    template <class Value>
+    static constexpr std::size_t endAfter(std::size_t end) {
+        return (end + alignof(Value) - 1) / alignof(Value) * alignof(Value) + sizeof(Value);
+    }
+};
+template <auto Count, auto Array, ListField<Count, Array> Field>
+struct FieldTraits<Field> : FieldTraits<Array> {
+    static constexpr std::size_t endAfter(std::size_t end) {
+        return FieldTraits<Array>::endAfter(FieldTraits<Count>::endAfter(end));
+    }
+};
+template <class Bit, bool First, BitField<Bit, First> Field>
+struct FieldTraits<Field> {
+    static constexpr std::string_view name = Bit::name;
+    static constexpr std::size_t endAfter(std::size_t end) { return end + (First ? 1 : 0); }
+};
+template <auto Member, AddressField<Member> Field>
+struct FieldTraits<Field> : FieldTraits<Member> {};
+
 /// Whether a list has all fields of its record: laid out one behind the other, they make the whole record.
-template <class Record, auto... Members>
-consteval bool complete(FieldList<Members...> /*list*/) {
+template <class Record, auto... Fields>
+consteval bool complete(FieldList<Fields...> /*list*/) {
     std::size_t end = 0;
-    const auto align = [&](std::size_t alignment) { end = (end + alignment - 1) / alignment * alignment; };
-    ((align(alignof(ValueOf<Members>)), end += sizeof(ValueOf<Members>)), ...);
-    align(alignof(Record));
-    return end == sizeof(Record);
+    ((end = FieldTraits<Fields>::endAfter(end)), ...);
+    return (end + alignof(Record) - 1) / alignof(Record) * alignof(Record) == sizeof(Record);
 }
+
+// ---- JSON ----
 
 template <class Record>
 Json toJson(const Record& record);
@@ -45,30 +105,62 @@ Json toJson(float value);
 /// A hardware address, "00:1a:2b:3c:4d:5e".
 Json toJson(const unsigned char (&address)[6]);
 
+/// The entries of a list that points to them.
+template <class Entry>
+Json toJson(const std::vector<Entry*>& entries);
+
 template <class Value>
 Json valueToJson(const Value& value) {
     if constexpr (std::is_integral_v<Value>) {
         return value;
+    } else if constexpr (std::is_enum_v<Value>) {
+        return static_cast<int>(value);
     } else if constexpr (std::is_same_v<std::remove_extent_t<Value>, char>) {
         return std::string(value, strnlen(value, sizeof value));
+    } else if constexpr (std::is_pointer_v<Value>) {
+        return toJson(*value);
     } else {
         return toJson(value);
     }
 }
 
-/// The first `count` records of an array.
-template <class Record>
-Json toJson(const Record* records, std::size_t count) {
+/// The first `count` entries of an array.
+template <class Entry>
+Json toJson(const Entry* entries, std::size_t count) {
     Json json = Json::array();
-    std::for_each_n(records, count, [&](const Record& record) { json.push_back(toJson(record)); });
+    std::for_each_n(entries, count, [&](const Entry& entry) { json.push_back(valueToJson(entry)); });
     return json;
 }
 
-template <class Record, auto... Members>
-Json toJson(const Record& record, FieldList<Members...> /*list*/) {
-    static_assert(complete<Record>(FieldList<Members...>{}), "a field of the record is missing in its list");
+template <class Entry>
+Json toJson(const std::vector<Entry*>& entries) {
+    Json json = Json::array();
+    for (const Entry* entry : entries) json.push_back(toJson(*entry));
+    return json;
+}
+
+template <class Record, class Value>
+Json fieldToJson(const Record& record, Value Record::*member) {
+    return valueToJson(record.*member);
+}
+template <class Record, auto Count, auto Array>
+Json fieldToJson(const Record& record, ListField<Count, Array> /*field*/) {
+    return toJson(record.*Array, static_cast<std::size_t>(record.*Count));
+}
+template <class Record, class Bit, bool First>
+Json fieldToJson(const Record& record, BitField<Bit, First> /*field*/) {
+    return Bit::get(record);
+}
+template <class Record, auto Member>
+Json fieldToJson(const Record& record, AddressField<Member> /*field*/) {
+    return convert::fromIpAddress(record.*Member).c_str();
+}
+
+template <class Record, auto... Fields>
+Json toJson(const Record& record, FieldList<Fields...> /*list*/) {
+    static_assert(complete<Record>(FieldList<Fields...>{}), "a field of the record is missing in its list");
     Json json = Json::object();
-    (json.emplace(nameOf<Members>(), valueToJson(record.*Members)), ...);
+    (json.emplace(FieldTraits<Fields>::name, fieldToJson(record, Fields)), ...);
     return json;
 }
 
@@ -378,6 +470,398 @@ inline constexpr FieldList<
     &Kavrin::_tagSecSetKeys::current_passkey,
     &Kavrin::_tagSecSetKeys::new_passkey>
     fields<Kavrin::_tagSecSetKeys>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_PortCaps::portId,
+    &Kavrin::_PortCaps::portType>
+    fields<Kavrin::_PortCaps>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_InterfaceCaps::protocol,
+    &Kavrin::_InterfaceCaps::transport,
+    &Kavrin::_InterfaceCaps::port>
+    fields<Kavrin::_InterfaceCaps>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_OCPLanguageCaps::type,
+    &Kavrin::_OCPLanguageCaps::name>
+    fields<Kavrin::_OCPLanguageCaps>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_SecurityCaps::passkeyProtection,
+    &Kavrin::_SecurityCaps::encryptionAlgorithm>
+    fields<Kavrin::_SecurityCaps>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_FontCaps::name,
+    &Kavrin::_FontCaps::scalable,
+    &Kavrin::_FontCaps::style>
+    fields<Kavrin::_FontCaps>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_TemplateCaps::name,
+    &Kavrin::_TemplateCaps::location>
+    fields<Kavrin::_TemplateCaps>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_BarCodeCaps::name>
+    fields<Kavrin::_BarCodeCaps>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_InternalEncoderInfo::commsChannel,
+    &Kavrin::_InternalEncoderInfo::contactEncoding,
+    &Kavrin::_InternalEncoderInfo::contactlessEncoder,
+    &Kavrin::_InternalEncoderInfo::contactlessEncoder2,
+    &Kavrin::_InternalEncoderInfo::contactStation>
+    fields<Kavrin::_InternalEncoderInfo>{};
+
+template <>
+inline constexpr FieldList<
+    list<&Kavrin::_Capabilities::hostPortCount, &Kavrin::_Capabilities::hostPorts>,
+    list<&Kavrin::_Capabilities::devicePortCount, &Kavrin::_Capabilities::devicePorts>,
+    list<&Kavrin::_Capabilities::swInterfaceCount, &Kavrin::_Capabilities::swInterfaces>,
+    list<&Kavrin::_Capabilities::ocpLanguageCount, &Kavrin::_Capabilities::ocpLanguages>,
+    &Kavrin::_Capabilities::imageSharpeningLevels,
+    &Kavrin::_Capabilities::security,
+    &Kavrin::_Capabilities::ramSize,
+    &Kavrin::_Capabilities::flashSize,
+    list<&Kavrin::_Capabilities::graphicFormatCount, &Kavrin::_Capabilities::graphicFormats>,
+    list<&Kavrin::_Capabilities::fontCount, &Kavrin::_Capabilities::fonts>,
+    list<&Kavrin::_Capabilities::templateCount, &Kavrin::_Capabilities::templates>,
+    list<&Kavrin::_Capabilities::graphicCount, &Kavrin::_Capabilities::graphics>,
+    &Kavrin::_Capabilities::printSystem,
+    &Kavrin::_Capabilities::printType,
+    &Kavrin::_Capabilities::atm,
+    &Kavrin::_Capabilities::magazineCapacity,
+    &Kavrin::_Capabilities::logicalPageLength,
+    &Kavrin::_Capabilities::logicalPageWidth,
+    &Kavrin::_Capabilities::physicalPageLength,
+    &Kavrin::_Capabilities::physicalPageWidth,
+    &Kavrin::_Capabilities::printResolution,
+    &Kavrin::_Capabilities::magHeadType,
+    &Kavrin::_Capabilities::magStripeLocation,
+    &Kavrin::_Capabilities::internalEncoder,
+    list<&Kavrin::_Capabilities::barCodeCount, &Kavrin::_Capabilities::barCodes>,
+    &Kavrin::_Capabilities::laminator,
+    &Kavrin::_Capabilities::laminatorType>
+    fields<Kavrin::_Capabilities>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_MinMaxVal::min,
+    &Kavrin::_MinMaxVal::max,
+    &Kavrin::_MinMaxVal::value>
+    fields<Kavrin::_MinMaxVal>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_MinMaxValFloat::min,
+    &Kavrin::_MinMaxValFloat::max,
+    &Kavrin::_MinMaxValFloat::value>
+    fields<Kavrin::_MinMaxValFloat>{};
+
+template <>
+inline constexpr FieldList<
+    address<&Kavrin::_NetworkParams::ipAddress>,
+    address<&Kavrin::_NetworkParams::subnetMask>,
+    address<&Kavrin::_NetworkParams::gateway>,
+    &Kavrin::_NetworkParams::dhcp,
+    &Kavrin::_NetworkParams::snmp>
+    fields<Kavrin::_NetworkParams>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_WirelessParams::snmp,
+    &Kavrin::_WirelessParams::dhcp,
+    address<&Kavrin::_WirelessParams::ipAddress>,
+    address<&Kavrin::_WirelessParams::subnetMask>,
+    address<&Kavrin::_WirelessParams::gateway>,
+    &Kavrin::_WirelessParams::radio,
+    &Kavrin::_WirelessParams::security,
+    &Kavrin::_WirelessParams::crypto,
+    &Kavrin::_WirelessParams::ssid,
+    &Kavrin::_WirelessParams::bssid,
+    &Kavrin::_WirelessParams::key,
+    &Kavrin::_WirelessParams::channel,
+    &Kavrin::_WirelessParams::country>
+    fields<Kavrin::_WirelessParams>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_USBTimeout::read,
+    &Kavrin::_USBTimeout::write>
+    fields<Kavrin::_USBTimeout>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_PowerAdjustments::yellow,
+    &Kavrin::_PowerAdjustments::magenta,
+    &Kavrin::_PowerAdjustments::cyan,
+    &Kavrin::_PowerAdjustments::kResinFront,
+    &Kavrin::_PowerAdjustments::kResinBack,
+    &Kavrin::_PowerAdjustments::kDye,
+    &Kavrin::_PowerAdjustments::overlay,
+    &Kavrin::_PowerAdjustments::uvFront,
+    &Kavrin::_PowerAdjustments::uvBack,
+    &Kavrin::_PowerAdjustments::inhibit,
+    &Kavrin::_PowerAdjustments::helper,
+    &Kavrin::_PowerAdjustments::xResin>
+    fields<Kavrin::_PowerAdjustments>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_ImagingParams::printheadResistance,
+    &Kavrin::_ImagingParams::mfgPowerAdjustments,
+    &Kavrin::_ImagingParams::userPowerAdjustments>
+    fields<Kavrin::_ImagingParams>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_RGBINT::red,
+    &Kavrin::_RGBINT::green,
+    &Kavrin::_RGBINT::blue>
+    fields<Kavrin::_RGBINT>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_RibbonMotorParams::S0,
+    &Kavrin::_RibbonMotorParams::K0,
+    &Kavrin::_RibbonMotorParams::Kb,
+    &Kavrin::_RibbonMotorParams::Ka,
+    &Kavrin::_RibbonMotorParams::M0,
+    &Kavrin::_RibbonMotorParams::Mb,
+    &Kavrin::_RibbonMotorParams::Ma,
+    &Kavrin::_RibbonMotorParams::VtoI>
+    fields<Kavrin::_RibbonMotorParams>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_MechanicalAdjustments::filmPrintXOffset,
+    &Kavrin::_MechanicalAdjustments::filmPrintYOffset,
+    &Kavrin::_MechanicalAdjustments::filmTransferStartOffset,
+    &Kavrin::_MechanicalAdjustments::cardCenterXOffset,
+    &Kavrin::_MechanicalAdjustments::cardMagXOffset,
+    &Kavrin::_MechanicalAdjustments::cardSmartCardXOffset,
+    &Kavrin::_MechanicalAdjustments::cardSmartCardLfXOffset,
+    &Kavrin::_MechanicalAdjustments::cardSmartCardHfXOffset,
+    &Kavrin::_MechanicalAdjustments::cardSmartCardUhfXOffset,
+    &Kavrin::_MechanicalAdjustments::cardCenterYOffset,
+    &Kavrin::_MechanicalAdjustments::flipperSensorOffset,
+    &Kavrin::_MechanicalAdjustments::cardTransferStartYOffset,
+    &Kavrin::_MechanicalAdjustments::cardTransferEndYOffset,
+    &Kavrin::_MechanicalAdjustments::cardTransferRollYOffset,
+    &Kavrin::_MechanicalAdjustments::filmEndRollTransferOffset,
+    &Kavrin::_MechanicalAdjustments::filmExtraTransferTakeupMove>
+    fields<Kavrin::_MechanicalAdjustments>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_RibbonInfo::type,
+    &Kavrin::_RibbonInfo::description,
+    &Kavrin::_RibbonInfo::ribbonCode,
+    &Kavrin::_RibbonInfo::oemCountry,
+    &Kavrin::_RibbonInfo::initialSize,
+    &Kavrin::_RibbonInfo::panelsRemaining>
+    fields<Kavrin::_RibbonInfo>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_TransferTempInfo::topSingle,
+    &Kavrin::_TransferTempInfo::botSingle,
+    &Kavrin::_TransferTempInfo::topDouble,
+    &Kavrin::_TransferTempInfo::botDouble>
+    fields<Kavrin::_TransferTempInfo>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_TransferSpeedInfo::inputSingle,
+    &Kavrin::_TransferSpeedInfo::outputSingle,
+    &Kavrin::_TransferSpeedInfo::inputDouble,
+    &Kavrin::_TransferSpeedInfo::outputDouble>
+    fields<Kavrin::_TransferSpeedInfo>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_LaminationAdjustmentsNew::topTempAdjust,
+    &Kavrin::_LaminationAdjustmentsNew::botTempAdjust,
+    &Kavrin::_LaminationAdjustmentsNew::speedAdjust>
+    fields<Kavrin::_LaminationAdjustmentsNew>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_CustomCardInfo::type,
+    &Kavrin::_CustomCardInfo::partNumber,
+    &Kavrin::_CustomCardInfo::description,
+    &Kavrin::_CustomCardInfo::thickness,
+    &Kavrin::_CustomCardInfo::coercivity,
+    bitField<MagStripe, true>,
+    bitField<ContactEncode>,
+    bitField<NonContactEncode>,
+    &Kavrin::_CustomCardInfo::transferTemps,
+    &Kavrin::_CustomCardInfo::transferSpeeds,
+    &Kavrin::_CustomCardInfo::calTable,
+    &Kavrin::_CustomCardInfo::laminatorAdjustments>
+    fields<Kavrin::_CustomCardInfo>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_ImageTransferTempInfo::topSingle,
+    &Kavrin::_ImageTransferTempInfo::botSingle,
+    &Kavrin::_ImageTransferTempInfo::topDouble,
+    &Kavrin::_ImageTransferTempInfo::botDouble,
+    &Kavrin::_ImageTransferTempInfo::topSingleOffset,
+    &Kavrin::_ImageTransferTempInfo::botSingleOffset,
+    &Kavrin::_ImageTransferTempInfo::topDoubleOffset,
+    &Kavrin::_ImageTransferTempInfo::botDoubleOffset,
+    &Kavrin::_ImageTransferTempInfo::topTempCal,
+    &Kavrin::_ImageTransferTempInfo::botTempCal,
+    &Kavrin::_ImageTransferTempInfo::topTempTilt,
+    &Kavrin::_ImageTransferTempInfo::botTempTilt>
+    fields<Kavrin::_ImageTransferTempInfo>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_ImageTransferInfo::transferType,
+    &Kavrin::_ImageTransferInfo::transferTemps,
+    &Kavrin::_ImageTransferInfo::transferSpeeds>
+    fields<Kavrin::_ImageTransferInfo>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_laminate_common::patchLengthAdj,
+    &Kavrin::_laminate_common::coarseXOffset,
+    &Kavrin::_laminate_common::speedAdjust,
+    &Kavrin::_laminate_common::passthruSpeedAdj>
+    fields<Kavrin::_laminate_common>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_LaminateInstalled::type,
+    &Kavrin::_LaminateInstalled::description,
+    &Kavrin::_LaminateInstalled::thickness,
+    &Kavrin::_LaminateInstalled::width,
+    &Kavrin::_LaminateInstalled::registration,
+    &Kavrin::_LaminateInstalled::oemCountry,
+    &Kavrin::_LaminateInstalled::initialSize,
+    &Kavrin::_LaminateInstalled::panelsRemaining>
+    fields<Kavrin::_LaminateInstalled>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_laminateControl::xFineAdjustment,
+    &Kavrin::_laminateControl::temperatureAdjustment>
+    fields<Kavrin::_laminateControl>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_Laminate::laminateInstalled,
+    &Kavrin::_Laminate::laminateControl,
+    &Kavrin::_Laminate::laminatePresent>
+    fields<Kavrin::_Laminate>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_LaminationIfo::laminateCommon,
+    &Kavrin::_LaminationIfo::topLaminate,
+    &Kavrin::_LaminationIfo::bottomLaminate>
+    fields<Kavrin::_LaminationIfo>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_CleaningParams::cleaningDeadlineIsSoft,
+    &Kavrin::_CleaningParams::alcoholCardCleaning,
+    &Kavrin::_CleaningParams::preWarning>
+    fields<Kavrin::_CleaningParams>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_KVConfiguration::physicalAddress,
+    &Kavrin::_KVConfiguration::ethernet,
+    &Kavrin::_KVConfiguration::wireless,
+    &Kavrin::_KVConfiguration::usbTimeout,
+    &Kavrin::_KVConfiguration::ocpLanguage,
+    &Kavrin::_KVConfiguration::usbSpeed,
+    &Kavrin::_KVConfiguration::errorControl,
+    &Kavrin::_KVConfiguration::numCardsPrinted,
+    &Kavrin::_KVConfiguration::numLinesPrinted,
+    &Kavrin::_KVConfiguration::standbyTimeout,
+    &Kavrin::_KVConfiguration::imagingParameters,
+    &Kavrin::_KVConfiguration::tricolorSettings,
+    &Kavrin::_KVConfiguration::ribbonMotorParameters,
+    &Kavrin::_KVConfiguration::ribbonSensorOffset,
+    &Kavrin::_KVConfiguration::bemfPotentiometer,
+    &Kavrin::_KVConfiguration::mechAdjustments,
+    &Kavrin::_KVConfiguration::ribbon,
+    &Kavrin::_KVConfiguration::film,
+    &Kavrin::_KVConfiguration::lamination,
+    &Kavrin::_KVConfiguration::customCard1,
+    &Kavrin::_KVConfiguration::customCard2,
+    &Kavrin::_KVConfiguration::transferSettings,
+    &Kavrin::_KVConfiguration::lcdContrast,
+    &Kavrin::_KVConfiguration::cleaning,
+    &Kavrin::_KVConfiguration::internalEncoder,
+    &Kavrin::_KVConfiguration::feederMode>
+    fields<Kavrin::_KVConfiguration>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_CardInfo::type,
+    &Kavrin::_CardInfo::partNumber,
+    &Kavrin::_CardInfo::description,
+    &Kavrin::_CardInfo::thickness,
+    &Kavrin::_CardInfo::coercivity,
+    bitField<MagStripe, true>,
+    bitField<ContactEncode>,
+    bitField<NonContactEncode>,
+    &Kavrin::_CardInfo::transferTemps,
+    &Kavrin::_CardInfo::transferSpeeds,
+    &Kavrin::_CardInfo::laminationAdjustments,
+    &Kavrin::_CardInfo::calTable>
+    fields<Kavrin::_CardInfo>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_MediaRibbonInfo::partNumber,
+    &Kavrin::_MediaRibbonInfo::description>
+    fields<Kavrin::_MediaRibbonInfo>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::_KVMediaInfo::cards,
+    &Kavrin::_KVMediaInfo::films,
+    &Kavrin::_KVMediaInfo::ribbons,
+    &Kavrin::_KVMediaInfo::laminates>
+    fields<Kavrin::_KVMediaInfo>{};
+
+template <>
+inline constexpr FieldList<
+    &Kavrin::KVPrinterInfo::vendor,
+    &Kavrin::KVPrinterInfo::printer_model,
+    &Kavrin::KVPrinterInfo::printer_serial,
+    &Kavrin::KVPrinterInfo::laminator_serial,
+    &Kavrin::KVPrinterInfo::physical_address,
+    &Kavrin::KVPrinterInfo::printhead_serial,
+    &Kavrin::KVPrinterInfo::oem_country,
+    &Kavrin::KVPrinterInfo::firmware_version,
+    &Kavrin::KVPrinterInfo::laminator_fw_version,
+    &Kavrin::KVPrinterInfo::lam_mab_fw_version,
+    &Kavrin::KVPrinterInfo::reserved_version,
+    &Kavrin::KVPrinterInfo::hcb_fw_version,
+    &Kavrin::KVPrinterInfo::mab_fw_version,
+    &Kavrin::KVPrinterInfo::kavrin_version,
+    &Kavrin::KVPrinterInfo::ethernet_deviceid,
+    &Kavrin::KVPrinterInfo::media_auth_cfg,
+    &Kavrin::KVPrinterInfo::reserved,
+    &Kavrin::KVPrinterInfo::wireless_physical_address>
+    fields<Kavrin::KVPrinterInfo>{};
 
 // clang-format on
 

@@ -1,17 +1,28 @@
 #include "messages.h"
 
+#include <KVJCapsParser.h>
+#include <KVJConfigParser.h>
 #include <KVJGetEIN.h>
 #include <KVJLogParser.h>
+#include <KVJMediaParser.h>
 #include <KVJNDC.h>
+#include <KVJPrinterIDParser.h>
 #include <KVJSecAction.h>
 #include <KVJSensorParser.h>
 #include <KVJStatusParser.h>
 
+#include <cstring>
 #include <iterator>
+#include <tuple>
 #include <vector>
 
+#include "capabilities/tables.h"
+#include "configuration/document.h"
 #include "foundation/member.h"
+#include "foundation/reply.h"
 #include "identity/logs.h"
+#include "identity/printer.h"
+#include "media/tables.h"
 #include "security/tables.h"
 #include "status/counters.h"
 #include "status/job.h"
@@ -58,9 +69,13 @@ Decoded decode(const Input& input) {
     return {result, valueToJson(record)};
 }
 
+using Kavrin::KVJCapsParser;
+using Kavrin::KVJConfigParser;
 using Kavrin::KVJGetEIN;
 using Kavrin::KVJLogParser;
+using Kavrin::KVJMediaParser;
 using Kavrin::KVJNDC;
+using Kavrin::KVJPrinterIDParser;
 using Kavrin::KVJSecAction;
 using Kavrin::KVJSensorParser;
 using Kavrin::KVJStatusParser;
@@ -125,12 +140,87 @@ Decoded decodeLaminatorResponse(const Input& input) {
 
 Decoded decodeNonce(const Input& input) { return decodeText<32>(&KVJSecAction::GetNonceValue, "nonce", input); }
 
+// ---- Readers that do not say whether they read anything: a reply with an element in its root had something to read
+// ----
+
+bool hasContent(const Input& input, const char* root, const char* otherRoot = "") {
+    Reply reply(input.bytes.c_str());
+    const TiXmlElement* element = reply.root(root);
+    if (element == nullptr) element = reply.root(otherRoot);
+    return element != nullptr && element->FirstChildElement() != nullptr;
+}
+
+Decoded decodeConfiguration(const Input& input) {
+    Kavrin::_KVConfiguration record{};
+    read(&KVJConfigParser::GetConfiguration, input, record);
+    return {hasContent(input, "configuration", "set_configuration"), toJson(record)};
+}
+
+Decoded decodeMedia(const Input& input) {
+    const auto media = Kavrin::MakeKVMedia();
+    read(&KVJMediaParser::GetMedia, input, *media);
+    return {hasContent(input, "media"), toJson(*media)};
+}
+
+/// An array of the size that a list needs, twice: one to read into, and one that shows where the reader wrote.
+template <class Entry>
+struct ListArrays {
+    explicit ListArrays(int count) : entries(static_cast<std::size_t>(count)), marks(entries.size()) {
+        std::memset(marks.data(), mark, marks.size() * sizeof(Entry));
+    }
+    /// How many entries there are up to the last that was written: the section may have had other elements as well.
+    [[nodiscard]] int filled() const {
+        const std::vector<char> untouched(sizeof(Entry), mark);
+        std::size_t count = marks.size();
+        while (count > 0 && std::memcmp(&marks[count - 1], untouched.data(), sizeof(Entry)) == 0) --count;
+        return static_cast<int>(count);
+    }
+    static constexpr char mark = 0x5A;
+    std::vector<Entry> entries;
+    std::vector<Entry> marks;
+};
+
+template <class Field>
+struct ListsOf {
+    using type = std::tuple<>;
+};
+template <auto Count, auto Array>
+struct ListsOf<ListField<Count, Array>> {
+    using type = std::tuple<ListField<Count, Array>>;
+};
+
+/// The lists among the fields of a record.
+template <auto... Fields>
+auto listsOf(FieldList<Fields...> /*list*/) {
+    return std::tuple_cat(typename ListsOf<std::remove_const_t<decltype(Fields)>>::type{}...);
+}
+
+/// Reads the capabilities in the two calls that their lists want: one for the sizes, one to fill arrays of these sizes.
+template <class... Lists>
+Json capabilitiesToJson(const Input& input, std::tuple<Lists...> /*lists*/) {
+    Kavrin::_Capabilities caps{};
+    read(&KVJCapsParser::GetCapabilities, input, caps);
+    std::tuple<ListArrays<typename Lists::Entry>...> arrays(caps.*Lists::count...);
+    std::apply([&](auto&... array) { ((caps.*Lists::array = array.marks.data()), ...); }, arrays);
+    read(&KVJCapsParser::GetCapabilities, input, caps);
+    std::apply([&](auto&... array) { ((caps.*Lists::array = array.entries.data()), ...); }, arrays);
+    caps.imageSharpeningLevels = 0;  // Reading adds to them.
+    read(&KVJCapsParser::GetCapabilities, input, caps);
+    std::apply([&](auto&... array) { ((caps.*Lists::count = array.filled()), ...); }, arrays);
+    return toJson(caps);
+}
+
+Decoded decodeCapabilities(const Input& input) {
+    return {hasContent(input, "capabilities", "get_capabilities"),
+            capabilitiesToJson(input, listsOf(fields<Kavrin::_Capabilities>))};
+}
+
 /// A reply that is a text, without elements.
 constexpr std::array<Row<int>, 0> textAlone{};
 
 template <auto Reader, const auto& Table>
-constexpr Message message(std::string_view root, Decoded (*decodeIt)(const Input&)) {
-    return {root, nameOf<Reader>(), described<Table>, decodeIt};
+constexpr Message message(std::string_view root, Decoded (*decodeIt)(const Input&), std::string_view otherRoot = {}) {
+    return {root, otherRoot, nameOf<Reader>(), described<Table>, decodeIt};
 }
 
 /// A message that is read in one call into a record that stands for itself.
@@ -156,6 +246,12 @@ constexpr Message table[] = {
     message<&KVJStatusParser::ParseWirelessStatusXML, status::wirelessStatus>("get_wireless_status"),
     message<&KVJStatusParser::ParseWirlessRadioXML, status::wirelessRadioStatus>("get_wireless_radio_status"),
     message<&KVJStatusParser::ParseAccessPoints, status::accessPoints>("AccessPoints", decodeAccessPoints),
+    message<&KVJCapsParser::GetCapabilities, capabilities::whole>("capabilities", decodeCapabilities,
+                                                                  "get_capabilities"),
+    message<&KVJConfigParser::GetConfiguration, configuration::document>("configuration", decodeConfiguration,
+                                                                         "set_configuration"),
+    message<&KVJMediaParser::GetMedia, media::catalogue>("media", decodeMedia),
+    message<&KVJPrinterIDParser::ParsePrinterInfo, identity::printer>("printer_id"),
     message<&KVJLogParser::ParseLogServiceXML, identity::serviceHistory>("get_log_service_history", decodeServiceLog),
     message<&KVJLogParser::ParseCleaningLog, identity::cleaningHistory>("get_log_cleaning_history", decodeCleaningLog),
     message<&KVJGetEIN::GetMagneticTracks, identity::magneticTracks>("data"),

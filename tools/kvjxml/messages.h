@@ -13,12 +13,13 @@
 namespace kvjxml::tool {
 
 struct Decoded {
-    bool result;  ///< what the reader returned
+    bool result;  ///< what the reader returned; whether it had anything to read when it does not say
     Json record;
 };
 
 struct Message {
     std::string_view root;                ///< the reply's root element
+    std::string_view otherRoot;           ///< another that its reader takes; empty when there is none
     std::string_view reader;              ///< the library's operation
     std::span<const DescribedRow> table;  ///< what that operation reads
     Decoded (*decode)(const Input& input);

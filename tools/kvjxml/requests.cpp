@@ -3,16 +3,13 @@
 #include <KVJDeviceControl.h>
 #include <KVJSetSecActions.h>
 
-#include <cwchar>
-#include <vector>
+#include "composed.h"
 
 namespace kvjxml::tool {
 
 namespace {
 
 using Kavrin::KVJSetSecActions;
-
-[[noreturn]] void notComposed() { throw Failure(ExitCode::badJson, "the library did not compose the request"); }
 
 /// Composes narrow text, in a buffer that holds whatever the arguments can become.
 template <class Compose>
@@ -23,22 +20,15 @@ std::string narrow(const Arguments& arguments, Compose compose) {
     return out.data();
 }
 
-/// Composes wide text likewise, and converts it to the UTF-8 that the tool speaks.
 template <class Compose>
 std::string wide(const Arguments& arguments, Compose compose) {
     arguments.expectNoOthers();
-    std::vector<wchar_t> out(arguments.room());
-    if (!compose(out.data(), static_cast<int>(out.size()))) notComposed();
-    std::string text(arguments.room() * 4, '\0');
-    std::mbstate_t state{};
-    const wchar_t* from = out.data();
-    const std::size_t length = std::wcsrtombs(text.data(), &from, text.size(), &state);
-    if (length == static_cast<std::size_t>(-1)) notComposed();
-    text.resize(length);
+    auto text = composed(compose);
+    if (text.empty()) notComposed();
     return text;
 }
 
-std::string motor(Arguments& json) {
+std::string motor(Arguments& json, const Options& /*options*/) {
     const int state = json.number("state");
     const int direction = json.number("direction");
     const int speed = json.number("speed");
@@ -48,7 +38,7 @@ std::string motor(Arguments& json) {
     });
 }
 
-std::string motorMode(Arguments& json) {
+std::string motorMode(Arguments& json, const Options& /*options*/) {
     const int mode = json.number("mode");
     const int period = json.number("period");
     const float rpm = json.decimal("rpm");
@@ -59,7 +49,7 @@ std::string motorMode(Arguments& json) {
     });
 }
 
-std::string cam(Arguments& json) {
+std::string cam(Arguments& json, const Options& /*options*/) {
     Text cam = json.requiredText("cam");
     Text state = json.requiredText("state");
     return narrow(json, [&](char* out, int capacity) {
@@ -67,7 +57,7 @@ std::string cam(Arguments& json) {
     });
 }
 
-std::string calibrate(Arguments& json) {
+std::string calibrate(Arguments& json, const Options& /*options*/) {
     const int calibration = json.number("calibration");
     const float torque = json.decimal("torque");
     const float rpm = json.decimal("rpm");
@@ -76,7 +66,7 @@ std::string calibrate(Arguments& json) {
     });
 }
 
-std::string other(Arguments& json) {
+std::string other(Arguments& json, const Options& /*options*/) {
     Text device = json.requiredText("device");
     Text text = json.text("text");
     Text panel = json.text("panel");
@@ -87,7 +77,7 @@ std::string other(Arguments& json) {
     });
 }
 
-std::string rfid(Arguments& json) {
+std::string rfid(Arguments& json, const Options& /*options*/) {
     Text device = json.requiredText("device");
     const int mode = json.number("mode");
     const int antenna = json.number("antenna");
@@ -96,14 +86,14 @@ std::string rfid(Arguments& json) {
     });
 }
 
-std::string nonce(Arguments& json) {
+std::string nonce(Arguments& json, const Options& /*options*/) {
     Text nonce = json.requiredText("nonce");
     return wide(json, [&](wchar_t* out, int capacity) {
         return KVJSetSecActions().GetNonceXML(nonce.pointer(), out, capacity);
     });
 }
 
-std::string secureActionRequest(Arguments& json) {
+std::string secureActionRequest(Arguments& json, const Options& /*options*/) {
     Text name = json.text("name");
     Text model = json.text("model");
     Text serial = json.text("serial");
@@ -114,7 +104,7 @@ std::string secureActionRequest(Arguments& json) {
     });
 }
 
-std::string secureActionDirective(Arguments& json) {
+std::string secureActionDirective(Arguments& json, const Options& /*options*/) {
     Text model = json.text("model");
     Text serial = json.text("serial");
     Text nonce = json.text("nonce");
@@ -126,14 +116,14 @@ std::string secureActionDirective(Arguments& json) {
     });
 }
 
-std::string passkey(Arguments& json) {
+std::string passkey(Arguments& json, const Options& /*options*/) {
     Text passkey = json.requiredText("passkey");
     return wide(json, [&](wchar_t* out, int capacity) {
         return KVJSetSecActions().GetSecureActionXML(passkey.pointer(), out, capacity);
     });
 }
 
-std::string passkeyChange(Arguments& json) {
+std::string passkeyChange(Arguments& json, const Options& /*options*/) {
     Text current = json.text("current_passkey");
     Text next = json.text("new_passkey");
     return wide(json, [&](wchar_t* out, int capacity) {
@@ -141,7 +131,7 @@ std::string passkeyChange(Arguments& json) {
     });
 }
 
-std::string keys(Arguments& json) {
+std::string keys(Arguments& json, const Options& /*options*/) {
     Kavrin::_tagSecKeys keys{};
     json.text("data_encryption_key", keys.data_encryption_key);
     json.text("host_authentication_key", keys.host_authentication_key);
@@ -150,7 +140,7 @@ std::string keys(Arguments& json) {
                 [&](wchar_t* out, int capacity) { return KVJSetSecActions().SetSecureActionXML(keys, out, capacity); });
 }
 
-std::string keyChange(Arguments& json) {
+std::string keyChange(Arguments& json, const Options& /*options*/) {
     Text passkey = json.text("current_passkey");
     Text currentHost = json.text("current_host_authentication_key");
     Text newHost = json.text("new_host_authentication_key");
@@ -192,6 +182,26 @@ constexpr Request table[] = {
 
 }  // namespace
 
-std::span<const Request> requests() { return table; }
+CLI::Validator oneOf(const NamedNumbers& numbers) {
+    return {[numbers](std::string& text) {
+                const auto found = numbers.find(text);
+                if (found == numbers.end()) {
+                    std::string reason = "\"" + text + "\" is none of";
+                    for (const auto& [name, number] : numbers) reason.append(" ").append(name);
+                    return reason;
+                }
+                text = std::to_string(found->second);
+                return std::string();
+            },
+            ""};
+}
+
+std::span<const Request> valueRequests() { return table; }
+
+std::vector<Request> requests() {
+    std::vector<Request> all(recordRequests().begin(), recordRequests().end());
+    all.insert(all.end(), valueRequests().begin(), valueRequests().end());
+    return all;
+}
 
 }  // namespace kvjxml::tool

@@ -1,0 +1,164 @@
+#include "KVJSetCaps.h"
+
+#include <cstring>
+
+#include "capabilities/tables.h"
+#include "foundation/request.h"
+
+namespace Kavrin {
+
+using kvjxml::addGroup;
+using kvjxml::addList;
+using kvjxml::compose;
+using kvjxml::wordOf;
+using kvjxml::writeWord;
+namespace tables = kvjxml::capabilities;
+
+bool KVJSetCaps::SetCapabilities(const _Capabilities& caps, wchar_t* out, int outLen, int mode, bool directToCard) {
+    directToCard_ = directToCard;
+    root_ = kvjxml::beginRequest(*this, "capabilities");
+    addCapabilities(root_, caps, mode);
+    return saveJob(out, outLen);
+}
+
+bool KVJSetCaps::addCapabilities(TiXmlElement* root, const _Capabilities& caps, int mode) {
+    switch (mode) {
+        case 0:
+            return compose(root, caps, tables::wholeTags, {.directToCard = directToCard_});
+        case 1:
+            return compose(root, caps, tables::magEncoderAlone);
+        case 2:
+            return addInternalEncoderOnly(root, caps.internalEncoder);
+        default:
+            return false;
+    }
+}
+
+// ---- Sections ----
+
+bool KVJSetCaps::addHostPorts(TiXmlElement* under, const _Capabilities& caps) {
+    return compose(under, caps, tables::hostPortsTag);
+}
+
+bool KVJSetCaps::addDevicePorts(TiXmlElement* under, const _Capabilities& caps) {
+    return compose(under, caps, tables::devicePortsTag);
+}
+
+bool KVJSetCaps::addPorts(TiXmlElement* under, const _PortCaps* ports, int count, char* entryName) {
+    return kvjxml::addEntries(under, entryName, ports, count, tables::portTag);
+}
+
+bool KVJSetCaps::addSWInterfaces(TiXmlElement* under, const _InterfaceCaps* interfaces, int count) {
+    return count != 0 &&
+           addList(under, "software_interfaces", "software_interface", interfaces, count, tables::swInterfaceTag);
+}
+
+bool KVJSetCaps::addOcpLanguages(TiXmlElement* under, const _OCPLanguageCaps* languages, int count) {
+    return count != 0 && addList(under, "ocp_languages", "ocp_language", languages, count, tables::languageTag);
+}
+
+bool KVJSetCaps::addImageSharpeningLevels(TiXmlElement* under, const _Capabilities& caps) {
+    return addGroup(under, "image_sharpening_levels", caps, tables::imageSharpeningTags);
+}
+
+bool KVJSetCaps::addSecurityCaps(TiXmlElement* under, const _SecurityCaps& security) {
+    return addGroup(under, "security", security, tables::securityTags);
+}
+
+bool KVJSetCaps::addMemoryCaps(TiXmlElement* under, const _Capabilities& caps) {
+    return addGroup(under, "memory", caps, tables::memoryTags);
+}
+
+bool KVJSetCaps::addGraphicFormatsCaps(TiXmlElement* under, const int* formats, int count) {
+    return addList(under, "graphic_formats", "graphic_format", formats, count, tables::graphicFormatTag);
+}
+
+bool KVJSetCaps::addFontsCaps(TiXmlElement* under, const _FontCaps* fonts, int count) {
+    return addList(under, "fonts", "font", fonts, count, tables::fontTag);
+}
+
+bool KVJSetCaps::addTemplateCaps(TiXmlElement* under, const _TemplateCaps* templates, int count) {
+    return addList(under, "templates", "template", templates, count, tables::templateTag);
+}
+
+bool KVJSetCaps::addGraphicsCaps(TiXmlElement* under, const _TemplateCaps* graphics, int count) {
+    return addList(under, "graphics", "graphic", graphics, count, tables::graphicTag);
+}
+
+bool KVJSetCaps::addMediaPathCaps(TiXmlElement* under, const _Capabilities& caps) {
+    return addGroup(under, "media_path", caps, tables::mediaPathTags);
+}
+
+bool KVJSetCaps::addImageCaps(TiXmlElement* under, const _Capabilities& caps) {
+    return addGroup(under, "image", caps, tables::imageTags);
+}
+
+bool KVJSetCaps::addInternalEncoder(TiXmlElement* under, const _InternalEncoderInfo& encoder) {
+    return addGroup(under, "internal_encoder", encoder, tables::encoderTags);
+}
+
+bool KVJSetCaps::addInternalEncoderOnly(TiXmlElement* under, const _InternalEncoderInfo& encoder) {
+    return compose(under, encoder, tables::encoderAlone);
+}
+
+bool KVJSetCaps::addBarCodes(TiXmlElement* under, const _BarCodeCaps* barCodes, int count) {
+    return addList(under, "barcodes", "barcode", barCodes, count, tables::barCodeTag);
+}
+
+// ---- Codes to words ----
+
+bool KVJSetCaps::portTypeToString(char* buf, int code) { return writeWord(buf, tables::portTypesWritten, code); }
+bool KVJSetCaps::protocolToString(char* buf, int code) { return writeWord(buf, tables::protocols, code); }
+bool KVJSetCaps::transportToString(char* buf, int code) { return writeWord(buf, tables::transports, code); }
+bool KVJSetCaps::graphicFormatToString(char* buf, int code) { return writeWord(buf, tables::graphicFormats, code); }
+bool KVJSetCaps::MagHeadTypeToString(char* buf, int code) { return writeWord(buf, tables::magHeadTypesWritten, code); }
+
+bool KVJSetCaps::encAlgToString(char* buf, int code) {
+    const bool known = writeWord(buf, tables::encryptionAlgorithms, code);
+    if (buf != nullptr && !known) std::strcpy(buf, "none");
+    return known;
+}
+
+bool KVJSetCaps::magStripeLocationToString(char* buf, int code) {
+    return writeWord(buf, tables::magStripeLocations, code);
+}
+
+bool KVJSetCaps::printTypeToString(char* buf, int code) {
+    // Hosts take "2_side" for the case in which they have nothing to do.
+    return writeWord(buf, kvjxml::laminationTypes, code) && code == 1;
+}
+
+bool KVJSetCaps::LamTypeToString(char* buf, _laminatorType code) {
+    if (buf != nullptr && wordOf(tables::laminatorTypesWritten, code) != nullptr) {
+        writeWord(buf, tables::laminatorTypesWritten, code);
+    }
+    return buf != nullptr;
+}
+
+bool KVJSetCaps::LaminatorToString(char* buf, char flag) {
+    return writeWord(buf, tables::laminatorsWritten, flag != 0 ? 1 : 0);
+}
+
+bool KVJSetCaps::printSystemTypeToString(char* buf, int /*code*/) {
+    return writeWord(buf, tables::printSystemsWritten, directToCard_ ? 1 : 0);
+}
+
+bool KVJSetCaps::CommsChannelFromInt(int code, char* buf, int /*ignored*/) {
+    writeWord(buf, kvjxml::commsChannelsInCapabilities, code);
+    return buf != nullptr;
+}
+
+bool KVJSetCaps::ContactlessEncFromInt(int code, char* buf, int /*ignored*/) {
+    writeWord(buf, kvjxml::contactlessEncodersWritten, code);
+    return buf != nullptr;
+}
+
+bool KVJSetCaps::ribbonTypeToString(char* buf, int code) { return writeWord(buf, kvjxml::ribbonTypesWritten, code); }
+bool KVJSetCaps::feederTypeToString(char* buf, int code) { return writeWord(buf, kvjxml::cardMaterials, code); }
+bool KVJSetCaps::feederSmartToString(char* buf, int code) { return writeWord(buf, kvjxml::smartEncoders, code); }
+
+bool KVJSetCaps::saveJob(wchar_t* out, int outLen) { return kvjxml::print(*this, out, outLen); }
+
+bool KVJSetCaps::saveJob(char* path) { return kvjxml::save(*this, path); }
+
+}  // namespace Kavrin

@@ -1,0 +1,383 @@
+/// @file capabilities/tables.h
+/// What a printer can do, element by element, as it is read and as it is written. The printer takes not quite what it
+/// sends; where the two differ, they stand side by side.
+#ifndef KVJXML_CAPABILITIES_TABLES_H
+#define KVJXML_CAPABILITIES_TABLES_H
+
+#include "CapabilitiesRecords.h"
+#include "capabilities/lists.h"
+#include "foundation/getters.h"
+#include "foundation/rows.h"
+#include "foundation/vocabulary.h"
+#include "foundation/words.h"
+#include "foundation/writers.h"
+#include "shared/encoder.h"
+#include "shared/panel.h"
+
+namespace kvjxml::capabilities {
+
+// ---- Words ----
+
+inline constexpr WordTable portTypes{
+    -1, {{"usb_2_0", 0}, {"serial", 1}, {"ethernet_10_100", 2}, {"ethernet_10_100_1G", 3}, {"wifi_enet_802_11g", 4}}};
+/// A printer reports its wireless port, but takes no word for it.
+inline constexpr WordTable portTypesWritten(
+    {{"usb_2_0", 0}, {"serial", 1}, {"ethernet_10_100", 2}, {"ethernet_10_100_1G", 3}});
+
+/// Both directions.
+inline constexpr WordTable protocols{-1, {{"snmp", 0}, {"snmp_trap", 1}, {"http", 2}, {"kavrin", 3}}};
+
+/// Both directions.
+inline constexpr WordTable transports{-1, {{"udp", 0}, {"tcp", 1}, {"usb", 2}, {"usb_2_0", 3}}};
+
+/// Both directions; any other code is written as "none", which the printer does not send.
+inline constexpr WordTable encryptionAlgorithms{-1, {{"aes", 1}, {"3des", 2}}};
+
+/// Both directions. The printer numbers formats as its image decoder does; 3 to 7 are none that it takes.
+inline constexpr WordTable graphicFormats{-1, {{"bmp", 1}, {"jpeg", 2}, {"tga", 8}, {"tiff", 9}, {"raw", 10}}};
+
+/// Both directions; any other code is written as "none", which the printer does not send.
+inline constexpr WordTable fontStyles{0, {{"regular", 1}, {"bold", 2}, {"italic", 3}}};
+
+inline constexpr WordTable magHeadTypes{
+    -1, {{"none", 0}, {"iso", 1}, {"aamva", 2}, {"custom", 3}, {"binary", 4}, {"jis", 5}}};
+/// A printer reports a JIS head, but takes no word for it.
+inline constexpr WordTable magHeadTypesWritten({{"none", 0}, {"iso", 1}, {"aamva", 2}, {"custom", 3}, {"binary", 4}});
+
+/// Both directions.
+inline constexpr WordTable magStripeLocations{-1, {{"back", 0}, {"front", 1}}};
+
+inline constexpr WordTable printSystems{-1, {{"direct", 0}, {"retransfer", 1}}};
+/// By the composer's flag. "direct_to_card" does not read back.
+inline constexpr WordTable printSystemsWritten({{"retransfer", 0}, {"direct_to_card", 1}});
+
+/// By the laminator's flag. "notpresent" reads as any other word does.
+inline constexpr WordTable laminatorsWritten({{"notpresent", 0}, {"present", 1}});
+
+/// laminationTypes reads them; "none" reads as any other word does.
+inline constexpr WordTable laminatorTypesWritten({{"none", 0}, {"1_side", 1}, {"2_side", 2}});
+
+/// Both directions, a bit for each word.
+inline constexpr WordTable sharpeningLevels({{"off", 0x1}, {"normal", 0x2}, {"high", 0x4}, {"low", 0x8}});
+
+// ---- Special rows ----
+
+/// Device ports all go to the first entry: hosts know a printer by its last one.
+template <const auto& Table>
+inline constexpr Getter<List<RecordOfTable<Table>>> firstEntry{
+    {.field = {}, .conversion = "the first entry of a list, each time", .group = described<Table>},
+    [](TiXmlElement* element, List<RecordOfTable<Table>>& list) {
+        list.filled = 0;
+        return entry<Table>.read(element, list);
+    }};
+
+/// A word that is an entry itself.
+inline constexpr Getter<int> graphicFormatWord{
+    {.field = {}, .conversion = "code of the word", .tableName = "graphicFormats", .table = graphicFormats},
+    [](TiXmlElement* element, int& format) { return readWord(element, format, graphicFormats); }};
+inline constexpr Writer<int> graphicFormatTag{
+    {.field = {}, .conversion = "word of the code", .tableName = "graphicFormats", .table = graphicFormats},
+    [](TiXmlElement* parent, const char* name, const int& format, const Selection&) {
+        return addTag(parent, name, wordOf(graphicFormats, format, ""));
+    }};
+
+/// The print system that the printer expects is the one that it is told to use, not the one that it reported.
+inline constexpr Writer<_Capabilities> printSystemTag{
+    {.field = {}, .conversion = "`direct_to_card` or `retransfer`, as the composer is told"},
+    [](TiXmlElement* parent, const char* name, const _Capabilities&, const Selection& selection) {
+        return addTag(parent, name, wordOf(printSystemsWritten, selection.directToCard ? 1 : 0));
+    }};
+
+/// The last word that the printer was told of its laminator. In the whole description it expects that one in the
+/// magnetic encoder's elements as well; it takes a head type only by itself.
+inline constexpr Writer<_Capabilities> laminatorWord{
+    {.field = {}, .conversion = "the word of `laminator_type`; without a laminator `notpresent`"},
+    [](TiXmlElement* parent, const char* name, const _Capabilities& caps, const Selection&) {
+        return addTag(parent, name,
+                      caps.laminator ? wordOf(laminatorTypesWritten, caps.laminatorType, "") : "notpresent");
+    }};
+
+template <auto Count>
+inline constexpr Condition<_Capabilities> unlessZero{
+    "unless the count is 0", [](const _Capabilities& caps, const Selection&) { return caps.*Count != 0; }};
+
+inline constexpr Condition<_Capabilities> withLaminator{
+    "with a laminator", [](const _Capabilities& caps, const Selection&) { return caps.laminator; }};
+
+// clang-format off
+
+// ---- Entries of lists ----
+
+/// "host_port", "device_port"
+inline constexpr auto port = rows<_PortCaps>({
+    {"port_id", number<&_PortCaps::portId>},
+    {"type",    word<&_PortCaps::portType, portTypes>},
+});
+inline constexpr auto portTags = tags<_PortCaps>({
+    {"port_id", put::number<&_PortCaps::portId>},
+    {"type",    put::word<&_PortCaps::portType, portTypesWritten>},
+});
+
+/// "software_interface"
+inline constexpr auto swInterface = rows<_InterfaceCaps>({
+    {"protocol",  word<&_InterfaceCaps::protocol, protocols>},
+    {"transport", word<&_InterfaceCaps::transport, transports>},
+    {"port",      number<&_InterfaceCaps::port>},
+});
+inline constexpr auto swInterfaceTags = tags<_InterfaceCaps>({
+    {"protocol",  put::word<&_InterfaceCaps::protocol, protocols>},
+    {"transport", put::word<&_InterfaceCaps::transport, transports>},
+    {"port",      put::number<&_InterfaceCaps::port>},
+});
+
+/// "font". The printer expects the flag under a second "name", so a composed font reads back with "yes" or "no" for its
+/// name.
+inline constexpr auto font = rows<_FontCaps>({
+    {"name",     text<&_FontCaps::name>},
+    {"scalable", flag<&_FontCaps::scalable>},
+    {"style",    word<&_FontCaps::style, fontStyles>},
+});
+inline constexpr auto fontTags = tags<_FontCaps>({
+    {"name",  put::text<&_FontCaps::name>},
+    {"name",  put::yesOrNo<&_FontCaps::scalable>},
+    {"style", put::word<&_FontCaps::style, fontStyles, "none">},
+});
+
+/// "template", "graphic". A printer is not told where a template is.
+inline constexpr auto stored = rows<_TemplateCaps>({
+    {"name",     text<&_TemplateCaps::name>},
+    {"location", text<&_TemplateCaps::location>},
+});
+inline constexpr auto templateTags = tags<_TemplateCaps>({
+    {"name", put::text<&_TemplateCaps::name>},
+});
+inline constexpr auto graphicTags = tags<_TemplateCaps>({
+    {"name",     put::text<&_TemplateCaps::name>},
+    {"location", put::text<&_TemplateCaps::location>},
+});
+
+/// The text of "barcode" itself.
+inline constexpr const auto& barCode = text<&_BarCodeCaps::name>;
+inline constexpr const auto& barCodeTag = put::text<&_BarCodeCaps::name>;
+
+inline constexpr const auto& portTag = put::group<portTags>;
+inline constexpr const auto& swInterfaceTag = put::group<swInterfaceTags>;
+inline constexpr const auto& languageTag = put::group<panelLanguageTags>;
+inline constexpr const auto& fontTag = put::group<fontTags>;
+inline constexpr const auto& templateTag = put::group<templateTags>;
+inline constexpr const auto& graphicTag = put::group<graphicTags>;
+
+// ---- Lists ----
+
+inline constexpr auto hostPorts      = rows<List<_PortCaps>>({{"host_port", entry<port>}});
+inline constexpr auto devicePorts    = rows<List<_PortCaps>>({{"device_port", firstEntry<port>}});
+inline constexpr auto swInterfaces   = rows<List<_InterfaceCaps>>({{"software_interface", entry<swInterface>}});
+inline constexpr auto ocpLanguages   = rows<List<_OCPLanguageCaps>>({{"ocp_language", entry<panelLanguage>}});
+inline constexpr auto graphicFormatList = rows<List<int>>({{"graphic_format", each<graphicFormatWord>}});
+inline constexpr auto fonts          = rows<List<_FontCaps>>({{"font", entry<font>}});
+inline constexpr auto templates      = rows<List<_TemplateCaps>>({{"template", entry<stored>}});
+inline constexpr auto graphics       = rows<List<_TemplateCaps>>({{"graphic", entry<stored>}});
+inline constexpr auto barCodes       = rows<List<_BarCodeCaps>>({{"barcode", each<barCode>}});
+
+// ---- Sections ----
+
+/// "image_sharpening_levels"
+inline constexpr auto imageSharpening = rows<_Capabilities>({
+    {"image_sharpening_level", bits<&_Capabilities::imageSharpeningLevels, sharpeningLevels>},
+});
+inline constexpr auto imageSharpeningTags = tags<_Capabilities>({
+    {"image_sharpening_level", put::bits<&_Capabilities::imageSharpeningLevels, sharpeningLevels>},
+});
+
+/// "security"
+inline constexpr auto security = rows<_SecurityCaps>({
+    {"passkey_protection",   flag<&_SecurityCaps::passkeyProtection>},
+    {"encryption_algorithm", word<&_SecurityCaps::encryptionAlgorithm, encryptionAlgorithms>},
+});
+inline constexpr auto securityTags = tags<_SecurityCaps>({
+    {"passkey_protection",   put::yesOrNo<&_SecurityCaps::passkeyProtection>},
+    {"encryption_algorithm", put::word<&_SecurityCaps::encryptionAlgorithm, encryptionAlgorithms, "none">},
+});
+
+/// "memory"
+inline constexpr auto memory = rows<_Capabilities>({
+    {"ram",   number<&_Capabilities::ramSize>},
+    {"flash", number<&_Capabilities::flashSize>},
+});
+inline constexpr auto memoryTags = tags<_Capabilities>({
+    {"ram",   put::number<&_Capabilities::ramSize>},
+    {"flash", put::number<&_Capabilities::flashSize>},
+});
+
+/// "media_path"
+inline constexpr auto mediaPath = rows<_Capabilities>({
+    {"atm",               flag<&_Capabilities::atm>},
+    {"magazine_capacity", number<&_Capabilities::magazineCapacity>},
+});
+inline constexpr auto mediaPathTags = tags<_Capabilities>({
+    {"atm",               put::yesOrNo<&_Capabilities::atm>},
+    {"magazine_capacity", put::number<&_Capabilities::magazineCapacity>},
+});
+
+/// "logical_page"
+inline constexpr auto logicalPage = rows<_Capabilities>({
+    {"length", number<&_Capabilities::logicalPageLength>},
+    {"width",  number<&_Capabilities::logicalPageWidth>},
+});
+inline constexpr auto logicalPageTags = tags<_Capabilities>({
+    {"length", put::number<&_Capabilities::logicalPageLength>},
+    {"width",  put::number<&_Capabilities::logicalPageWidth>},
+});
+
+/// "physical_page"
+inline constexpr auto physicalPage = rows<_Capabilities>({
+    {"length", number<&_Capabilities::physicalPageLength>},
+    {"width",  number<&_Capabilities::physicalPageWidth>},
+});
+inline constexpr auto physicalPageTags = tags<_Capabilities>({
+    {"length", put::number<&_Capabilities::physicalPageLength>},
+    {"width",  put::number<&_Capabilities::physicalPageWidth>},
+});
+
+/// "image"
+inline constexpr auto image = rows<_Capabilities>({
+    {"logical_page",     group<logicalPage>},
+    {"physical_page",    group<physicalPage>},
+    {"print_resolution", number<&_Capabilities::printResolution>},
+});
+inline constexpr auto imageTags = tags<_Capabilities>({
+    {"logical_page",     put::group<logicalPageTags>},
+    {"physical_page",    put::group<physicalPageTags>},
+    {"print_resolution", put::number<&_Capabilities::printResolution>},
+});
+
+/// "internal_encoder"
+inline constexpr const auto& encoder =
+    internalEncoder<word<&_InternalEncoderInfo::contactlessEncoder, contactlessEncoders>>;
+inline constexpr const auto& encoderTags = internalEncoderTags<commsChannelsInCapabilities>;
+
+// ---- The whole ----
+
+inline constexpr const auto& printSystem = word<&_Capabilities::printSystem, printSystems>;
+inline constexpr const auto& printType = word<&_Capabilities::printType, laminationTypes>;
+inline constexpr const auto& laminator = is<&_Capabilities::laminator, "present">;
+inline constexpr const auto& laminatorType = word<&_Capabilities::laminatorType, laminationTypes>;
+
+/// "capabilities", "get_capabilities"
+inline constexpr auto whole = rows<Reading>({
+    {"host_ports",              list<&_Capabilities::hostPortCount, &_Capabilities::hostPorts, hostPorts>},
+    {"device_ports",            list<&_Capabilities::devicePortCount, &_Capabilities::devicePorts, devicePorts>},
+    {"software_interfaces",     list<&_Capabilities::swInterfaceCount, &_Capabilities::swInterfaces, swInterfaces>},
+    {"ocp_languages",           list<&_Capabilities::ocpLanguageCount, &_Capabilities::ocpLanguages, ocpLanguages>},
+    {"image_sharpening_levels", plain<group<imageSharpening>>},
+    {"security",                plain<part<&_Capabilities::security, security>>},
+    {"memory",                  plain<group<memory>>},
+    {"graphic_formats",         list<&_Capabilities::graphicFormatCount, &_Capabilities::graphicFormats, graphicFormatList>},
+    {"fonts",                   list<&_Capabilities::fontCount, &_Capabilities::fonts, fonts>},
+    {"templates",               list<&_Capabilities::templateCount, &_Capabilities::templates, templates>},
+    {"graphics",                list<&_Capabilities::graphicCount, &_Capabilities::graphics, graphics>},
+    {"print_system",            plain<printSystem>},
+    {"print_type",              plain<printType>},
+    {"laminator",               plain<laminator>},
+    {"laminator_type",          plain<laminatorType>},
+    {"media_path",              plain<group<mediaPath>>},
+    {"image",                   plain<group<image>>},
+    {"mag_encoder",             plain<word<&_Capabilities::magHeadType, magHeadTypes>>},
+    {"mag_stripe",              plain<word<&_Capabilities::magStripeLocation, magStripeLocations>>},
+    {"internal_encoder",        plain<part<&_Capabilities::internalEncoder, encoder>>},
+    {"barcodes",                list<&_Capabilities::barCodeCount, &_Capabilities::barCodes, barCodes>},
+});
+
+inline constexpr Tag<_Capabilities> hostPortsTag{
+    "host_ports", put::list<&_Capabilities::hostPortCount, &_Capabilities::hostPorts, "host_port", portTag>,
+    unlessZero<&_Capabilities::hostPortCount>};
+inline constexpr Tag<_Capabilities> devicePortsTag{
+    "device_ports", put::list<&_Capabilities::devicePortCount, &_Capabilities::devicePorts, "device_port", portTag>,
+    unlessZero<&_Capabilities::devicePortCount>};
+
+inline constexpr auto wholeTags = tags<_Capabilities>({
+    hostPortsTag,
+    devicePortsTag,
+    {"software_interfaces",     put::list<&_Capabilities::swInterfaceCount, &_Capabilities::swInterfaces,
+                                          "software_interface", swInterfaceTag>,
+                                unlessZero<&_Capabilities::swInterfaceCount>},
+    {"ocp_languages",           put::list<&_Capabilities::ocpLanguageCount, &_Capabilities::ocpLanguages,
+                                          "ocp_language", languageTag>,
+                                unlessZero<&_Capabilities::ocpLanguageCount>},
+    {"image_sharpening_levels", put::group<imageSharpeningTags>},
+    {"security",                put::part<&_Capabilities::security, securityTags>},
+    {"memory",                  put::group<memoryTags>},
+    {"graphic_formats",         put::list<&_Capabilities::graphicFormatCount, &_Capabilities::graphicFormats,
+                                          "graphic_format", graphicFormatTag>},
+    {"fonts",                   put::list<&_Capabilities::fontCount, &_Capabilities::fonts, "font", fontTag>},
+    {"templates",               put::list<&_Capabilities::templateCount, &_Capabilities::templates,
+                                          "template", templateTag>},
+    {"graphics",                put::list<&_Capabilities::graphicCount, &_Capabilities::graphics,
+                                          "graphic", graphicTag>},
+    {"print_system",            printSystemTag},
+    {"print_type",              put::word<&_Capabilities::printType, laminationTypes>},
+    {"laminator",               put::either<&_Capabilities::laminator, "present", "notpresent">},
+    {"laminator_type",          laminatorWord, withLaminator},
+    {"media_path",              put::group<mediaPathTags>},
+    {"image",                   put::group<imageTags>},
+    {"mag_encoder",             laminatorWord},
+    {"mag_stripe",              laminatorWord},
+    {"internal_encoder",        put::part<&_Capabilities::internalEncoder, encoderTags>},
+    {"barcodes",                put::list<&_Capabilities::barCodeCount, &_Capabilities::barCodes,
+                                          "barcode", barCodeTag>},
+});
+
+// ---- The encoders alone ----
+
+inline constexpr auto magEncoderAlone = tags<_Capabilities>({
+    {"mag_encoder", put::word<&_Capabilities::magHeadType, magHeadTypesWritten>},
+});
+
+// clang-format on
+
+using EncoderCondition = Condition<_InternalEncoderInfo>;
+inline constexpr EncoderCondition withContactStation{
+    "with a contact station", [](const _InternalEncoderInfo& info, const Selection&) { return info.contactStation; }};
+inline constexpr EncoderCondition withContact{
+    "with contact encoding", [](const _InternalEncoderInfo& info, const Selection&) { return info.contactEncoding; }};
+inline constexpr EncoderCondition withContactless{
+    "with a contactless encoder",
+    [](const _InternalEncoderInfo& info, const Selection&) { return info.contactlessEncoder != 0; }};
+inline constexpr EncoderCondition withEither{"with either encoder",
+                                             [](const _InternalEncoderInfo& info, const Selection&) {
+                                                 return info.contactlessEncoder != 0 || info.contactEncoding;
+                                             }};
+inline constexpr EncoderCondition withAny{"with a channel or either encoder",
+                                          [](const _InternalEncoderInfo& info, const Selection& selection) {
+                                              return info.commsChannel != 0 || withEither.holds(info, selection);
+                                          }};
+
+// clang-format off
+
+/// "internal_encoder"; its channel is always USB.
+inline constexpr auto encoderAloneTags = tags<_InternalEncoderInfo>({
+    {"comms_channel",       put::constant<_InternalEncoderInfo, "usb_2_0">, withEither},
+    {"contact_encoding",    put::constant<_InternalEncoderInfo, "yes">, withContact},
+    {"contactless_encoder", put::word<&_InternalEncoderInfo::contactlessEncoder, contactlessEncodersWritten>,
+                            withContactless},
+});
+
+inline constexpr Writer<_InternalEncoderInfo> encoderAloneTag{
+    {.field = {}, .conversion = "group", .group = described<encoderAloneTags>},
+    [](TiXmlElement* parent, const char* name, const _InternalEncoderInfo& info, const Selection&) {
+        TiXmlElement* element = addTag(parent, name);
+        // Written even when there is nothing to say in it.
+        compose(element, info, encoderAloneTags);
+        return element != nullptr;
+    }};
+
+inline constexpr auto encoderAlone = tags<_InternalEncoderInfo>({
+    {"contact_station",  put::constant<_InternalEncoderInfo, "yes">, withContactStation},
+    {"internal_encoder", encoderAloneTag, withAny},
+});
+
+// clang-format on
+
+}  // namespace kvjxml::capabilities
+
+#endif

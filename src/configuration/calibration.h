@@ -1,0 +1,141 @@
+/// @file configuration/calibration.h
+/// How a printer is calibrated, element by element, as it is read and as it is written: print head, ribbon motor and
+/// mechanics.
+#ifndef KVJXML_CONFIGURATION_CALIBRATION_H
+#define KVJXML_CONFIGURATION_CALIBRATION_H
+
+#include "ConfigurationRecords.h"
+#include "foundation/getters.h"
+#include "foundation/writers.h"
+
+namespace kvjxml::configuration {
+
+using namespace Kavrin;  // the records
+
+// clang-format off
+
+/// "mfg_power_adjustments", "user_power_adjustments"
+inline constexpr auto power = rows<_PowerAdjustments>({
+    {"yellow",        setting<&_PowerAdjustments::yellow>},
+    {"magenta",       setting<&_PowerAdjustments::magenta>},
+    {"cyan",          setting<&_PowerAdjustments::cyan>},
+    {"k-resin_front", setting<&_PowerAdjustments::kResinFront>},
+    {"k-resin_back",  setting<&_PowerAdjustments::kResinBack>},
+    {"k-dye",         setting<&_PowerAdjustments::kDye>},
+    {"overlay",       setting<&_PowerAdjustments::overlay>},
+    {"uv_front",      setting<&_PowerAdjustments::uvFront>},
+    {"uv_back",       setting<&_PowerAdjustments::uvBack>},
+    {"inhibit",       setting<&_PowerAdjustments::inhibit>},
+    {"helper",        setting<&_PowerAdjustments::helper>},
+    {"x-resin",       setting<&_PowerAdjustments::xResin>},
+});
+inline constexpr auto powerTags = tags<_PowerAdjustments>({
+    {"yellow",        put::setting<&_PowerAdjustments::yellow>},
+    {"magenta",       put::setting<&_PowerAdjustments::magenta>},
+    {"cyan",          put::setting<&_PowerAdjustments::cyan>},
+    {"k-resin_front", put::setting<&_PowerAdjustments::kResinFront>},
+    {"k-resin_back",  put::setting<&_PowerAdjustments::kResinBack>},
+    {"k-dye",         put::setting<&_PowerAdjustments::kDye>},
+    {"overlay",       put::setting<&_PowerAdjustments::overlay>},
+    {"uv_front",      put::setting<&_PowerAdjustments::uvFront>},
+    {"uv_back",       put::setting<&_PowerAdjustments::uvBack>},
+    {"helper",        put::setting<&_PowerAdjustments::helper>},
+    {"x-resin",       put::setting<&_PowerAdjustments::xResin>},
+    {"inhibit",       put::setting<&_PowerAdjustments::inhibit>, withTransfer<_PowerAdjustments>},
+});
+
+/// "imaging_parameters". The maker's adjustments are not the host's to change.
+inline constexpr auto imaging = rows<_ImagingParams>({
+    {"printhead_resistance",   setting<&_ImagingParams::printheadResistance>},
+    {"mfg_power_adjustments",  part<&_ImagingParams::mfgPowerAdjustments, power>},
+    {"user_power_adjustments", part<&_ImagingParams::userPowerAdjustments, power>},
+});
+inline constexpr auto imagingTags = tags<_ImagingParams>({
+    {"printhead_resistance",   put::setting<&_ImagingParams::printheadResistance>},
+    {"user_power_adjustments", put::part<&_ImagingParams::userPowerAdjustments, powerTags>},
+});
+
+/// "tricolor_settings"
+inline constexpr auto tricolor = rows<_RGBINT>({
+    {"red",   number<&_RGBINT::red>},
+    {"green", number<&_RGBINT::green>},
+    {"blue",  number<&_RGBINT::blue>},
+});
+inline constexpr auto tricolorTags = tags<_RGBINT>({
+    {"red",   put::number<&_RGBINT::red>},
+    {"green", put::number<&_RGBINT::green>},
+    {"blue",  put::number<&_RGBINT::blue>},
+});
+
+/// "takeup_motor". The printer measures "VtoI" itself and takes none.
+inline constexpr auto takeupMotor = rows<_RibbonMotorParams>({
+    {"S0",   setting<&_RibbonMotorParams::S0>},
+    {"K0",   setting<&_RibbonMotorParams::K0>},
+    {"Kb",   setting<&_RibbonMotorParams::Kb>},
+    {"Ka",   setting<&_RibbonMotorParams::Ka>},
+    {"M0",   setting<&_RibbonMotorParams::M0>},
+    {"Mb",   setting<&_RibbonMotorParams::Mb>},
+    {"Ma",   setting<&_RibbonMotorParams::Ma>},
+    {"VtoI", setting<&_RibbonMotorParams::VtoI>},
+});
+inline constexpr auto takeupMotorTags = tags<_RibbonMotorParams>({
+    {"S0", put::setting<&_RibbonMotorParams::S0>},
+    {"K0", put::setting<&_RibbonMotorParams::K0>},
+    {"Kb", put::setting<&_RibbonMotorParams::Kb>},
+    {"Ka", put::setting<&_RibbonMotorParams::Ka>},
+    {"M0", put::setting<&_RibbonMotorParams::M0>},
+    {"Mb", put::setting<&_RibbonMotorParams::Mb>},
+    {"Ma", put::setting<&_RibbonMotorParams::Ma>},
+});
+
+/// "ribbon_motor_parameters"
+inline constexpr auto ribbonMotor = rows<_KVConfiguration>({
+    {"takeup_motor", part<&_KVConfiguration::ribbonMotorParameters, takeupMotor>},
+});
+inline constexpr auto ribbonMotorTags = tags<_RibbonMotorParams>({
+    {"takeup_motor", put::group<takeupMotorTags>},
+});
+
+/// "mech_adjustments". A printer has either the film or the flipper to adjust, so one of them is left out.
+inline constexpr auto mechanics = rows<_MechanicalAdjustments>({
+    {"film_print_x_offset",             setting<&_MechanicalAdjustments::filmPrintXOffset>},
+    {"film_print_y_offset",             setting<&_MechanicalAdjustments::filmPrintYOffset>},
+    {"film_transfer_start_offset",      setting<&_MechanicalAdjustments::filmTransferStartOffset>},
+    {"card_center_x_offset",            setting<&_MechanicalAdjustments::cardCenterXOffset>},
+    {"card_mag_x_offset",               setting<&_MechanicalAdjustments::cardMagXOffset>},
+    {"card_smart_card_x_offset",        setting<&_MechanicalAdjustments::cardSmartCardXOffset>},
+    {"card_smart_card_lf_x_offset",     setting<&_MechanicalAdjustments::cardSmartCardLfXOffset>},
+    {"card_smart_card_hf_x_offset",     setting<&_MechanicalAdjustments::cardSmartCardHfXOffset>},
+    {"card_smart_card_uhf_x_offset",    setting<&_MechanicalAdjustments::cardSmartCardUhfXOffset>},
+    {"card_center_y_offset",            setting<&_MechanicalAdjustments::cardCenterYOffset>},
+    {"flipper_sensor_offset",           setting<&_MechanicalAdjustments::flipperSensorOffset>},
+    {"card_transfer_start_y_offset",    setting<&_MechanicalAdjustments::cardTransferStartYOffset>},
+    {"card_transfer_end_y_offset",      setting<&_MechanicalAdjustments::cardTransferEndYOffset>},
+    {"card_transfer_roll_y_offset",     setting<&_MechanicalAdjustments::cardTransferRollYOffset>},
+    {"film_end_roll_transfer_offset",   setting<&_MechanicalAdjustments::filmEndRollTransferOffset>},
+    {"film_extra_transfer_takeup_move", setting<&_MechanicalAdjustments::filmExtraTransferTakeupMove>},
+});
+inline constexpr auto mechanicsTags = tags<_MechanicalAdjustments>({
+    {"film_print_x_offset",             put::setting<&_MechanicalAdjustments::filmPrintXOffset>, withTransfer<_MechanicalAdjustments>},
+    {"film_print_y_offset",             put::setting<&_MechanicalAdjustments::filmPrintYOffset>, withTransfer<_MechanicalAdjustments>},
+    {"film_transfer_start_offset",      put::setting<&_MechanicalAdjustments::filmTransferStartOffset>, withTransfer<_MechanicalAdjustments>},
+    {"card_center_x_offset",            put::setting<&_MechanicalAdjustments::cardCenterXOffset>},
+    {"card_mag_x_offset",               put::setting<&_MechanicalAdjustments::cardMagXOffset>},
+    {"card_smart_card_x_offset",        put::setting<&_MechanicalAdjustments::cardSmartCardXOffset>},
+    {"card_smart_card_lf_x_offset",     put::setting<&_MechanicalAdjustments::cardSmartCardLfXOffset>},
+    {"card_smart_card_hf_x_offset",     put::setting<&_MechanicalAdjustments::cardSmartCardHfXOffset>},
+    {"card_smart_card_uhf_x_offset",    put::setting<&_MechanicalAdjustments::cardSmartCardUhfXOffset>},
+    {"card_center_y_offset",            put::setting<&_MechanicalAdjustments::cardCenterYOffset>},
+    {"flipper_sensor_offset",           put::setting<&_MechanicalAdjustments::flipperSensorOffset>, directToCard<_MechanicalAdjustments>},
+    {"card_transfer_start_y_offset",    put::setting<&_MechanicalAdjustments::cardTransferStartYOffset>, withTransfer<_MechanicalAdjustments>},
+    {"card_transfer_end_y_offset",      put::setting<&_MechanicalAdjustments::cardTransferEndYOffset>, withTransfer<_MechanicalAdjustments>},
+    {"card_transfer_roll_y_offset",     put::setting<&_MechanicalAdjustments::cardTransferRollYOffset>, withTransfer<_MechanicalAdjustments>},
+    {"film_end_roll_transfer_offset",   put::setting<&_MechanicalAdjustments::filmEndRollTransferOffset>, withTransfer<_MechanicalAdjustments>},
+    {"film_extra_transfer_takeup_move", put::setting<&_MechanicalAdjustments::filmExtraTransferTakeupMove>, withTransfer<_MechanicalAdjustments>},
+});
+
+// clang-format on
+
+}  // namespace kvjxml::configuration
+
+#endif

@@ -1,0 +1,301 @@
+/// @file configuration/media.h
+/// How a printer is set up for its media, element by element, as it is read and as it is written: ribbon, film, cards,
+/// transfer, laminates and cleaning.
+#ifndef KVJXML_CONFIGURATION_MEDIA_H
+#define KVJXML_CONFIGURATION_MEDIA_H
+
+#include <cstdio>
+#include <cstring>
+
+#include "ConfigurationRecords.h"
+#include "KVJConfigParser.h"
+#include "foundation/getters.h"
+#include "foundation/vocabulary.h"
+#include "foundation/writers.h"
+#include "shared/card.h"
+
+namespace kvjxml::configuration {
+
+using namespace Kavrin;  // the records
+
+// ---- Ribbon and film ----
+
+/// A ribbon's name, without the word that all one-coloured ribbons begin with. Hosts watch the two lines that go to the
+/// standard error stream for it.
+inline bool readRibbonName(TiXmlElement* element, char (&description)[64]) {
+    std::memset(szRibbonName, 0, sizeof szRibbonName);
+    const bool result = KVJHelper::GetString(element, szRibbonName[0], sizeof szRibbonName);
+    if (std::strstr(szRibbonName, "MONO") != nullptr) {
+        constexpr std::size_t removed = sizeof "MONO";  // and the blank behind it
+        std::memmove(szRibbonName, szRibbonName + removed, sizeof szRibbonName - removed);
+        std::memset(szRibbonName + sizeof szRibbonName - removed, 0, removed);
+    }
+    std::memset(description, 0, sizeof description);
+    static_cast<void>(std::fprintf(stderr, "DEBUG:RIBBON NAME %s\n", szRibbonName));
+    static_cast<void>(std::fprintf(stderr, "DEBUG:RIBBON NAME2 %s\n", description));
+    std::memcpy(description, szRibbonName, sizeof szRibbonName);
+    return result;
+}
+
+inline constexpr Getter<_RibbonInfo> ribbonName{
+    {.field = "description", .conversion = "text without a leading `MONO`", .capacity = sizeof szRibbonName},
+    [](TiXmlElement* element, _RibbonInfo& ribbon) { return readRibbonName(element, ribbon.description); }};
+
+inline constexpr WordTable transferTypes{0, {{"single", 1}, {"dual", 2}}};
+
+/// An unknown word leaves the laminate's field alone.
+inline constexpr auto installedWidths = laminatorWidths.leavingOthers();
+inline constexpr auto installedRegistrations = laminatorRegistrations.leavingOthers();
+
+// clang-format off
+
+/// "ribbon", "film". The printer expects the name of the ribbon's code, not the description that it sent.
+inline constexpr auto ribbon = rows<_RibbonInfo>({
+    {"type",             number<&_RibbonInfo::type>},
+    {"description",      ribbonName},
+    {"oem_country",      text<&_RibbonInfo::oemCountry>},
+    {"initial_size",     number<&_RibbonInfo::initialSize>},
+    {"panels_remaining", number<&_RibbonInfo::panelsRemaining>},
+});
+inline constexpr auto ribbonTags = tags<_RibbonInfo>({
+    {"type",             put::number<&_RibbonInfo::type>},
+    {"description",      put::word<&_RibbonInfo::ribbonCode, ribbonNames>},
+    {"oem_country",      put::text<&_RibbonInfo::oemCountry>},
+    {"initial_size",     put::number<&_RibbonInfo::initialSize>},
+    {"panels_remaining", put::number<&_RibbonInfo::panelsRemaining>},
+});
+
+/// "media_info"
+inline constexpr auto mediaInfo = rows<_KVConfiguration>({
+    {"ribbon", part<&_KVConfiguration::ribbon, ribbon>},
+    {"film",   part<&_KVConfiguration::film, ribbon>},
+});
+inline constexpr auto mediaInfoTags = tags<_KVConfiguration>({
+    {"ribbon", put::part<&_KVConfiguration::ribbon, ribbonTags>},
+    {"film",   put::part<&_KVConfiguration::film, ribbonTags>, withTransfer<_KVConfiguration>},
+});
+
+// ---- Cards ----
+
+/// "transfer_temps" of a card
+inline constexpr auto transferTemps = rows<_TransferTempInfo>({
+    {"top_single", setting<&_TransferTempInfo::topSingle>},
+    {"bot_single", setting<&_TransferTempInfo::botSingle>},
+    {"top_double", setting<&_TransferTempInfo::topDouble>},
+    {"bot_double", setting<&_TransferTempInfo::botDouble>},
+});
+
+/// "transfer_speeds"
+inline constexpr auto transferSpeeds = rows<_TransferSpeedInfo>({
+    {"input_single",  setting<&_TransferSpeedInfo::inputSingle>},
+    {"output_single", setting<&_TransferSpeedInfo::outputSingle>},
+    {"input_double",  setting<&_TransferSpeedInfo::inputDouble>},
+    {"output_double", setting<&_TransferSpeedInfo::outputDouble>},
+});
+
+/// "laminator_adjustments"
+inline constexpr auto laminatorAdjustments = rows<_LaminationAdjustmentsNew>({
+    {"top_temp_adjust", setting<&_LaminationAdjustmentsNew::topTempAdjust>},
+    {"bot_temp_adjust", setting<&_LaminationAdjustmentsNew::botTempAdjust>},
+    {"speed_adjust",    setting<&_LaminationAdjustmentsNew::speedAdjust>},
+});
+
+/// "card"
+inline constexpr auto card = rows<_CustomCardInfo>({
+    {"information",           group<cardInformation<_CustomCardInfo>>},
+    {"transfer_temps",        part<&_CustomCardInfo::transferTemps, transferTemps>},
+    {"transfer_speeds",       part<&_CustomCardInfo::transferSpeeds, transferSpeeds>},
+    {"cal_table",             number<&_CustomCardInfo::calTable>},
+    {"laminator_adjustments", part<&_CustomCardInfo::laminatorAdjustments, laminatorAdjustments>},
+});
+inline constexpr auto cardTags = tags<_CustomCardInfo>({
+    {"information",           put::group<cardInformationTags<_CustomCardInfo>>},
+    {"transfer_temps",        put::part<&_CustomCardInfo::transferTemps, transferTempTags>, withTransfer<_CustomCardInfo>},
+    {"transfer_speeds",       put::part<&_CustomCardInfo::transferSpeeds, transferSpeedTags>, withTransfer<_CustomCardInfo>},
+    {"cal_table",             put::number<&_CustomCardInfo::calTable>},
+    {"laminator_adjustments", put::part<&_CustomCardInfo::laminatorAdjustments, laminatorAdjustmentTags>},
+});
+
+/// One of the two custom cards, by its description.
+inline constexpr Getter<_KVConfiguration> customCard{
+    {.field = "customCard1", .conversion = "the last with the description `Custom 1`; the last other one to `customCard2`",
+     .group = described<card>},
+    [](TiXmlElement* element, _KVConfiguration& configuration) {
+        _CustomCardInfo info{};
+        const bool result = walk(element, info, card);
+        (convert::equal(info.description, "Custom 1") ? configuration.customCard1 : configuration.customCard2) = info;
+        return result;
+    }};
+
+inline constexpr Condition<_KVConfiguration> unlessSecondAlone{
+    "unless card 2 is wanted alone", [](const _KVConfiguration&, const Selection& selection) {
+        return selection.card == 0 || selection.card == 1;
+    }};
+inline constexpr Condition<_KVConfiguration> unlessFirstAlone{
+    "unless card 1 is wanted alone", [](const _KVConfiguration&, const Selection& selection) {
+        return selection.card == 0 || selection.card == 2;
+    }};
+
+/// "cards"
+inline constexpr auto cards = rows<_KVConfiguration>({
+    {"card", customCard},
+});
+inline constexpr auto cardsTags = tags<_KVConfiguration>({
+    {"card", put::part<&_KVConfiguration::customCard1, cardTags>, unlessSecondAlone},
+    {"card", put::part<&_KVConfiguration::customCard2, cardTags>, unlessFirstAlone},
+});
+
+// ---- Transfer ----
+
+/// "transfer_temps" in "transfer_settings"
+inline constexpr auto imageTransferTemps = rows<_ImageTransferTempInfo>({
+    {"top_single",        setting<&_ImageTransferTempInfo::topSingle>},
+    {"bot_single",        setting<&_ImageTransferTempInfo::botSingle>},
+    {"top_double",        setting<&_ImageTransferTempInfo::topDouble>},
+    {"bot_double",        setting<&_ImageTransferTempInfo::botDouble>},
+    {"top_single_offset", setting<&_ImageTransferTempInfo::topSingleOffset>},
+    {"bot_single_offset", setting<&_ImageTransferTempInfo::botSingleOffset>},
+    {"top_double_offset", setting<&_ImageTransferTempInfo::topDoubleOffset>},
+    {"bot_double_offset", setting<&_ImageTransferTempInfo::botDoubleOffset>},
+    {"top_temp_cal",      setting<&_ImageTransferTempInfo::topTempCal>},
+    {"bot_temp_cal",      setting<&_ImageTransferTempInfo::botTempCal>},
+    {"top_temp_tilt",     setting<&_ImageTransferTempInfo::topTempTilt>},
+    {"bot_temp_tilt",     setting<&_ImageTransferTempInfo::botTempTilt>},
+});
+inline constexpr auto imageTransferTempTags = tags<_ImageTransferTempInfo>({
+    {"top_single",        put::setting<&_ImageTransferTempInfo::topSingle>},
+    {"bot_single",        put::setting<&_ImageTransferTempInfo::botSingle>},
+    {"top_double",        put::setting<&_ImageTransferTempInfo::topDouble>},
+    {"bot_double",        put::setting<&_ImageTransferTempInfo::botDouble>},
+    {"top_single_offset", put::setting<&_ImageTransferTempInfo::topSingleOffset>},
+    {"bot_single_offset", put::setting<&_ImageTransferTempInfo::botSingleOffset>},
+    {"top_double_offset", put::setting<&_ImageTransferTempInfo::topDoubleOffset>},
+    {"bot_double_offset", put::setting<&_ImageTransferTempInfo::botDoubleOffset>},
+    {"top_temp_cal",      put::setting<&_ImageTransferTempInfo::topTempCal>},
+    {"bot_temp_cal",      put::setting<&_ImageTransferTempInfo::botTempCal>},
+    {"top_temp_tilt",     put::setting<&_ImageTransferTempInfo::topTempTilt>},
+    {"bot_temp_tilt",     put::setting<&_ImageTransferTempInfo::botTempTilt>},
+});
+
+/// "transfer_settings"
+inline constexpr auto transferSettings = rows<_ImageTransferInfo>({
+    {"transfer_type",   word<&_ImageTransferInfo::transferType, transferTypes>},
+    {"transfer_temps",  part<&_ImageTransferInfo::transferTemps, imageTransferTemps>},
+    {"transfer_speeds", part<&_ImageTransferInfo::transferSpeeds, transferSpeeds>},
+});
+inline constexpr auto transferSettingsTags = tags<_ImageTransferInfo>({
+    {"transfer_type",   put::word<&_ImageTransferInfo::transferType, transferTypes>},
+    {"transfer_temps",  put::part<&_ImageTransferInfo::transferTemps, imageTransferTempTags>},
+    {"transfer_speeds", put::part<&_ImageTransferInfo::transferSpeeds, transferSpeedTags>},
+});
+
+// ---- Lamination ----
+
+/// "laminate_common"
+inline constexpr auto laminateCommon = rows<_laminate_common>({
+    {"patch_length_adj",   setting<&_laminate_common::patchLengthAdj>},
+    {"coarse_x_offset",    setting<&_laminate_common::coarseXOffset>},
+    {"speed_adjust",       setting<&_laminate_common::speedAdjust>},
+    {"passthru_speed_adj", setting<&_laminate_common::passthruSpeedAdj>},
+});
+inline constexpr auto laminateCommonTags = tags<_laminate_common>({
+    {"patch_length_adj",   put::setting<&_laminate_common::patchLengthAdj>},
+    {"coarse_x_offset",    put::setting<&_laminate_common::coarseXOffset>},
+    {"speed_adjust",       put::setting<&_laminate_common::speedAdjust>},
+    {"passthru_speed_adj", put::setting<&_laminate_common::passthruSpeedAdj>},
+});
+
+/// "laminate_installed". The printer names width and registration by words and takes them as numbers.
+inline constexpr auto laminateInstalled = rows<_LaminateInstalled>({
+    {"type",             number<&_LaminateInstalled::type>},
+    {"description",      text<&_LaminateInstalled::description>},
+    {"thickness",        number<&_LaminateInstalled::thickness>},
+    {"registration",     word<&_LaminateInstalled::registration, installedRegistrations>},
+    {"width",            word<&_LaminateInstalled::width, installedWidths>},
+    {"oem_country",      text<&_LaminateInstalled::oemCountry>},
+    {"initial_size",     number<&_LaminateInstalled::initialSize>},
+    {"panels_remaining", number<&_LaminateInstalled::panelsRemaining>},
+});
+inline constexpr auto laminateInstalledTags = tags<_LaminateInstalled>({
+    {"type",             put::number<&_LaminateInstalled::type>},
+    {"description",      put::text<&_LaminateInstalled::description>},
+    {"thickness",        put::number<&_LaminateInstalled::thickness>},
+    {"registration",     put::number<&_LaminateInstalled::registration>},
+    {"width",            put::number<&_LaminateInstalled::width>},
+    {"oem_country",      put::text<&_LaminateInstalled::oemCountry>},
+    {"initial_size",     put::number<&_LaminateInstalled::initialSize>},
+    {"panels_remaining", put::number<&_LaminateInstalled::panelsRemaining>},
+});
+
+/// "laminate_control". Of the two pairs of names the later element counts; each laminate is written with its own pair.
+inline constexpr auto laminateControl = rows<_laminateControl>({
+    {"top_x_adj_fine_offset", setting<&_laminateControl::xFineAdjustment>},
+    {"bot_x_adj_fine_offset", setting<&_laminateControl::xFineAdjustment>},
+    {"top_temp_adjust",       setting<&_laminateControl::temperatureAdjustment>},
+    {"bot_temp_adjust",       setting<&_laminateControl::temperatureAdjustment>},
+});
+inline constexpr auto topControlTags = tags<_laminateControl>({
+    {"top_x_adj_fine_offset", put::setting<&_laminateControl::xFineAdjustment>},
+    {"top_temp_adjust",       put::setting<&_laminateControl::temperatureAdjustment>},
+});
+inline constexpr auto bottomControlTags = tags<_laminateControl>({
+    {"bot_x_adj_fine_offset", put::setting<&_laminateControl::xFineAdjustment>},
+    {"bot_temp_adjust",       put::setting<&_laminateControl::temperatureAdjustment>},
+});
+
+/// "top_laminate", "bottom_laminate"
+inline constexpr auto laminate = rows<_Laminate>({
+    {"laminate_installed", part<&_Laminate::laminateInstalled, laminateInstalled>},
+    {"laminate_control",   part<&_Laminate::laminateControl, laminateControl>},
+});
+template <const auto& ControlTags>
+inline constexpr auto laminateTags = tags<_Laminate>({
+    {"laminate_installed", put::part<&_Laminate::laminateInstalled, laminateInstalledTags>},
+    {"laminate_control",   put::part<&_Laminate::laminateControl, ControlTags>},
+});
+
+inline constexpr Condition<_LaminationIfo> withTopLaminate{
+    "when the top laminate is present",
+    [](const _LaminationIfo& info, const Selection&) { return info.topLaminate.laminatePresent; }};
+
+/// "lamination". A printer without a top laminate takes none at the bottom either.
+inline constexpr auto lamination = rows<_LaminationIfo>({
+    {"laminate_common", part<&_LaminationIfo::laminateCommon, laminateCommon>},
+    {"top_laminate",    part<&_LaminationIfo::topLaminate, laminate>},
+    {"bottom_laminate", part<&_LaminationIfo::bottomLaminate, laminate>},
+});
+inline constexpr auto laminationTags = tags<_LaminationIfo>({
+    {"laminate_common", put::part<&_LaminationIfo::laminateCommon, laminateCommonTags>},
+    {"top_laminate",    put::part<&_LaminationIfo::topLaminate, laminateTags<topControlTags>>, withTopLaminate},
+    {"bottom_laminate", put::part<&_LaminationIfo::bottomLaminate, laminateTags<bottomControlTags>>, withTopLaminate},
+});
+
+// ---- Cleaning ----
+
+/// "cleaning"
+inline constexpr auto cleaning = rows<_CleaningParams>({
+    {"cleaning_deadline_is_soft", text<&_CleaningParams::cleaningDeadlineIsSoft>},
+});
+inline constexpr auto cleaningTags = tags<_CleaningParams>({
+    {"cleaning_deadline_is_soft", put::text<&_CleaningParams::cleaningDeadlineIsSoft>},
+});
+
+/// "cleaning_thresholds"
+inline constexpr auto cleaningThresholds = rows<_CleaningParams>({
+    {"alcohol_card_cleaning", setting<&_CleaningParams::alcoholCardCleaning>},
+    {"pre_warning",           setting<&_CleaningParams::preWarning>},
+});
+inline constexpr auto cleaningThresholdsTags = tags<_CleaningParams>({
+    {"alcohol_card_cleaning", put::setting<&_CleaningParams::alcoholCardCleaning>},
+    {"pre_warning",           put::setting<&_CleaningParams::preWarning>},
+});
+inline constexpr auto cleaningSections = tags<_CleaningParams>({
+    {"cleaning",            put::group<cleaningTags>},
+    {"cleaning_thresholds", put::group<cleaningThresholdsTags>},
+});
+
+// clang-format on
+
+}  // namespace kvjxml::configuration
+
+#endif

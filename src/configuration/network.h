@@ -1,0 +1,121 @@
+/// @file configuration/network.h
+/// How a printer is set up on its networks, element by element, as it is read and as it is written.
+#ifndef KVJXML_CONFIGURATION_NETWORK_H
+#define KVJXML_CONFIGURATION_NETWORK_H
+
+#include "ConfigurationRecords.h"
+#include "foundation/getters.h"
+#include "foundation/words.h"
+#include "foundation/writers.h"
+
+namespace kvjxml::configuration {
+
+using namespace Kavrin;  // the records
+
+/// Both directions; of the words of a code the first is written.
+inline constexpr WordTable securityWords({{"none", wirelessOpen},
+                                          {"open", wirelessOpen},
+                                          {"wep40", wirelessWep40},
+                                          {"WEP40", wirelessWep40},
+                                          {"wep104", wirelessWep104},
+                                          {"WEP104", wirelessWep104},
+                                          {"wpa_wpa2", wirelessWpaWpa2},
+                                          {"wpa2_wpa", wirelessWpaWpa2},
+                                          {"WPA_WPA2", wirelessWpaWpa2},
+                                          {"WPA2_WPA", wirelessWpaWpa2},
+                                          {"wpa", wirelessWpa},
+                                          {"WPA", wirelessWpa},
+                                          {"wpa2", wirelessWpa2},
+                                          {"WPA2", wirelessWpa2}});
+
+/// Both directions; of the words of a code the first is written. A mixed network counts as the stronger one.
+inline constexpr WordTable cryptoWords({{"none", wirelessCryptoNone},
+                                        {"RC4", wirelessCryptoRc4},
+                                        {"rc4", wirelessCryptoRc4},
+                                        {"TKIP", wirelessCryptoTkip},
+                                        {"tkip", wirelessCryptoTkip},
+                                        {"CCMP", wirelessCryptoCcmp},
+                                        {"ccmp", wirelessCryptoCcmp},
+                                        {"CCMP_TKIP", wirelessCryptoCcmp},
+                                        {"TKIP_CCMP", wirelessCryptoCcmp},
+                                        {"ccmp_tkip", wirelessCryptoCcmp},
+                                        {"tkip_ccmp", wirelessCryptoCcmp}});
+
+/// Without text the address is 0; a null element has none to store.
+inline bool readIpAddress(const TiXmlElement* element, unsigned long& address) {
+    const char* content = textOf(element);
+    if (element != nullptr) address = content == nullptr ? 0 : convert::toIpAddress(content);
+    return content != nullptr;
+}
+
+template <auto Member>
+inline constexpr Getter<RecordOf<Member>> ipAddress{
+    {nameOf<Member>(), "IPv4 address"},
+    [](TiXmlElement* element, RecordOf<Member>& record) { return readIpAddress(element, record.*Member); }};
+
+template <auto Member>
+inline constexpr Writer<RecordOf<Member>> ipAddressTag{
+    {nameOf<Member>(), "IPv4 address"},
+    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
+        return addTag(parent, name, convert::fromIpAddress(record.*Member).c_str());
+    }};
+
+/// A network whose addresses the host does not want to touch keeps them when they are not written.
+inline constexpr Condition<_NetworkParams> withAddresses{
+    "unless addresses are left out",
+    [](const _NetworkParams&, const Selection& selection) { return !selection.withoutAddresses; }};
+
+// clang-format off
+
+/// "ethernet"
+inline constexpr auto network = rows<_NetworkParams>({
+    {"ip_address",  ipAddress<&_NetworkParams::ipAddress>},
+    {"subnet_mask", ipAddress<&_NetworkParams::subnetMask>},
+    {"gateway",     ipAddress<&_NetworkParams::gateway>},
+    {"dhcp",        flag<&_NetworkParams::dhcp>},
+    {"snmp",        flag<&_NetworkParams::snmp>},
+});
+inline constexpr auto networkTags = tags<_NetworkParams>({
+    {"ip_address",  ipAddressTag<&_NetworkParams::ipAddress>, withAddresses},
+    {"gateway",     ipAddressTag<&_NetworkParams::gateway>, withAddresses},
+    {"subnet_mask", ipAddressTag<&_NetworkParams::subnetMask>, withAddresses},
+    {"dhcp",        put::enabledOrNot<&_NetworkParams::dhcp>},
+    {"snmp",        put::enabledOrNot<&_NetworkParams::snmp>, withAddresses},
+});
+
+/// "wireless". The country is the printer's own; it takes none.
+inline constexpr auto wireless = rows<_WirelessParams>({
+    {"ip_address",  ipAddress<&_WirelessParams::ipAddress>},
+    {"subnet_mask", ipAddress<&_WirelessParams::subnetMask>},
+    {"gateway",     ipAddress<&_WirelessParams::gateway>},
+    {"dhcp",        flag<&_WirelessParams::dhcp>},
+    {"snmp",        flag<&_WirelessParams::snmp>},
+    {"radio",       flag<&_WirelessParams::radio>},
+    {"security",    word<&_WirelessParams::security, securityWords>},
+    {"crypto",      word<&_WirelessParams::crypto, cryptoWords>},
+    {"ssid",        text<&_WirelessParams::ssid>},
+    {"bssid",       hardwareAddress<&_WirelessParams::bssid>},
+    {"key",         text<&_WirelessParams::key>},
+    {"channel",     number<&_WirelessParams::channel>},
+    {"country",     text<&_WirelessParams::country>},
+});
+inline constexpr auto wirelessTags = tags<_WirelessParams>({
+    {"ip_address",  ipAddressTag<&_WirelessParams::ipAddress>},
+    {"gateway",     ipAddressTag<&_WirelessParams::gateway>},
+    {"subnet_mask", ipAddressTag<&_WirelessParams::subnetMask>},
+    {"dhcp",        put::enabledOrNot<&_WirelessParams::dhcp>},
+    {"snmp",        put::enabledOrNot<&_WirelessParams::snmp>},
+    {"radio",       put::enabledOrNot<&_WirelessParams::radio>},
+    {"security",    put::word<&_WirelessParams::security, securityWords>},
+    {"crypto",      put::word<&_WirelessParams::crypto, cryptoWords>},
+    {"ssid",        put::text<&_WirelessParams::ssid>},
+    {"bssid",       put::hardwareAddress<&_WirelessParams::bssid>},
+    {"channel",     put::number<&_WirelessParams::channel>},
+    {"key",         put::text<&_WirelessParams::key>},
+});
+
+// clang-format on
+
+}  // namespace kvjxml::configuration
+
+#endif

@@ -1,0 +1,31 @@
+#include "KVJSetPrinterInfo.h"
+
+#include "foundation/request.h"
+#include "identity/printer.h"
+
+namespace Kavrin {
+
+using kvjxml::compose;
+namespace tables = kvjxml::identity;
+
+bool KVJSetPrinterInfo::SetPrinterInfo(const KVPrinterInfo& info, wchar_t* out, int capacity, long mask) {
+    return addPrinterInfo(kvjxml::beginRequest(*this, "printer_id"), info, mask) && saveJob(out, capacity);
+}
+
+bool KVJSetPrinterInfo::addPrinterInfo(TiXmlElement* under, const KVPrinterInfo& info, long mask) {
+    return compose(under, info, tables::printerSections, {.sections = mask}, true);
+}
+
+bool KVJSetPrinterInfo::addPrinterInfo(TiXmlElement* under, const KVPrinterInfo& info) {
+    compose(under, info, tables::printerTags);
+    return true;
+}
+
+bool KVJSetPrinterInfo::saveJob(wchar_t* out, int capacity) {
+    kvjxml::keepDiagnosticCopy(*this, "/tmp/printidsettings");
+    return kvjxml::print(*this, out, capacity);
+}
+
+bool KVJSetPrinterInfo::saveJob(char* path) { return kvjxml::save(*this, path); }
+
+}  // namespace Kavrin

@@ -1,0 +1,88 @@
+/// @file identity/printer.h
+/// Who a printer is, element by element, as it is read and as it is written.
+#ifndef KVJXML_IDENTITY_PRINTER_H
+#define KVJXML_IDENTITY_PRINTER_H
+
+#include "IdentityRecords.h"
+#include "foundation/getters.h"
+#include "foundation/writers.h"
+
+namespace kvjxml::identity {
+
+using namespace Kavrin;  // the records
+
+/// A number that a text which is none leaves alone; it counts as read all the same.
+template <auto Member, auto Scan>
+bool scanned(const TiXmlElement* element, RecordOf<Member>& record) {
+    const char* content = textOf(element);
+    if (content != nullptr) Scan(content, record.*Member);
+    return content != nullptr;
+}
+
+template <auto Member>
+inline constexpr Getter<RecordOf<Member>> serial{{nameOf<Member>(), "number; any other text leaves it alone"},
+                                                 [](TiXmlElement* element, RecordOf<Member>& record) {
+                                                     return scanned<Member, convert::scanUnsigned>(element, record);
+                                                 }};
+
+template <auto Member>
+inline constexpr Getter<RecordOf<Member>> hexByte{
+    {nameOf<Member>(), "at most two hexadecimal digits behind `0x`; any other text leaves it alone"},
+    [](TiXmlElement* element, RecordOf<Member>& record) {
+        return scanned<Member, convert::scanPrefixedHexByte>(element, record);
+    }};
+
+template <auto Member>
+inline constexpr Writer<RecordOf<Member>> hexTag{
+    {nameOf<Member>(), "hexadecimal behind `0x`, at least two digits"},
+    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
+        return addTag(parent, name, convert::fromPrefixedHex(record.*Member).c_str());
+    }};
+
+// clang-format off
+
+/// "printer_id"
+inline constexpr auto printer = rows<KVPrinterInfo>({
+    {"vendor",                    text<&KVPrinterInfo::vendor>},
+    {"printer_model",             text<&KVPrinterInfo::printer_model>},
+    {"printer_serial",            serial<&KVPrinterInfo::printer_serial>},
+    {"laminator_serial",          serial<&KVPrinterInfo::laminator_serial>},
+    {"physical_address",          hardwareAddress<&KVPrinterInfo::physical_address>},
+    {"printhead_serial",          text<&KVPrinterInfo::printhead_serial>},
+    {"oem_country",               text<&KVPrinterInfo::oem_country>},
+    {"media_auth_cfg",            hexByte<&KVPrinterInfo::media_auth_cfg>},
+    {"firmware_version",          text<&KVPrinterInfo::firmware_version>},
+    {"laminator_fw_version",      text<&KVPrinterInfo::laminator_fw_version>},
+    {"lam_mab_fw_version",        text<&KVPrinterInfo::lam_mab_fw_version>},
+    {"hcb_fw_version",            text<&KVPrinterInfo::hcb_fw_version>},
+    {"mab_fw_version",            text<&KVPrinterInfo::mab_fw_version>},
+    {"kavrin_version",            text<&KVPrinterInfo::kavrin_version>},
+    {"ethernet_deviceid",         text<&KVPrinterInfo::ethernet_deviceid>},
+    {"wireless_physical_address", hardwareAddress<&KVPrinterInfo::wireless_physical_address>},
+});
+/// The full identity. The versions of single boards are the printer's to tell, not the host's.
+inline constexpr auto printerTags = tags<KVPrinterInfo>({
+    {"vendor",                    put::text<&KVPrinterInfo::vendor>},
+    {"printer_model",             put::text<&KVPrinterInfo::printer_model>},
+    {"printer_serial",            put::number<&KVPrinterInfo::printer_serial>},
+    {"laminator_serial",          put::number<&KVPrinterInfo::laminator_serial>},
+    {"physical_address",          put::hardwareAddress<&KVPrinterInfo::physical_address>},
+    {"printhead_serial",          put::text<&KVPrinterInfo::printhead_serial>},
+    {"oem_country",               put::text<&KVPrinterInfo::oem_country>},
+    {"media_auth_cfg",            hexTag<&KVPrinterInfo::media_auth_cfg>},
+    {"firmware_version",          put::text<&KVPrinterInfo::firmware_version>},
+    {"kavrin_version",            put::text<&KVPrinterInfo::kavrin_version>},
+    {"ethernet_deviceid",         put::text<&KVPrinterInfo::ethernet_deviceid>},
+    {"wireless_physical_address", put::hardwareAddress<&KVPrinterInfo::wireless_physical_address>},
+});
+/// What a host may set by itself, and its bits.
+inline constexpr auto printerSections = sections<KVPrinterInfo>({
+    {0x1, "printer_model",    put::text<&KVPrinterInfo::printer_model>},
+    {0x2, "printhead_serial", put::text<&KVPrinterInfo::printhead_serial>},
+});
+
+// clang-format on
+
+}  // namespace kvjxml::identity
+
+#endif

@@ -1,0 +1,68 @@
+#include "KVJMediaParser.h"
+
+#include "foundation/reply.h"
+#include "media/tables.h"
+
+namespace Kavrin {
+
+using kvjxml::walk;
+namespace tables = kvjxml::media;
+
+bool KVJMediaParser::GetMedia(const char& text, int /*length*/, _KVMediaInfo& media) {
+    parseMedia(kvjxml::Reply(&text).root("media"), media);
+    return false;  // Whatever was read: hosts look at the lists.
+}
+
+bool KVJMediaParser::parseMedia(TiXmlElement* root, _KVMediaInfo& media) {
+    return walk(root, media, tables::catalogue);
+}
+
+bool KVJMediaParser::getCardsInfo(TiXmlElement* section, _KVMediaInfo& media) {
+    return walk(section, media, tables::cards);
+}
+
+bool KVJMediaParser::getFilmsInfo(TiXmlElement* section, _KVMediaInfo& media) {
+    return walk(section, media, tables::films);
+}
+
+bool KVJMediaParser::getRibbonsInfo(TiXmlElement* section, _KVMediaInfo& media) {
+    return walk(section, media, tables::ribbons);
+}
+
+bool KVJMediaParser::getLaminatesInfo(TiXmlElement* section, _KVMediaInfo& media) {
+    return walk(section, media, tables::laminates);
+}
+
+bool KVJMediaParser::getCardInfo(TiXmlElement* entry, _KVMediaInfo& media) {
+    return tables::newCard.read(entry, media);
+}
+
+bool KVJMediaParser::getFilmInfo(TiXmlElement* entry, _KVMediaInfo& media) {
+    return tables::newFilm.read(entry, media);
+}
+
+bool KVJMediaParser::getRibbonInfo(TiXmlElement* entry, _KVMediaInfo& media) {
+    return tables::newRibbon.read(entry, media);
+}
+
+bool KVJMediaParser::getLaminateInfo(TiXmlElement* entry, _KVMediaInfo& media) {
+    return tables::newLaminate.read(entry, media);
+}
+
+bool KVJMediaParser::getCardInformation(TiXmlElement* element, _CardInfo& card) {
+    return walk(element, card, kvjxml::cardInformation<_CardInfo>);
+}
+
+bool KVJMediaParser::getTransferTemp(TiXmlElement* element, _TransferTempInfo& temperatures) {
+    return walk(element, temperatures, tables::transferTemps);
+}
+
+bool KVJMediaParser::getTransferSpeed(TiXmlElement* element, _TransferSpeedInfo& speeds) {
+    return walk(element, speeds, tables::transferSpeeds);
+}
+
+bool KVJMediaParser::getLaminationAdjustments(TiXmlElement* element, _LaminationAdjustmentsNew& adjustments) {
+    return walk(element, adjustments, tables::laminationAdjustments);
+}
+
+}  // namespace Kavrin

@@ -1,0 +1,109 @@
+/// @file media/tables.h
+/// The media catalogue, element by element, as it is read and as its cards are written.
+#ifndef KVJXML_MEDIA_TABLES_H
+#define KVJXML_MEDIA_TABLES_H
+
+#include <memory>
+#include <vector>
+
+#include "MediaRecords.h"
+#include "foundation/getters.h"
+#include "foundation/writers.h"
+#include "shared/card.h"
+
+namespace kvjxml::media {
+
+using namespace Kavrin;  // the records
+
+/// The value of a setting as it stands: the catalogue knows no ranges.
+template <auto Member>
+inline constexpr Getter<RecordOf<Member>> value{{nameOf<Member>(), numberKind<decltype(ValueOf<Member>::value)>},
+                                                [](TiXmlElement* element, RecordOf<Member>& record) {
+                                                    return KVJHelper::GetNumber(element, (record.*Member).value);
+                                                }};
+
+/// A new entry of a list, also for an element with nothing in it.
+template <auto Member, const auto& Table>
+inline constexpr Getter<_KVMediaInfo> append{
+    {.field = nameOf<Member>(), .conversion = "a new entry of the list", .group = described<Table>},
+    [](TiXmlElement* element, _KVMediaInfo& catalogue) {
+        auto* const entries = catalogue.*Member;
+        if (element == nullptr || entries == nullptr) return false;
+        auto entry = std::make_unique<RecordOfTable<Table>>();
+        const bool result = walk(element, *entry, Table);
+        entries->push_back(entry.get());
+        static_cast<void>(entry.release());  // The list owns it now.
+        return result;
+    }};
+
+// clang-format off
+
+/// "transfer_temps"
+inline constexpr auto transferTemps = rows<_TransferTempInfo>({
+    {"top_single", value<&_TransferTempInfo::topSingle>},
+    {"bot_single", value<&_TransferTempInfo::botSingle>},
+    {"top_double", value<&_TransferTempInfo::topDouble>},
+    {"bot_double", value<&_TransferTempInfo::botDouble>},
+});
+
+/// "transfer_speeds"
+inline constexpr auto transferSpeeds = rows<_TransferSpeedInfo>({
+    {"input_single",  value<&_TransferSpeedInfo::inputSingle>},
+    {"output_single", value<&_TransferSpeedInfo::outputSingle>},
+    {"input_double",  value<&_TransferSpeedInfo::inputDouble>},
+    {"output_double", value<&_TransferSpeedInfo::outputDouble>},
+});
+
+/// "laminator_adjustments"
+inline constexpr auto laminationAdjustments = rows<_LaminationAdjustmentsNew>({
+    {"top_temp_adjust", value<&_LaminationAdjustmentsNew::topTempAdjust>},
+    {"bot_temp_adjust", value<&_LaminationAdjustmentsNew::botTempAdjust>},
+    {"speed_adjust",    value<&_LaminationAdjustmentsNew::speedAdjust>},
+});
+
+/// "card"
+inline constexpr auto card = rows<_CardInfo>({
+    {"information",           group<cardInformation<_CardInfo>>},
+    {"transfer_temps",        part<&_CardInfo::transferTemps, transferTemps>},
+    {"transfer_speeds",       part<&_CardInfo::transferSpeeds, transferSpeeds>},
+    {"laminator_adjustments", part<&_CardInfo::laminationAdjustments, laminationAdjustments>},
+    {"cal_table",             number<&_CardInfo::calTable>},
+});
+inline constexpr auto cardTags = tags<_CardInfo>({
+    {"information",           put::group<cardInformationTags<_CardInfo>>},
+    {"transfer_temps",        put::part<&_CardInfo::transferTemps, transferTempTags>, withTransfer<_CardInfo>},
+    {"transfer_speeds",       put::part<&_CardInfo::transferSpeeds, transferSpeedTags>, withTransfer<_CardInfo>},
+    {"laminator_adjustments", put::part<&_CardInfo::laminationAdjustments, laminatorAdjustmentTags>},
+    {"cal_table",             put::number<&_CardInfo::calTable>},
+});
+
+/// "film", "ribbon", "laminate"
+inline constexpr auto medium = rows<_MediaRibbonInfo>({
+    {"vessa_part_number", text<&_MediaRibbonInfo::partNumber>},
+    {"description",       text<&_MediaRibbonInfo::description>},
+});
+
+inline constexpr const auto& newCard = append<&_KVMediaInfo::cards, card>;
+inline constexpr const auto& newFilm = append<&_KVMediaInfo::films, medium>;
+inline constexpr const auto& newRibbon = append<&_KVMediaInfo::ribbons, medium>;
+inline constexpr const auto& newLaminate = append<&_KVMediaInfo::laminates, medium>;
+
+// A printer lists the laminates that it takes in place of a ribbon under "ribbons"; its own ribbons it does not tell.
+inline constexpr auto cards     = rows<_KVMediaInfo>({{"card", newCard}});
+inline constexpr auto films     = rows<_KVMediaInfo>({{"film", newFilm}});
+inline constexpr auto ribbons   = rows<_KVMediaInfo>({{"laminate", newLaminate}});
+inline constexpr auto laminates = rows<_KVMediaInfo>({{"laminate", newLaminate}});
+
+/// "media"
+inline constexpr auto catalogue = rows<_KVMediaInfo>({
+    {"cards",     group<cards>},
+    {"films",     group<films>},
+    {"ribbons",   group<ribbons>},
+    {"laminates", group<laminates>},
+});
+
+// clang-format on
+
+}  // namespace kvjxml::media
+
+#endif

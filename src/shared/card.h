@@ -1,0 +1,116 @@
+/// @file shared/card.h
+/// A type of card, as configuration and media catalogue have it. Each has a record of its own for it, with the same
+/// names.
+#ifndef KVJXML_SHARED_CARD_H
+#define KVJXML_SHARED_CARD_H
+
+#include <iterator>
+
+#include "ConfigurationRecords.h"
+#include "foundation/getters.h"
+#include "foundation/vocabulary.h"
+#include "foundation/writers.h"
+
+namespace kvjxml {
+
+// ---- One-bit fields, which no member pointer can name ----
+
+struct MagStripe {
+    static constexpr std::string_view name = "magStripe";
+    static bool get(const auto& card) { return card.magStripe != 0; }
+    static void set(auto& card, bool flag) { card.magStripe = flag; }
+};
+struct ContactEncode {
+    static constexpr std::string_view name = "contactEncode";
+    static bool get(const auto& card) { return card.contactEncode != 0; }
+    static void set(auto& card, bool flag) { card.contactEncode = flag; }
+};
+struct NonContactEncode {
+    static constexpr std::string_view name = "nonContactEncode";
+    static bool get(const auto& card) { return card.nonContactEncode != 0; }
+    static void set(auto& card, bool flag) { card.nonContactEncode = flag; }
+};
+
+/// A truth word into one bit; the bits beside it stay as they are. Without text the bit is cleared.
+template <class Card, class Bit>
+inline constexpr Getter<Card> bit{{Bit::name, "true for exactly `enabled` and `yes`"},
+                                  [](TiXmlElement* element, Card& card) {
+                                      bool flag = false;
+                                      const bool result = KVJHelper::GetBool(element, flag);
+                                      Bit::set(card, flag);
+                                      return result;
+                                  }};
+
+namespace put {
+
+template <class Card, class Bit>
+inline constexpr Writer<Card> bit{{.field = Bit::name, .conversion = "when true", .argument = "yes", .otherwise = "no"},
+                                  [](TiXmlElement* parent, const char* name, const Card& card, const Selection&) {
+                                      return addTag(parent, name, Bit::get(card) ? "yes" : "no");
+                                  }};
+
+/// The word of a coercivity; a code without one is written empty.
+template <class Card>
+inline constexpr Writer<Card> coercivity{
+    {"coercivity", "`none`, `low` or `high`"},
+    [](TiXmlElement* parent, const char* name, const Card& card, const Selection&) {
+        const bool known = card.coercivity < std::size(Kavrin::COERCIVITYTYPES);
+        return addTag(parent, name, known ? Kavrin::COERCIVITYTYPES[card.coercivity] : "");
+    }};
+
+}  // namespace put
+
+// clang-format off
+
+/// "information" in "card"
+template <class Card>
+inline constexpr auto cardInformation = rows<Card>({
+    {"type",               number<&Card::type>},
+    {"vessa_part_number",  text<&Card::partNumber>},
+    {"description",        text<&Card::description>},
+    {"thickness",          number<&Card::thickness>},
+    {"coercivity",         word<&Card::coercivity, coercivities>},
+    {"mag_stripe",         bit<Card, MagStripe>},
+    {"contact_encode",     bit<Card, ContactEncode>},
+    {"non_contact_encode", bit<Card, NonContactEncode>},
+});
+template <class Card>
+inline constexpr auto cardInformationTags = tags<Card>({
+    {"type",               put::number<&Card::type>},
+    {"vessa_part_number",  put::text<&Card::partNumber>},
+    {"description",        put::text<&Card::description>},
+    {"thickness",          put::decimal<&Card::thickness>},
+    {"coercivity",         put::coercivity<Card>},
+    {"mag_stripe",         put::bit<Card, MagStripe>},
+    {"contact_encode",     put::bit<Card, ContactEncode>},
+    {"non_contact_encode", put::bit<Card, NonContactEncode>},
+});
+
+/// "transfer_temps"
+inline constexpr auto transferTempTags = tags<Kavrin::_TransferTempInfo>({
+    {"top_single", put::setting<&Kavrin::_TransferTempInfo::topSingle>},
+    {"bot_single", put::setting<&Kavrin::_TransferTempInfo::botSingle>},
+    {"top_double", put::setting<&Kavrin::_TransferTempInfo::topDouble>},
+    {"bot_double", put::setting<&Kavrin::_TransferTempInfo::botDouble>},
+});
+
+/// "transfer_speeds"
+inline constexpr auto transferSpeedTags = tags<Kavrin::_TransferSpeedInfo>({
+    {"input_single",  put::setting<&Kavrin::_TransferSpeedInfo::inputSingle>},
+    {"output_single", put::setting<&Kavrin::_TransferSpeedInfo::outputSingle>},
+    {"input_double",  put::setting<&Kavrin::_TransferSpeedInfo::inputDouble>},
+    {"output_double", put::setting<&Kavrin::_TransferSpeedInfo::outputDouble>},
+});
+
+/// "laminator_adjustments"
+inline constexpr auto laminatorAdjustmentTags = tags<Kavrin::_LaminationAdjustmentsNew>({
+    {"top_temp_adjust", put::setting<&Kavrin::_LaminationAdjustmentsNew::topTempAdjust>},
+    {"bot_temp_adjust", put::setting<&Kavrin::_LaminationAdjustmentsNew::botTempAdjust>},
+    {"speed_adjust",    put::setting<&Kavrin::_LaminationAdjustmentsNew::speedAdjust>},
+});
+
+// clang-format on
+
+}  // namespace kvjxml
+
+#endif

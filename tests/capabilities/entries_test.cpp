@@ -1,0 +1,285 @@
+// One entry of each list: its elements, the words of its fields, and texts that do not fit.
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "KVJCapsParser.h"
+#include "capabilities/records.h"
+#include "support/xml.h"
+
+namespace {
+
+using namespace kvjxml::tests;
+
+template <class Entry>
+using EntryReader = bool (KVJCapsParser::*)(TiXmlElement*, Entry&);
+
+template <class Entry>
+bool read(EntryReader<Entry> reader, const std::string& children, Entry& entry) {
+    Xml element(kvjxml::tests::element("any", children).c_str());
+    return (KVJCapsParser().*reader)(element.root(), entry);
+}
+
+/// That these children, read over a preset entry, give this result and this entry.
+template <class Entry>
+void expectRead(EntryReader<Entry> reader, const std::string& children, bool result, const Entry& expected) {
+    auto entry = preset<Entry>();
+    EXPECT_EQ(read(reader, children, entry), result) << children;
+    EXPECT_EQ(fieldsOf(entry), fieldsOf(expected)) << children;
+}
+
+/// What holds for every entry that has elements. `names` are those of its elements.
+template <class Entry>
+void expectEntry(EntryReader<Entry> reader, const std::vector<std::string>& names) {
+    auto entry = preset<Entry>();
+    EXPECT_FALSE((KVJCapsParser().*reader)(nullptr, entry));
+    EXPECT_EQ(fieldsOf(entry), fieldsOf(preset<Entry>()));
+    for (const char* children : {"", "text", "<!-- none -->", "<unknown>1</unknown>"}) {
+        expectRead(reader, children, false, preset<Entry>());
+    }
+    for (const std::string& name : names) {
+        const std::string misspelt = static_cast<char>(name[0] - 'a' + 'A') + name.substr(1);
+        expectRead(reader, element(misspelt, "1") + element(name + "_", "1"), false, preset<Entry>());
+        expectRead(reader, element("unknown", element(name, "1")), false, preset<Entry>());
+    }
+}
+
+/// That without text these elements give false and keep their fields.
+template <class Entry>
+void expectKeptWithoutText(EntryReader<Entry> reader, const std::vector<std::string>& names) {
+    for (const std::string& name : names) expectRead(reader, element(name, ""), false, preset<Entry>());
+}
+
+/// That a text of the field's size less one is read whole, and a longer one cut to it, as nothing but that field.
+template <class Entry, std::size_t Size>
+void expectCut(EntryReader<Entry> reader, const std::string& name, char (Entry::*field)[Size]) {
+    const std::string longest(Size - 1, 't');
+    for (const auto& [text, result] :
+         {std::pair(longest, true), std::pair(longest + "u", false), std::pair(longest + "uv", false),
+          std::pair(longest + std::string(100000, 'u'), false)}) {
+        Entry entries[] = {preset<Entry>(), preset<Entry>(), preset<Entry>()};
+        EXPECT_EQ(read(reader, element(name, text), entries[1]), result) << name << ' ' << text.size();
+        EXPECT_EQ(entries[1].*field, longest);
+        auto others = entries[1];
+        (others.*field)[0] = '\0';
+        auto expected = preset<Entry>();
+        (expected.*field)[0] = '\0';
+        EXPECT_EQ(fieldsOf(others), fieldsOf(expected)) << name;
+        EXPECT_EQ(fieldsOf(entries[0]), fieldsOf(preset<Entry>()));
+        EXPECT_EQ(fieldsOf(entries[2]), fieldsOf(preset<Entry>()));
+    }
+}
+
+// ---- Ports ----
+
+constexpr EntryReader<_PortCaps> port = &KVJCapsParser::getHostPort;
+
+TEST(PortEntry, FillsItsFieldsInAnyOrder) {
+    expectRead(port, "<port_id>7</port_id><type>ethernet_10_100_1G</type>", true, {7, 3});
+    expectRead(port, "<type>wifi_enet_802_11g</type><note/><port_id>-1</port_id>", true, {-1, 4});
+}
+
+TEST(PortEntry, NeedsElementsThatItKnows) { expectEntry(port, {"port_id", "type"}); }
+
+TEST(PortEntry, AnAbsentElementKeepsItsField) {
+    expectRead(port, "<port_id>7</port_id>", true, {7, preset<_PortCaps>().portType});
+    expectRead(port, "<type>serial</type>", true, {preset<_PortCaps>().portId, 1});
+}
+
+TEST(PortEntry, WithoutTextAFieldIsKeptAndTheResultFalse) { expectKeptWithoutText(port, {"port_id", "type"}); }
+
+TEST(PortEntry, TheResultIsThatOfTheLastFieldAndTheLaterValueWins) {
+    expectRead(port, "<port_id>1</port_id><port_id>2</port_id><type/>", false, {2, preset<_PortCaps>().portType});
+    expectRead(port, "<type/><port_id>1</port_id><note/>", true, {1, preset<_PortCaps>().portType});
+}
+
+TEST(PortEntry, AnUnknownTypeIsMinus1AndRead) {
+    for (const std::string& word :
+         {std::string("usb"), std::string("USB_2_0"), std::string("<b/>"), std::string(100000, 'u')}) {
+        expectRead(port, element("type", word), true, {preset<_PortCaps>().portId, -1});
+    }
+}
+
+TEST(PortEntry, ANumberThatIsNoneIs0) {
+    expectRead(port, "<port_id>one</port_id>", true, {0, preset<_PortCaps>().portType});
+    expectRead(port, "<port_id> 12 34</port_id>", true, {12, preset<_PortCaps>().portType});
+}
+
+// ---- Software interfaces ----
+
+constexpr EntryReader<_InterfaceCaps> swInterface = &KVJCapsParser::getSwInterface;
+
+TEST(SwInterfaceEntry, FillsItsFieldsInAnyOrder) {
+    expectRead(swInterface, "<protocol>snmp_trap</protocol><transport>tcp</transport><port>162</port>", true,
+               {1, 1, 162});
+    expectRead(swInterface, "<port>9100</port><note/><transport>usb_2_0</transport><protocol>kavrin</protocol>", true,
+               {3, 3, 9100});
+}
+
+TEST(SwInterfaceEntry, NeedsElementsThatItKnows) { expectEntry(swInterface, {"protocol", "transport", "port"}); }
+
+TEST(SwInterfaceEntry, AnAbsentElementKeepsItsField) {
+    const auto kept = preset<_InterfaceCaps>();
+    expectRead(swInterface, "<protocol>http</protocol>", true, {2, kept.transport, kept.port});
+    expectRead(swInterface, "<transport>udp</transport>", true, {kept.protocol, 0, kept.port});
+    expectRead(swInterface, "<port>80</port>", true, {kept.protocol, kept.transport, 80});
+}
+
+TEST(SwInterfaceEntry, WithoutTextAFieldIsKeptAndTheResultFalse) {
+    expectKeptWithoutText(swInterface, {"protocol", "transport", "port"});
+}
+
+TEST(SwInterfaceEntry, TheResultIsThatOfTheLastFieldAndTheLaterValueWins) {
+    const auto kept = preset<_InterfaceCaps>();
+    expectRead(swInterface, "<port>1</port><port>2</port><protocol/>", false, {kept.protocol, kept.transport, 2});
+    expectRead(swInterface, "<protocol/><port>1</port><note/>", true, {kept.protocol, kept.transport, 1});
+}
+
+TEST(SwInterfaceEntry, AnUnknownWordIsMinus1AndRead) {
+    const auto kept = preset<_InterfaceCaps>();
+    for (const char* word : {"SNMP", "https", "snmp_", "serial", "<b/>"}) {
+        expectRead(swInterface, element("protocol", word), true, {-1, kept.transport, kept.port});
+        expectRead(swInterface, element("transport", word), true, {kept.protocol, -1, kept.port});
+    }
+}
+
+// ---- Languages ----
+
+constexpr EntryReader<_OCPLanguageCaps> language = &KVJCapsParser::getOCPLanguage;
+
+TEST(OcpLanguageEntry, FillsItsFieldsInAnyOrder) {
+    expectRead(language, "<type>2</type><name>Deutsch</name>", true, {2, "Deutsch"});
+    expectRead(language, "<name>English (US)</name><note/><type>0</type>", true, {0, "English (US)"});
+}
+
+TEST(OcpLanguageEntry, NeedsElementsThatItKnows) { expectEntry(language, {"type", "name"}); }
+
+TEST(OcpLanguageEntry, AnAbsentElementKeepsItsField) {
+    expectRead(language, "<type>2</type>", true, {2, "preset"});
+    expectRead(language, "<name>x</name>", true, {preset<_OCPLanguageCaps>().type, "x"});
+}
+
+TEST(OcpLanguageEntry, WithoutTextAFieldIsKeptAndTheResultFalse) { expectKeptWithoutText(language, {"type", "name"}); }
+
+TEST(OcpLanguageEntry, TheResultIsThatOfTheLastFieldAndTheLaterValueWins) {
+    expectRead(language, "<name>a</name><name>b</name><type/>", false, {preset<_OCPLanguageCaps>().type, "b"});
+    expectRead(language, "<type/><name>a</name><note/>", true, {preset<_OCPLanguageCaps>().type, "a"});
+}
+
+TEST(OcpLanguageEntry, ItsTypeIsANumberAndNoWord) { expectRead(language, "<type>English</type>", true, {0, "preset"}); }
+
+TEST(OcpLanguageEntry, ANameTooLongIsCutAndReportedFalse) { expectCut(language, "name", &_OCPLanguageCaps::name); }
+
+// ---- Fonts ----
+
+constexpr EntryReader<_FontCaps> font = &KVJCapsParser::getFontCaps;
+
+TEST(FontEntry, FillsItsFieldsInAnyOrder) {
+    expectRead(font, "<name>Sans</name><scalable>no</scalable><style>bold</style>", true, {"Sans", false, 2});
+    expectRead(font, "<style>italic</style><scalable>yes</scalable><note/><name>Serif</name>", true,
+               {"Serif", true, 3});
+}
+
+TEST(FontEntry, NeedsElementsThatItKnows) { expectEntry(font, {"name", "scalable", "style"}); }
+
+TEST(FontEntry, AnAbsentElementKeepsItsField) {
+    const auto kept = preset<_FontCaps>();
+    expectRead(font, "<name>Sans</name>", true, {"Sans", true, kept.style});
+    expectRead(font, "<scalable>no</scalable>", true, {"preset", false, kept.style});
+    expectRead(font, "<style>regular</style>", true, {"preset", true, 1});
+}
+
+TEST(FontEntry, WithoutTextAFieldIsKeptAndTheResultFalse) { expectKeptWithoutText(font, {"name", "style"}); }
+
+TEST(FontEntry, WithoutTextScalableIsStoredAsFalseAndTheResultFalse) {
+    expectRead(font, "<scalable/>", false, {"preset", false, preset<_FontCaps>().style});
+}
+
+TEST(FontEntry, ScalableIsTrueForExactlyYesAndEnabled) {
+    const int style = preset<_FontCaps>().style;
+    for (const char* word : {"yes", "enabled"}) {
+        expectRead(font, "<scalable>no</scalable>" + element("scalable", word), true, {"preset", true, style});
+    }
+    for (const char* word : {"no", "Yes", "ENABLED", "true", "1", "yes."}) {
+        expectRead(font, element("scalable", word), true, {"preset", false, style});
+    }
+}
+
+TEST(FontEntry, EachStyleHasItsCodeAndAnUnknownOneIs0) {
+    for (const auto& [word, code] : {std::pair("regular", 1), std::pair("bold", 2), std::pair("italic", 3),
+                                     std::pair("none", 0), std::pair("Bold", 0), std::pair("bold italic", 0)}) {
+        expectRead(font, element("style", word), true, {"preset", true, code});
+    }
+}
+
+TEST(FontEntry, OfTwoNamesTheLaterWins) {
+    expectRead(font, "<name>Sans</name><name>yes</name>", true, {"yes", true, preset<_FontCaps>().style});
+}
+
+TEST(FontEntry, TheResultIsThatOfTheLastField) {
+    const int style = preset<_FontCaps>().style;
+    expectRead(font, "<name>Sans</name><style/>", false, {"Sans", true, style});
+    expectRead(font, "<style/><name>Sans</name><note/>", true, {"Sans", true, style});
+}
+
+TEST(FontEntry, ANameTooLongIsCutAndReportedFalse) { expectCut(font, "name", &_FontCaps::name); }
+
+// ---- Templates and graphics ----
+
+constexpr EntryReader<_TemplateCaps> stored = &KVJCapsParser::getTemplate;
+
+TEST(TemplateEntry, FillsItsFieldsInAnyOrder) {
+    expectRead(stored, "<name>badge</name><location>flash</location>", true, {"badge", "flash"});
+    expectRead(stored, "<location>/t/1</location><note/><name>pass</name>", true, {"pass", "/t/1"});
+}
+
+TEST(TemplateEntry, NeedsElementsThatItKnows) { expectEntry(stored, {"name", "location"}); }
+
+TEST(TemplateEntry, AnAbsentElementKeepsItsField) {
+    expectRead(stored, "<name>badge</name>", true, {"badge", "in preset"});
+    expectRead(stored, "<location>flash</location>", true, {"preset", "flash"});
+}
+
+TEST(TemplateEntry, WithoutTextAFieldIsKeptAndTheResultFalse) { expectKeptWithoutText(stored, {"name", "location"}); }
+
+TEST(TemplateEntry, TheResultIsThatOfTheLastFieldAndTheLaterValueWins) {
+    expectRead(stored, "<name>a</name><name>b</name><location/>", false, {"b", "in preset"});
+    expectRead(stored, "<location/><name>a</name><note/>", true, {"a", "in preset"});
+}
+
+TEST(TemplateEntry, ANameTooLongIsCutAndReportedFalse) { expectCut(stored, "name", &_TemplateCaps::name); }
+
+TEST(TemplateEntry, ALocationTooLongIsCutAndReportedFalse) { expectCut(stored, "location", &_TemplateCaps::location); }
+
+// ---- Entries that are a text themselves ----
+
+TEST(BarCodeEntry, IsTheTextCutToItsField) {
+    const std::string longest(63, 'b');
+    for (const auto& [text, result] : {std::pair(longest, true), std::pair(longest + "c", false)}) {
+        _BarCodeCaps entries[] = {preset<_BarCodeCaps>(), preset<_BarCodeCaps>()};
+        auto caps = preset<_Capabilities>();
+        caps.barCodeCount = 2;
+        caps.barCodes = entries;
+        Xml section(element("barcodes", element("barcode", text)).c_str());
+        EXPECT_EQ(KVJCapsParser().getBarCodes(section.root(), caps), result);
+        EXPECT_EQ(entries[0].name, longest);
+        EXPECT_STREQ(entries[1].name, "preset");
+    }
+}
+
+TEST(GraphicFormatEntry, AnUnknownFormatIsMinus1AndRead) {
+    std::vector formats(4, preset<int>());
+    auto caps = preset<_Capabilities>();
+    caps.graphicFormatCount = 4;
+    caps.graphicFormats = formats.data();
+    Xml section(
+        "<graphic_formats><graphic_format>png</graphic_format><graphic_format>tga</graphic_format>"
+        "<graphic_format>BMP</graphic_format></graphic_formats>");
+    EXPECT_TRUE(KVJCapsParser().getGraphicFormatCaps(section.root(), caps));
+    EXPECT_EQ(formats, (std::vector{-1, 8, -1, preset<int>()}));
+}
+
+}  // namespace

@@ -1,0 +1,92 @@
+#include "place.h"
+
+#include <arpa/inet.h>
+
+#include <cstring>
+
+#include "failure.h"
+#include "foundation/convert.h"
+
+namespace kvjxml::tool {
+
+void Place::refuse(const std::string& reason) const {
+    throw Failure(ExitCode::badJson, *source_ + ": \"" + pointer_.to_string() + "\" " + reason);
+}
+
+void Place::refuse(std::string_view field, const std::string& reason) const {
+    Place(*value_, *source_, pointer_ / std::string(field)).refuse(reason);
+}
+
+bool Place::has(std::string_view field) const {
+    const auto found = value_->find(field);
+    return found != value_->end() && !found->is_null();
+}
+
+Place Place::at(std::string_view field) const {
+    if (!has(field)) refuse(field, "is missing");
+    return {*value_->find(field), *source_, pointer_ / std::string(field)};
+}
+
+Place Place::at(std::size_t index) const { return {(*value_)[index], *source_, pointer_ / index}; }
+
+void Place::expectObject() const {
+    if (!value_->is_object()) refuse("has to be an object");
+}
+
+std::size_t Place::expectList() const {
+    constexpr std::size_t longest = 65536;  // No printer's list comes near it.
+    if (!value_->is_array()) refuse("has to be a list");
+    if (value_->size() > longest) refuse("has more than " + std::to_string(longest) + " entries");
+    return value_->size();
+}
+
+std::string Place::text() const {
+    if (!value_->is_string()) refuse("has to be a text");
+    auto content = value_->get<std::string>();
+    if (content.find('\0') != std::string::npos) refuse("holds a NUL character");
+    return content;
+}
+
+void Place::read(bool& flag) const {
+    if (!value_->is_boolean()) refuse("has to be true or false");
+    flag = value_->get<bool>();
+}
+
+void Place::read(float& number) const {
+    if (!value_->is_number()) refuse("has to be a number");
+    const auto wide = value_->get<double>();
+    if (wide > std::numeric_limits<float>::max() || wide < std::numeric_limits<float>::lowest()) {
+        refuse("is out of range");
+    }
+    number = static_cast<float>(wide);
+}
+
+std::int64_t Place::wholeNumber() const {
+    if (!value_->is_number_integer()) refuse("has to be a whole number");
+    if (value_->is_number_unsigned() && !std::in_range<std::int64_t>(value_->get<std::uint64_t>())) {
+        refuse("is out of range");
+    }
+    return value_->get<std::int64_t>();
+}
+
+void Place::read(unsigned char (&address)[6]) const {
+    const std::string content = text();
+    const auto bytes = convert::toHardwareAddress(content.c_str());
+    // Only a text that is written just so again was one.
+    std::string lower = content;
+    for (char& letter : lower) {
+        if (letter >= 'A' && letter <= 'F') letter = static_cast<char>(letter - 'A' + 'a');
+    }
+    if (lower != convert::fromHardwareAddress(bytes.data()).c_str()) {
+        refuse("has to be a hardware address such as 00:1a:2b:3c:4d:5e");
+    }
+    std::memcpy(address, bytes.data(), sizeof address);
+}
+
+void Place::readIpAddress(unsigned long& address) const {
+    in_addr network{};
+    if (inet_pton(AF_INET, text().c_str(), &network) != 1) refuse("has to be an IPv4 address such as 192.168.0.1");
+    address = network.s_addr;
+}
+
+}  // namespace kvjxml::tool

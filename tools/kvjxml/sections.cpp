@@ -1,0 +1,67 @@
+#include "sections.h"
+
+#include <iomanip>
+#include <iostream>
+
+#include "failure.h"
+
+namespace kvjxml::tool {
+
+namespace {
+
+std::string contentOf(const DescribedRow& row) {
+    std::string text(row.name);
+    if (row.description.group.empty()) return text;
+    text += " (";
+    for (const auto& part : row.description.group) {
+        text.append(&part == row.description.group.data() ? "" : ", ").append(part.name);
+    }
+    return text + ")";
+}
+
+}  // namespace
+
+std::vector<NamedSection> sectionsOf(std::span<const DescribedRow> rows) {
+    std::vector<NamedSection> sections;
+    for (const auto& row : rows) {
+        const auto sameBit = std::ranges::find(sections, row.section, &NamedSection::bit);
+        if (sameBit != sections.end()) {
+            sameBit->content.append(", ").append(contentOf(row));
+            continue;
+        }
+        const bool taken = std::ranges::find(sections, row.name, &NamedSection::name) != sections.end();
+        sections.push_back({std::string(taken ? row.description.field : row.name), row.section, contentOf(row)});
+    }
+    return sections;
+}
+
+NamedNumbers bitsByName(std::span<const DescribedRow> rows) {
+    NamedNumbers bits;
+    for (const auto& section : sectionsOf(rows)) bits.emplace(section.name, section.bit);
+    return bits;
+}
+
+// Groups nest as deep as the tables are written, so the recursion ends. NOLINTNEXTLINE(misc-no-recursion)
+Names fieldsWritten(std::span<const DescribedRow> rows, long mask) {
+    Names names;
+    for (const auto& row : rows) {
+        if (row.section != 0 && (row.section & mask) == 0) continue;
+        if (row.description.field.empty()) {
+            names.merge(fieldsWritten(row.description.group));
+        } else {
+            names.insert(row.description.field);
+        }
+    }
+    return names;
+}
+
+ExitCode listSections(std::span<const DescribedRow> rows) {
+    for (const auto& section : sectionsOf(rows)) {
+        std::cout << std::left << std::setw(24) << section.name << " 0x" << std::setw(7) << std::hex << section.bit
+                  << section.content << '\n';
+    }
+    if (!std::cout.flush()) throw Failure(ExitCode::inputOutput, "standard output: cannot be written");
+    return ExitCode::done;
+}
+
+}  // namespace kvjxml::tool
