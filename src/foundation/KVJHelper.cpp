@@ -77,7 +77,8 @@ bool KVJHelper::GetPhysicalAddress(TiXmlElement* element, unsigned char* address
 // ---- Attribute to value ----
 
 bool KVJHelper::GetInt(TiXmlElement* element, char* name, int& value) {
-    return element != nullptr && name != nullptr && element->QueryIntAttribute(name, &value) == TIXML_SUCCESS;
+    const char* content = attributeOf(element, name);
+    return content != nullptr && convert::scanInt(content, value);
 }
 
 bool KVJHelper::GetNumberFromAttr(TiXmlElement* element, char* name, int& value) {

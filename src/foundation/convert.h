@@ -15,6 +15,8 @@ long toLong(const char* text) noexcept;
 float toFloat(const char* text) noexcept;
 
 /// The scans say whether the text matched, and leave `value` alone when it did not.
+/// "%d".
+bool scanInt(const char* text, int& value) noexcept;
 /// "0x%x": the prefix has to be there, in lower case.
 bool scanPrefixedHex(const char* text, unsigned int& value) noexcept;
 /// "0x%02x": at most two digits behind the prefix.

@@ -130,10 +130,10 @@ private:
             const void* found = std::memchr(at_, last, static_cast<std::size_t>(end_ - at_));
             at_ = found == nullptr ? end_ : static_cast<const char*>(found);
         }
-        const char special[] = {last, '&', '\0'};
-        for (;; skipCharacter(value)) {
-            if (ascii_ && value == nullptr) at_ += std::strcspn(at_, special);
-            if (*at_ == '\0' || *at_ == last) return;
+        for (; *at_ != '\0' && *at_ != last; skipCharacter(value)) {
+            if (!ascii_ || value != nullptr) continue;
+            while (*at_ != '\0' && *at_ != last && *at_ != '&') ++at_;
+            if (*at_ != '&') return;
         }
     }
 
