@@ -1,0 +1,205 @@
+// Hosts that run out of memory: each allocation of each operation fails in turn, alone and with all that come after it.
+#include <KVJConfigParser.h>
+#include <KVJPrinterIDParser.h>
+#include <gtest/gtest.h>
+#include <tinyxml.h>
+
+#include <cstddef>
+#include <cstring>
+#include <filesystem>
+#include <iterator>
+#include <new>
+#include <string>
+#include <vector>
+
+#include "hostile/allocation_watch.h"
+#include "hostile/composers.h"
+#include "hostile/copy_scope.h"
+#include "hostile/outcome.h"
+#include "hostile/samples.h"
+#include "support/readers.h"
+
+namespace {
+
+using namespace kvjxml::tests;
+
+constexpr Failing bothWays[] = {Failing::once, Failing::fromThenOn};
+
+/// Whether an action ends in std::bad_alloc when its allocations fail after so many of them.
+template <class Action>
+bool throwsAfter(std::size_t allowed, Failing failing, AllocationWatch& watch, Action action) {
+    watch.fail(allowed, failing);
+    bool thrown = false;
+    try {
+        action();
+    } catch (const std::bad_alloc&) {
+        thrown = true;
+    }
+    watch.failNoMore();
+    return thrown;
+}
+
+struct Fault {
+    bool thrown;
+    std::size_t leaked;  ///< blocks
+};
+
+/// What comes of an action that says whether it has thrown. It keeps nothing that it allocates: the watch would free
+/// it.
+template <class Action>
+Fault faultOf(Action action) {
+    AllocationWatch watch;
+    const bool thrown = action(watch);
+    return {thrown, watch.alive()};
+}
+
+template <class Action>
+Fault faultAfter(std::size_t allowed, Failing failing, Action action) {
+    return faultOf([&](AllocationWatch& watch) { return throwsAfter(allowed, failing, watch, action); });
+}
+
+template <class Action>
+std::size_t allocationsOf(Action action) {
+    const AllocationWatch watch;
+    action();
+    return watch.made();
+}
+
+TEST(AllocationWatch, SeesTinyXmlToo) {
+    TiXmlElement element("x");
+    EXPECT_EQ(allocationsOf([] { delete new TiXmlElement("y"); }), 1U);
+    EXPECT_EQ(faultAfter(1, Failing::once, [] { new TiXmlElement("y"); }).leaked, 1U);
+    EXPECT_TRUE(faultAfter(0, Failing::once, [&] { element.SetAttribute("a", "1"); }).thrown);
+}
+
+// ---- Readers ----
+
+/// What TinyXML leaks, here alone: it hands an element over to its parent when the element is parsed to its end, so
+/// those that were begun are lost, with all that they hold, when memory runs out in between. The number of blocks for
+/// each allocation that fails in reading this text.
+std::vector<std::size_t> leaksOfTinyXml(const std::string& text) {
+    const auto parse = [&] {
+        TiXmlDocument document;
+        document.SetTabSize(0);
+        document.Parse(text.c_str(), nullptr, TIXML_ENCODING_UNKNOWN);
+    };
+    std::vector<std::size_t> leaks(allocationsOf(parse));
+    for (std::size_t i = 0; i < leaks.size(); ++i) leaks[i] = faultAfter(i, Failing::once, parse).leaked;
+    return leaks;
+}
+
+/// What readers leak therefore: nothing in the copy of the text, what TinyXML does in parsing it, and nothing in
+/// reading the tree. A list is read in two calls.
+std::vector<std::size_t> leaksInReading(const Reader& reader, const std::string& text, std::size_t allocations) {
+    std::vector<std::size_t> once = leaksOfTinyXml(text);
+    once.insert(once.begin(), 0);
+    std::vector<std::size_t> all(reader.ownAllocations);
+    all.insert(all.end(), once.begin(), once.end());
+    if (allocations == 2 * once.size()) all.insert(all.end(), once.begin(), once.end());
+    all.resize(allocations);
+    return all;
+}
+
+std::size_t allocationsOfReading(const Reader& reader, const ExactText& text) {
+    FramedRecord record(reader.recordSize);
+    return allocationsOf([&] { reader.read(text, record.first()); });
+}
+
+TEST(FaultsInReaders, AreThrownAndLeaveAValidRecordAndNothingBehind) {
+    withEachReader([](const Reader& reader) {
+        const std::string sample = sampleOf(reader.root);
+        const ExactText text(sample);
+        const Outcome whole = outcomeOf(reader, sample);
+        const std::vector<std::size_t> leaks = leaksInReading(reader, sample, allocationsOfReading(reader, text));
+        ASSERT_GT(leaks.size(), 1U);
+        for (std::size_t allowed = 0; allowed < leaks.size(); ++allowed) {
+            for (const Failing failing : bothWays) {
+                FramedRecord record(reader.recordSize);
+                const Fault fault = faultAfter(allowed, failing, [&] { reader.read(text, record.first()); });
+                ASSERT_TRUE(fault.thrown) << allowed;
+                ASSERT_EQ(fault.leaked, leaks[allowed]) << allowed;
+                ASSERT_TRUE(reader.isValid(record.first()) && record.isFramed()) << allowed;
+                ASSERT_EQ(outcomeOf(reader, sample), whole) << allowed;
+            }
+        }
+    });
+}
+
+TEST(FaultsInReaders, DoNotComeWithoutCause) {
+    withEachReader([](const Reader& reader) {
+        const ExactText text(sampleOf(reader.root));
+        const std::size_t enough = allocationsOfReading(reader, text);
+        FramedRecord record(reader.recordSize);
+        const Fault fault = faultAfter(enough, Failing::once, [&] { reader.read(text, record.first()); });
+        EXPECT_FALSE(fault.thrown);
+        EXPECT_EQ(fault.leaked, 0U);
+        EXPECT_EQ(record.content(), outcomeOf(reader, sampleOf(reader.root)).record);
+    });
+}
+
+// ---- Parsers that are the document that a reply is parsed into ----
+
+template <class Parser, class Record>
+void expectNextCallReads(bool (Parser::*operation)(const char*, int, Record&), const std::string& text) {
+    const auto read = [&](Parser& parser, Record& record) {
+        std::memset(&record, 0, sizeof record);
+        (parser.*operation)(text.c_str(), 0, record);
+    };
+    Parser first;
+    Record expected;
+    const std::size_t count = allocationsOf([&] { read(first, expected); });
+    for (std::size_t allowed = 0; allowed < count; ++allowed) {
+        bool readsNext = false;
+        const Fault fault = faultOf([&](AllocationWatch& watch) {
+            Parser parser;
+            Record record;
+            const bool thrown = throwsAfter(allowed, Failing::once, watch, [&] { read(parser, record); });
+            read(parser, record);
+            readsNext = std::memcmp(&record, &expected, sizeof record) == 0 && parser.NoChildren();
+            return thrown;
+        });
+        ASSERT_TRUE(fault.thrown) << allowed;
+        ASSERT_TRUE(readsNext) << allowed;
+    }
+}
+
+TEST(FaultsInParsers, LeaveAConfigurationParserThatReadsTheNext) {
+    expectNextCallReads(&Kavrin::KVJConfigParser::GetConfiguration, sampleOf("configuration"));
+}
+
+TEST(FaultsInParsers, LeaveAPrinterIdParserThatReadsTheNext) {
+    expectNextCallReads(&Kavrin::KVJPrinterIDParser::ParsePrinterInfo, sampleOf("printer_id"));
+}
+
+// ---- Composers ----
+
+auto openFiles() {
+    return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), std::filesystem::directory_iterator());
+}
+
+TEST(FaultsInComposers, AreThrownAndLeaveNothingBehindAndTheNextCallComposes) {
+    withEachComposer([](const Composer& composer) {
+        const std::string whole = textOf(composer);
+        ASSERT_NE(whole, "");
+        const auto filesBefore = openFiles();
+        const std::size_t count = allocationsOf([&] { composer.begin()->compose(); }) - allocationsOf(composer.begin);
+        ASSERT_GT(count, 1U);
+        for (std::size_t allowed = 0; allowed <= count; ++allowed) {
+            for (const Failing failing : bothWays) {
+                bool composesNext = false;
+                const Fault fault = faultOf([&](AllocationWatch& watch) {
+                    const auto composing = composer.begin();
+                    const bool thrown = throwsAfter(allowed, failing, watch, [&] { composing->compose(); });
+                    composesNext = composing->compose() && composing->text() == whole;
+                    return thrown;
+                });
+                ASSERT_EQ(fault.thrown, allowed < count) << allowed;
+                ASSERT_EQ(fault.leaked, 0U) << allowed;
+                ASSERT_TRUE(composesNext) << allowed;
+            }
+        }
+        EXPECT_EQ(openFiles(), filesBefore);
+    });
+}
+
+}  // namespace

@@ -1,0 +1,128 @@
+// The copy of a request that the service engineer finds is a courtesy: whatever is in its way, the host gets its
+// request.
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <filesystem>
+#include <string>
+
+#include "foundation/request.h"
+#include "hostile/composers.h"
+#include "support/files.h"
+
+namespace {
+
+using namespace kvjxml::tests;
+
+/// The process is a user without rights while this lives; one that is not root's already is.
+class WithoutRights {
+public:
+    WithoutRights() { become(nobody); }
+    ~WithoutRights() { become(0); }
+    WithoutRights(const WithoutRights&) = delete;
+    WithoutRights& operator=(const WithoutRights&) = delete;
+
+    static void give(const std::filesystem::path& path) {
+        if (getuid() == 0 && chown(path.c_str(), nobody, nobody) != 0) throw std::runtime_error("chown");
+    }
+
+private:
+    static constexpr uid_t nobody = 65534;
+    static void become(uid_t user) {
+        if (getuid() == 0 && seteuid(user) != 0) throw std::runtime_error("seteuid");
+    }
+};
+
+/// No file of this process can grow while this lives.
+class NoRoomForFiles {
+public:
+    NoRoomForFiles() : signalBefore_(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit none{0, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &none);
+    }
+    ~NoRoomForFiles() {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, signalBefore_);
+    }
+    NoRoomForFiles(const NoRoomForFiles&) = delete;
+    NoRoomForFiles& operator=(const NoRoomForFiles&) = delete;
+
+private:
+    rlimit before_{};
+    void (*signalBefore_)(int);
+};
+
+/// Checks each composer that leaves a copy, with something in the way of that: the text is as ever.
+template <class Obstruct>
+void expectComposed(Obstruct obstruct) {
+    withEachComposer([&](const Composer& composer) {
+        if (composer.copy == nullptr) return;
+        const std::string whole = textOf(composer);
+        ASSERT_NE(whole, "");
+        const std::filesystem::path copy = composer.copy;
+        std::filesystem::remove(copy);
+        obstruct(copy, [&] { EXPECT_EQ(textOf(composer), whole); });
+    });
+}
+
+TEST(CopyInTheWay, AFileThatIsReadOnlyStaysAsItIs) {
+    expectComposed([](const auto& copy, auto expectText) {
+        kvjxml::tests::write(copy, "old");
+        std::filesystem::permissions(copy, std::filesystem::perms{0400});
+        WithoutRights::give(copy);
+        {
+            const WithoutRights scope;
+            expectText();
+        }
+        EXPECT_EQ(contentOf(copy), "old");
+    });
+}
+
+TEST(CopyInTheWay, ADiskWithoutRoomHasAnEmptyOne) {
+    expectComposed([](const auto& copy, auto expectText) {
+        {
+            const NoRoomForFiles scope;
+            expectText();
+        }
+        EXPECT_EQ(contentOf(copy), "");
+    });
+}
+
+TEST(CopyInTheWay, ALinkToNothingCreatesNothing) {
+    expectComposed([](const auto& copy, auto expectText) {
+        const TemporaryFolder folder;
+        std::filesystem::create_symlink(folder / "target", copy);
+        expectText();
+        EXPECT_FALSE(std::filesystem::exists(folder / "target"));
+    });
+}
+
+TEST(CopyInTheWay, APipeThatNobodyReadsDoesNotBlock) {
+    expectComposed([](const auto& copy, auto expectText) {
+        ASSERT_EQ(mkfifo(copy.c_str(), 0600), 0);
+        expectText();
+        EXPECT_TRUE(std::filesystem::is_fifo(copy));
+    });
+}
+
+TEST(DiagnosticCopy, InAFolderThatCannotBeWrittenIsNotMade) {
+    const TemporaryFolder folder;
+    const std::filesystem::path closed = folder / "closed";
+    std::filesystem::create_directory(closed);
+    WithoutRights::give(closed);
+    std::filesystem::permissions(closed, std::filesystem::perms{0500});
+    std::filesystem::permissions(folder / "", std::filesystem::perms{0755});
+    {
+        const WithoutRights scope;
+        TiXmlDocument request;
+        kvjxml::beginRequest(request, "nonce");
+        kvjxml::keepDiagnosticCopy(request, (closed / "settings").c_str());
+    }
+    EXPECT_TRUE(std::filesystem::is_empty(closed));
+}
+
+}  // namespace

@@ -1,0 +1,45 @@
+// Replies with a byte that is wrong: a line or a firmware that garbles one.
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "hostile/outcome.h"
+#include "hostile/samples.h"
+#include "hostile/sanitizers.h"
+#include "support/readers.h"
+
+namespace {
+
+using namespace kvjxml::tests;
+
+/// What is markup, and what begins a character of two, three and four bytes.
+constexpr std::string_view wrongBytes = "<>/\"'=&;#x\xC3\xEF\xF0";
+
+TEST(Mutations, OfAnyByteLeaveTheRecordValid) {
+    withEachReader([](const Reader& reader) {
+        const std::string sample = sampleOf(reader.root);
+        const std::size_t count = sample.size() * wrongBytes.size();
+        std::size_t step = stride(count, sample.size());
+        if (step % wrongBytes.size() == 0) ++step;  // else it would be the same wrong byte each time
+        for (std::size_t i = 0; i < count; i += step) {
+            std::string text = sample;
+            text[i / wrongBytes.size()] = wrongBytes[i % wrongBytes.size()];
+            ASSERT_TRUE(outcomeOf(reader, text).isSound) << text;
+        }
+    });
+}
+
+TEST(Mutations, ByANulEndTheReply) {
+    withEachReader([](const Reader& reader) {
+        const std::string sample = sampleOf(reader.root);
+        for (std::size_t at = 0; at < sample.size(); at += stride(sample.size(), sample.size())) {
+            std::string text = sample;
+            text[at] = '\0';
+            ASSERT_EQ(outcomeOf(reader, text), outcomeOf(reader, sample.substr(0, at))) << at;
+        }
+    });
+}
+
+}  // namespace

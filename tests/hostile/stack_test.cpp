@@ -1,0 +1,101 @@
+// Readers run in threads with little stack: half a megabyte is enough for whatever a printer sends.
+#include <gtest/gtest.h>
+#include <pthread.h>
+
+#include <cstddef>
+#include <string>
+
+#include "hostile/outcome.h"
+#include "hostile/samples.h"
+#include "hostile/sanitizers.h"
+#include "support/readers.h"
+
+namespace {
+
+using namespace kvjxml::tests;
+
+constexpr std::size_t stackSize = 512 << 10;
+
+/// Runs an action in a thread with that stack, and waits for its end.
+template <class Action>
+void runWithSmallStack(Action action) {
+    pthread_attr_t attributes;
+    ASSERT_EQ(pthread_attr_init(&attributes), 0);
+    ASSERT_EQ(pthread_attr_setstacksize(&attributes, stackSize), 0);
+    pthread_t thread;
+    const auto run = [](void* argument) -> void* {
+        (*static_cast<Action*>(argument))();
+        return nullptr;
+    };
+    ASSERT_EQ(pthread_create(&thread, &attributes, run, &action), 0);
+    ASSERT_EQ(pthread_join(thread, nullptr), 0);
+    pthread_attr_destroy(&attributes);
+}
+
+std::string times(std::size_t count, const std::string& text) {
+    std::string all;
+    for (std::size_t i = 0; i < count; ++i) all += text;
+    return all;
+}
+
+/// So many elements in each other, with `inside` in the innermost.
+std::string nested(std::size_t levels, const std::string& inside = {}, const std::string& attributes = {}) {
+    return times(levels, "<a" + attributes + ">") + inside + times(levels, "</a>");
+}
+
+std::string attributes(std::size_t count) {
+    std::string all;
+    for (std::size_t i = 0; i < count; ++i) all += " n" + std::to_string(i) + "=\"\"";
+    return all;
+}
+
+/// Reads a reply with a shape behind it, where that is none of the reader's business.
+void readWithSmallStack(const std::string& shape,
+                        Outcome (*expected)(const Reader& reader, const std::string& sample)) {
+    withEachReader([&](const Reader& reader) {
+        const std::string sample = sampleOf(reader.root);
+        Outcome outcome{};
+        ASSERT_NO_FATAL_FAILURE(runWithSmallStack([&] { outcome = outcomeOf(reader, sample + shape); }));
+        EXPECT_EQ(outcome, expected(reader, sample));
+    });
+}
+void expectRead(const std::string& shape) {
+    readWithSmallStack(shape,
+                       [](const Reader& reader, const std::string& sample) { return outcomeOf(reader, sample); });
+}
+void expectRefused(const std::string& shape) {
+    readWithSmallStack(shape, [](const Reader& reader, const std::string&) { return outcomeOf(reader, ""); });
+}
+
+class SmallStack : public testing::Test {
+protected:
+    void SetUp() override {
+        if (hasAddressSanitizer) GTEST_SKIP() << "the sanitizer makes each call take more stack than in a host";
+    }
+};
+
+TEST_F(SmallStack, IsEnoughForTheDeepestReplies) {
+    expectRead(nested(64));
+    expectRead(times(64, "<a>"));
+    expectRead(nested(63, times(10'000, "<b/>")));
+    expectRead(nested(63, times(10'000, "<b>text</b>")));
+}
+
+TEST_F(SmallStack, IsEnoughForTheWidestReplies) {
+    expectRead(nested(1, {}, attributes(256)));
+    expectRead(nested(64, {}, attributes(256)));
+}
+
+TEST_F(SmallStack, IsEnoughToRefuseDeeperReplies) {
+    expectRefused(nested(65));
+    expectRefused(nested(10'000));
+    expectRefused(times(100'000, "<a>"));
+    expectRefused(nested(10'000, times(10'000, "<b/>")));
+}
+
+TEST_F(SmallStack, IsEnoughToRefuseWiderReplies) {
+    expectRefused(nested(1, {}, attributes(257)));
+    expectRefused(nested(1, {}, attributes(100'000)));
+}
+
+}  // namespace
