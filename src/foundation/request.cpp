@@ -67,10 +67,10 @@ void keepDiagnosticCopy(const TiXmlDocument& request, const char* path) {
     const int descriptor = open(path, O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, ownerOnly);
     if (descriptor < 0) return;
     const std::unique_ptr<std::FILE, CloseFile> file(fdopen(descriptor, "w"));
-    if (file == nullptr) {
+    if (file == nullptr) {  // GCOVR_EXCL_START: only for want of memory, which no test can take from the C library.
         close(descriptor);
         return;
-    }
+    }  // GCOVR_EXCL_STOP
     if (!isOwn(descriptor) || fchmod(descriptor, ownerOnly) != 0 || ftruncate(descriptor, 0) != 0) return;
     static_cast<void>(request.SaveFile(file.get()));
 }

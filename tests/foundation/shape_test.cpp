@@ -131,6 +131,15 @@ TEST(Shape, ANumberedReferenceGoesToTheNextSemicolon) {
                   {"<a b='&#1'<c>#39;'/>", 1, 1}});
 }
 
+TEST(Shape, ANumberedReferenceHasTheDigitsOfItsBase) {
+    // "A" is 0x41 and "J" 0x4a; where a digit is none of the base, TinyXML gives up.
+    expectShapes({{"<r>&#x4a;<b/></r>", 2, 0},
+                  {"<r>&#x4A;<b/></r>", 2, 0},
+                  {"<r>&#65;<b/></r>", 2, 0},
+                  {"<r>&#x4g;<b/></r>", 1, 0},
+                  {"<r>&#4a;<b/></r>", 1, 0}});
+}
+
 TEST(Shape, ACharacterOfSeveralBytesTakesMarkupAlongInUtf8Only) {
     expectShapes({{"<?xml version='1.0'?><a>\xC3<b/></a>", 1, 0},
                   {"<?xml version='1.0' encoding='utf-8'?><a>\xE2<b/></a>", 1, 0},
