@@ -65,6 +65,7 @@ TEST(Encode, ANumberThatDoesNotFitIsRefused) {
         expectRefused("motor", std::string("{\"state\":") + state + "}", "\"/state\" is out of range");
     }
     expectRefused("calibrate", R"({"calibration":1,"torque":1e39})", "\"/torque\" is out of range");
+    expectRefused("calibrate", R"({"calibration":1,"torque":1e400})", "\"\" holds a number that is out of range");
 }
 
 TEST(Encode, AnUnknownFieldIsRefused) {

@@ -12,6 +12,8 @@ Arguments::Arguments(const std::string& json_, std::string source)
         object_ = json::parse(json_);
     } catch (const json::parse_error& error) {
         throw Failure(ExitCode::badJson, source_ + ": byte " + std::to_string(error.byte) + ": is no JSON");
+    } catch (const json::out_of_range&) {  // A number that not even a double can hold.
+        throw Failure(ExitCode::badJson, source_ + ": \"\" holds a number that is out of range");
     }
     whole().expectObject();
 }

@@ -1,0 +1,42 @@
+// Who a printer is to be.
+#include <KVJSetPrinterInfo.h>
+
+#include "composing.h"
+#include "foundation/request.h"
+#include "records.h"
+
+namespace {
+
+using Composer = Kavrin::KVJSetPrinterInfo;
+using kvjxml::fuzz::Values;
+
+template <class Compose>
+void check(Values& values, Compose compose) {
+    kvjxml::fuzz::Arrays arrays;
+    const auto info = kvjxml::fuzz::recordOf<Kavrin::KVPrinterInfo>(values, arrays);
+    kvjxml::fuzz::checkWide<Composer>(values, [&](Composer& composer, wchar_t* out, int capacity) {
+        return compose(composer, *info, out, capacity);
+    });
+}
+
+void sections(Values& values) {
+    const int mask = values.number();
+    check(values, [&](Composer& composer, const auto& info, wchar_t* out, int capacity) {
+        return composer.SetPrinterInfo(info, out, capacity, mask);
+    });
+}
+
+void whole(Values& values) {
+    check(values, [](Composer& composer, const auto& info, wchar_t* out, int capacity) {
+        return composer.addPrinterInfo(kvjxml::beginRequest(composer, "printer_id"), info) &&
+               composer.saveJob(out, capacity);
+    });
+}
+
+constexpr kvjxml::fuzz::Operation operations[] = {{"SetPrinterInfo", sections}, {"addPrinterInfo", whole}};
+
+}  // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    return kvjxml::fuzz::run(operations, data, size);
+}

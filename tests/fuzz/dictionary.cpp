@@ -1,0 +1,103 @@
+// Prints the words of the project's own tables as a dictionary for the fuzzer: the names of elements and readers, the
+// words that are read, and the fields of the requests' JSON.
+#include <cctype>
+#include <cstdio>
+#include <iostream>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "messages.h"
+#include "requests.h"
+
+namespace {
+
+using Entries = std::set<std::string, std::less<>>;
+
+/// What XML, TinyXML's readings of it, and JSON are made of, beside words.
+constexpr std::string_view marks[] = {"<?xml version=\"1.0\" encoding=\"UTF-8\"?>",
+                                      "encoding=\"ISO-8859-1\"",
+                                      "?>",
+                                      "<!--",
+                                      "-->",
+                                      "<![CDATA[",
+                                      "]]>",
+                                      "<!DOCTYPE a>",
+                                      "</",
+                                      "/>",
+                                      "<a>",
+                                      "</a>",
+                                      "<a/>",
+                                      " b='c'",
+                                      " b=\"c\"",
+                                      "&amp;",
+                                      "&#65;",
+                                      "&#x41;",
+                                      "&#",
+                                      ";",
+                                      "\xEF\xBB\xBF",
+                                      "\xEF\xBF\xBE",
+                                      "\xC3",
+                                      "\xE2\x82",
+                                      "\xF0",
+                                      "\x7F",
+                                      "null",
+                                      "true",
+                                      "false",
+                                      "\\u00e9",
+                                      "1e38",
+                                      "-2147483648",
+                                      "0x1f",
+                                      "00:1a:2b:3c:4d:5e"};
+
+void collect(std::span<const kvjxml::DescribedRow> rows, Entries& entries) {
+    for (const auto& row : rows) {
+        entries.emplace(row.name);
+        entries.emplace(row.description.argument);
+        for (const auto& word : row.description.table.rows) entries.emplace(word.word);
+        collect(row.description.group, entries);
+    }
+}
+
+/// The words of what --help says of a request.
+void collectWords(std::string_view text, Entries& entries) {
+    std::string word;
+    for (const char c : text) {
+        if (std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '_') {
+            word += c;
+        } else {
+            entries.insert(std::exchange(word, {}));
+        }
+    }
+    entries.insert(word);
+}
+
+void print(std::string_view entry) {
+    std::cout << '"';
+    for (const char c : entry) {
+        char escaped[5];
+        std::snprintf(escaped, sizeof escaped, "\\x%02X", static_cast<unsigned char>(c));
+        const bool plain = c >= ' ' && c <= '~' && c != '"' && c != '\\';
+        std::cout << (plain ? std::string(1, c) : escaped);
+    }
+    std::cout << "\"\n";
+}
+
+}  // namespace
+
+int main() {
+    Entries entries(std::begin(marks), std::end(marks));
+    for (const auto& message : kvjxml::tool::messages()) {
+        entries.emplace(message.root);
+        collect(message.table, entries);
+    }
+    for (const auto& request : kvjxml::tool::requests()) {
+        entries.emplace(request.name);
+        entries.emplace(request.composer);
+        collectWords(request.fields, entries);
+    }
+    entries.erase("");
+    for (const auto& entry : entries) print(entry);
+    return std::cout.flush() ? 0 : 1;
+}
