@@ -15,7 +15,7 @@ std::string catalogue(std::size_t count) {
     const std::size_t end = text.find("</card>") + sizeof "</card>" - 1;
     std::string cards;
     for (std::size_t i = 0; i < count; ++i) cards += text.substr(first, end - first);
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?><media><cards>" + cards + "</cards></media>";
+    return R"(<?xml version="1.0" encoding="UTF-8"?><media><cards>)" + cards + "</cards></media>";
 }
 
 bool read(const std::string& reply, std::size_t count) {

@@ -82,6 +82,7 @@ enum _laminatorType : int { laminatorNone = 0, laminatorOneSided = 1, laminatorT
 /// array to zero before. A null array has room for nothing. Composing writes as many entries as the count says.
 ///
 /// Sizes of memory and pages, and the resolution, are in the printer's own units.
+// The order is the one that hosts are built with. NOLINTNEXTLINE(clang-analyzer-optin.performance.Padding)
 struct _Capabilities {
     int hostPortCount;               ///< Entries of `hostPorts`.
     _PortCaps* hostPorts;            ///< "host_ports" / "host_port"

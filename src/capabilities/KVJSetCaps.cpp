@@ -1,7 +1,5 @@
 #include "KVJSetCaps.h"
 
-#include <cstring>
-
 #include "capabilities/tables.h"
 #include "foundation/request.h"
 
@@ -114,9 +112,7 @@ bool KVJSetCaps::graphicFormatToString(char* buf, int code) { return writeWord(b
 bool KVJSetCaps::MagHeadTypeToString(char* buf, int code) { return writeWord(buf, tables::magHeadTypesWritten, code); }
 
 bool KVJSetCaps::encAlgToString(char* buf, int code) {
-    const bool known = writeWord(buf, tables::encryptionAlgorithms, code);
-    if (buf != nullptr && !known) std::strcpy(buf, "none");
-    return known;
+    return writeWord(buf, tables::encryptionAlgorithms, code, "none");
 }
 
 bool KVJSetCaps::magStripeLocationToString(char* buf, int code) {
@@ -139,6 +135,7 @@ bool KVJSetCaps::LaminatorToString(char* buf, char flag) {
     return writeWord(buf, tables::laminatorsWritten, flag != 0 ? 1 : 0);
 }
 
+// Hosts are linked against it as it is. NOLINTNEXTLINE(readability-make-member-function-const)
 bool KVJSetCaps::printSystemTypeToString(char* buf, int /*code*/) {
     return writeWord(buf, tables::printSystemsWritten, directToCard_ ? 1 : 0);
 }

@@ -42,10 +42,11 @@ const char* wordOf(Words table, int code, const char* other) noexcept {
     return word == nullptr ? other : word;
 }
 
-bool writeWord(char* buffer, Words table, int code) noexcept {
+bool writeWord(char* buffer, Words table, int code, const char* other) noexcept {
     if (buffer == nullptr) return false;
     const char* word = wordOf(table, code);
-    std::strcpy(buffer, word == nullptr ? "" : word);
+    const std::string_view text = word == nullptr ? other : word;
+    buffer[text.copy(buffer, text.size())] = '\0';
     return word != nullptr;
 }
 

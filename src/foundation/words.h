@@ -47,7 +47,7 @@ public:
         }
     }
     /// The same rows for a reader that leaves its field alone at other texts.
-    consteval WordTable leavingOthers() const { return WordTable(rows_, match_); }
+    [[nodiscard]] consteval WordTable leavingOthers() const { return WordTable(rows_, match_); }
     // A table is what its readers look words up in, so it stands for its view wherever one is asked for.
     constexpr operator Words() const noexcept { return {rows_, other_, match_}; }
 
@@ -70,9 +70,9 @@ const char* wordOf(Words table, int code) noexcept;
 /// The same, but `other` when none does.
 const char* wordOf(Words table, int code, const char* other) noexcept;
 
-/// Writes the word of a code, or an empty text when it has none, to a buffer that holds the longest word.
+/// Writes the word of a code, or `other` when it has none, to a buffer that holds the longest word.
 /// @return whether it has one; false for a null buffer.
-bool writeWord(char* buffer, Words table, int code) noexcept;
+bool writeWord(char* buffer, Words table, int code, const char* other = "") noexcept;
 
 }  // namespace kvjxml
 

@@ -54,7 +54,8 @@ template <class Card>
 inline constexpr Writer<Card> coercivity{
     {"coercivity", "`none`, `low` or `high`"},
     [](TiXmlElement* parent, const char* name, const Card& card, const Selection&) {
-        const bool known = card.coercivity < std::size(Kavrin::COERCIVITYTYPES);
+        // The other way round clang 14 would take "<" for the beginning of template arguments.
+        const bool known = std::size(Kavrin::COERCIVITYTYPES) > card.coercivity;
         return addTag(parent, name, known ? Kavrin::COERCIVITYTYPES[card.coercivity] : "");
     }};
 

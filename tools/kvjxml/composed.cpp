@@ -9,7 +9,7 @@ std::string toUtf8(const std::vector<wchar_t>& text) {
     if (length == static_cast<std::size_t>(-1)) notComposed();
     std::string bytes(length, '\0');
     from = text.data();
-    std::wcsrtombs(bytes.data(), &from, length, &state);
+    bytes.resize(std::wcsrtombs(bytes.data(), &from, length, &state));
     return bytes;
 }
 

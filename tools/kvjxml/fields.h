@@ -69,6 +69,7 @@ struct FieldTraits {
     static constexpr std::size_t endAfter(std::size_t end) { return endAfter<ValueOf<Field>>(end); }
     template <class Value>
     static constexpr std::size_t endAfter(std::size_t end) {
+        // NOLINTNEXTLINE(bugprone-sizeof-expression): a field may be a pointer.
         return (end + alignof(Value) - 1) / alignof(Value) * alignof(Value) + sizeof(Value);
     }
 };

@@ -170,9 +170,13 @@ struct ListArrays {
     }
     /// How many entries there are up to the last that was written: the section may have had other elements as well.
     [[nodiscard]] int filled() const {
-        const std::vector<char> untouched(sizeof(Entry), mark);
+        const auto* const first = reinterpret_cast<const char*>(marks.data());
+        const auto isUntouched = [=](std::size_t entry) {
+            return std::all_of(first + entry * sizeof(Entry), first + (entry + 1) * sizeof(Entry),
+                               [](char byte) { return byte == mark; });
+        };
         std::size_t count = marks.size();
-        while (count > 0 && std::memcmp(&marks[count - 1], untouched.data(), sizeof(Entry)) == 0) --count;
+        while (count > 0 && isUntouched(count - 1)) --count;
         return static_cast<int>(count);
     }
     static constexpr char mark = 0x5A;
