@@ -14,8 +14,8 @@ namespace Kavrin {
 /// two roots, so take **a fresh object for each request**, in one thread at a time.
 ///
 /// What is written is what the printer expects, and not in every place what it sends: the operations below say where.
-/// Texts of the record need not be terminated. A null `under` adds nothing and gives false; so does a null array,
-/// whatever its count.
+/// Texts of the record need not be terminated. A null `under` adds nothing and gives false; a null array has no
+/// entries, whatever its count.
 class KVJXML_API KVJSetCaps : public TiXmlDocument {
 public:
     /// Composes "capabilities" and prints it.
