@@ -1,6 +1,10 @@
-// How the time to read a catalogue of media grows with its cards: in proportion. See README.md.
+// How the time to read a catalogue of media grows with its cards: in proportion. And the memory of the largest. See
+// README.md.
 #include <KVJMediaParser.h>
-#include <KVJSetMedia.h>
+#include <malloc.h>
+#include <sys/resource.h>
+
+#include <cstdio>
 
 #include "contest.h"
 
@@ -35,6 +39,23 @@ Task reading(std::size_t count) {
 
 std::vector<Task> tasks() { return {reading(20), reading(200), reading(2000), reading(20000)}; }
 
+/// What the catalogue keeps on the heap, and how far the process grew while it was read.
+void printMemory(std::size_t count) {
+    const std::string reply = catalogue(count);
+    const auto media = Kavrin::MakeKVMedia();
+    const std::size_t before = mallinfo2().uordblks;
+    Kavrin::KVJMediaParser().GetMedia(reply.front(), 0, *media);
+    const std::size_t kept = mallinfo2().uordblks - before;
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    std::printf("%zu cards, each a record of %zu bytes: %zu bytes kept, process at most %ld KiB, reply %zu bytes\n",
+                media->cards->size(), sizeof(Kavrin::_CardInfo), kept, usage.ru_maxrss, reply.size());
+}
+
 }  // namespace
 
-int main(int argc, char** argv) { return runContest(argc, argv, tasks); }
+int main(int argc, char** argv) {
+    constexpr std::size_t largest = 20000;
+    printMemory(largest);
+    return runContest(argc, argv, tasks);
+}

@@ -186,26 +186,28 @@ struct List {
     bool result = false;  ///< that of the last entry
 };
 
-/// One more entry of a list, walked with a table of its own. When there is no room it is skipped: nothing is written,
-/// and the result stays that of the last entry.
+/// Reads one more entry of a list. When there is no room it is skipped: nothing is written, and the result stays that
+/// of the last entry.
+template <class Entry>
+bool readNext(TiXmlElement* element, List<Entry>& list, const Getter<Entry>& getter) {
+    if (list.filled < list.entries.size()) list.result = getter.read(element, list.entries[list.filled++]);
+    return list.result;
+}
+
+/// An entry that is a group of elements, walked with a table of its own.
 template <const auto& Table>
 inline constexpr Getter<List<RecordOfTable<Table>>> entry{
     {.field = {}, .conversion = "entry of a list", .group = described<Table>},
-    [](TiXmlElement* element, List<RecordOfTable<Table>>& list) {
-        if (list.filled < list.entries.size()) list.result = walk(element, list.entries[list.filled++], Table);
-        return list.result;
-    }};
+    [](TiXmlElement* element, List<RecordOfTable<Table>>& list) { return readNext(element, list, group<Table>); }};
 
 template <class Record>
 Record recordOf(const Getter<Record>&);
 
-/// One more entry of a list that has no elements of its own: its getter reads the entry's text.
-template <const auto& Entry>
-inline constexpr Getter<List<RecordOfTable<Entry>>> each{
-    Entry.description, [](TiXmlElement* element, List<RecordOfTable<Entry>>& list) {
-        if (list.filled < list.entries.size()) list.result = Entry.read(element, list.entries[list.filled++]);
-        return list.result;
-    }};
+/// An entry that has no elements of its own: the getter reads its text.
+template <const auto& Text>
+inline constexpr Getter<List<RecordOfTable<Text>>> each{
+    Text.description,
+    [](TiXmlElement* element, List<RecordOfTable<Text>>& list) { return readNext(element, list, Text); }};
 
 }  // namespace kvjxml
 

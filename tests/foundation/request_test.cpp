@@ -3,11 +3,9 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
@@ -16,10 +14,12 @@
 
 #include "foundation/locale_scope.h"
 #include "support/files.h"
+#include "support/no_room_for_files.h"
 #include "support/xml.h"
 
 using kvjxml::tests::contentOf;
 using kvjxml::tests::LocaleScope;
+using kvjxml::tests::NoRoomForFiles;
 using kvjxml::tests::TemporaryFolder;
 using kvjxml::tests::wide;
 
@@ -232,26 +232,6 @@ public:
 
 private:
     mode_t before_;
-};
-
-/// No file of this process can grow while this lives.
-class NoRoomForFiles {
-public:
-    NoRoomForFiles() : signalBefore_(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit none{0, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &none);
-    }
-    ~NoRoomForFiles() {
-        setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, signalBefore_);
-    }
-    NoRoomForFiles(const NoRoomForFiles&) = delete;
-    NoRoomForFiles& operator=(const NoRoomForFiles&) = delete;
-
-private:
-    rlimit before_{};
-    void (*signalBefore_)(int);
 };
 
 class DiagnosticCopy : public testing::Test {

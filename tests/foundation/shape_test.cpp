@@ -10,6 +10,7 @@
 
 #include "KVJStatusParser.h"
 #include "foundation/reply.h"
+#include "support/tree_shape.h"
 #include "support/xml.h"
 
 namespace {
@@ -25,41 +26,20 @@ Shape shapeOfText(const std::string& text) {
     return shapeOf(padded.c_str(), std::char_traits<char>::length(padded.c_str()));
 }
 
-/// Measures the tree that TinyXML makes.
-class Measure : public TiXmlVisitor {
-public:
-    bool VisitEnter(const TiXmlElement& /*element*/, const TiXmlAttribute* first) override {
-        shape.depth = std::max(shape.depth, ++depth_);
-        std::size_t attributes = 0;
-        for (; first != nullptr; first = first->Next()) ++attributes;
-        shape.attributes = std::max(shape.attributes, attributes);
-        return true;
-    }
-    bool VisitExit(const TiXmlElement& /*element*/) override {
-        --depth_;
-        return true;
-    }
-    Shape shape;
-
-private:
-    std::size_t depth_ = 0;
-};
-
 /// What is told of a text is never less than what TinyXML makes of it, and exactly that where it finds no error.
 void expectAgreement(const std::string& text) {
     const std::string padded = text + std::string(4, '\0');
     TiXmlDocument document;
     document.SetTabSize(0);
     document.Parse(padded.c_str(), nullptr, TIXML_ENCODING_UNKNOWN);
-    Measure tree;
-    document.Accept(&tree);
+    const Shape tree = kvjxml::tests::shapeOfTree(document);
     const Shape told = shapeOfText(text);
     if (document.Error()) {
-        EXPECT_GE(told.depth, tree.shape.depth) << text;
-        EXPECT_GE(told.attributes, tree.shape.attributes) << text;
+        EXPECT_GE(told.depth, tree.depth) << text;
+        EXPECT_GE(told.attributes, tree.attributes) << text;
     } else {
-        EXPECT_EQ(told.depth, tree.shape.depth) << text;
-        EXPECT_EQ(told.attributes, tree.shape.attributes) << text;
+        EXPECT_EQ(told.depth, tree.depth) << text;
+        EXPECT_EQ(told.attributes, tree.attributes) << text;
     }
 }
 

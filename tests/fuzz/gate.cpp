@@ -1,35 +1,16 @@
 // What is told of a reply before it is parsed, against the tree that TinyXML then makes of it.
 #include <tinyxml.h>
 
-#include <algorithm>
 #include <cstring>
 
 #include "foundation/shape.h"
+#include "support/tree_shape.h"
 #include "target.h"
 
 namespace {
 
 using kvjxml::Shape;
 using kvjxml::fuzz::require;
-
-class Measure : public TiXmlVisitor {
-public:
-    bool VisitEnter(const TiXmlElement& /*element*/, const TiXmlAttribute* first) override {
-        shape.depth = std::max(shape.depth, ++depth_);
-        std::size_t attributes = 0;
-        for (; first != nullptr; first = first->Next()) ++attributes;
-        shape.attributes = std::max(shape.attributes, attributes);
-        return true;
-    }
-    bool VisitExit(const TiXmlElement& /*element*/) override {
-        --depth_;
-        return true;
-    }
-    Shape shape;
-
-private:
-    std::size_t depth_ = 0;
-};
 
 bool isWithinShape(Shape inner, Shape outer) {
     return inner.depth <= outer.depth && inner.attributes <= outer.attributes;
@@ -50,14 +31,13 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     TiXmlDocument document;
     document.SetTabSize(0);
     document.Parse(text.get(), nullptr, TIXML_ENCODING_UNKNOWN);
-    Measure tree;
-    document.Accept(&tree);
-    require(isWithinShape(tree.shape, told), "what is told is never less than the tree");
-    require(document.Error() || isWithinShape(told, tree.shape), "without an error, what is told is the tree's shape");
+    const Shape tree = kvjxml::tests::shapeOfTree(document);
+    require(isWithinShape(tree, told), "what is told is never less than the tree");
+    require(document.Error() || isWithinShape(told, tree), "without an error, what is told is the tree's shape");
 
     for (const Shape limit : {Shape{2, 2}, Shape{8, 16}, kvjxml::largestShape}) {
         const bool admitted = kvjxml::isWithin(limit, text.get(), length);
-        require(!admitted || isWithinShape(tree.shape, limit), "what is admitted is within the limit");
+        require(!admitted || isWithinShape(tree, limit), "what is admitted is within the limit");
         require(admitted || !isWithinShape(told, limit), "what is refused is not");
     }
     return 0;

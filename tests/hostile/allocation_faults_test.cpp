@@ -23,22 +23,6 @@ namespace {
 
 using namespace kvjxml::tests;
 
-constexpr Failing bothWays[] = {Failing::once, Failing::fromThenOn};
-
-/// Whether an action ends in std::bad_alloc when its allocations fail after so many of them.
-template <class Action>
-bool throwsAfter(std::size_t allowed, Failing failing, AllocationWatch& watch, Action action) {
-    watch.fail(allowed, failing);
-    bool thrown = false;
-    try {
-        action();
-    } catch (const std::bad_alloc&) {
-        thrown = true;
-    }
-    watch.failNoMore();
-    return thrown;
-}
-
 struct Fault {
     bool thrown;
     std::size_t leaked;  ///< blocks

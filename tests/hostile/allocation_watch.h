@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <limits>
+#include <new>
 
 namespace kvjxml::tests {
 
@@ -26,6 +27,22 @@ public:
     [[nodiscard]] std::size_t made() const;   ///< allocations since the watch began, without those that failed
     [[nodiscard]] std::size_t alive() const;  ///< those of them that were not freed
 };
+
+inline constexpr Failing bothWays[] = {Failing::once, Failing::fromThenOn};
+
+/// Whether an action ends in std::bad_alloc when its allocations fail after so many of them.
+template <class Action>
+bool throwsAfter(std::size_t allowed, Failing failing, AllocationWatch& watch, Action action) {
+    watch.fail(allowed, failing);
+    bool thrown = false;
+    try {
+        action();
+    } catch (const std::bad_alloc&) {
+        thrown = true;
+    }
+    watch.failNoMore();
+    return thrown;
+}
 
 }  // namespace kvjxml::tests
 

@@ -1,17 +1,16 @@
 // The copy of a request that the service engineer finds is a courtesy: whatever is in its way, the host gets its
 // request.
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <filesystem>
 #include <string>
 
 #include "foundation/request.h"
 #include "hostile/composers.h"
 #include "support/files.h"
+#include "support/no_room_for_files.h"
 
 namespace {
 
@@ -34,26 +33,6 @@ private:
     static void become(uid_t user) {
         if (getuid() == 0 && seteuid(user) != 0) throw std::runtime_error("seteuid");
     }
-};
-
-/// No file of this process can grow while this lives.
-class NoRoomForFiles {
-public:
-    NoRoomForFiles() : signalBefore_(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit none{0, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &none);
-    }
-    ~NoRoomForFiles() {
-        setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, signalBefore_);
-    }
-    NoRoomForFiles(const NoRoomForFiles&) = delete;
-    NoRoomForFiles& operator=(const NoRoomForFiles&) = delete;
-
-private:
-    rlimit before_{};
-    void (*signalBefore_)(int);
 };
 
 /// Checks each composer that leaves a copy, with something in the way of that: the text is as ever.

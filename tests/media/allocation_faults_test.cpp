@@ -24,27 +24,11 @@ using namespace kvjxml::tests;
 const std::string reply = contentOf(EXAMPLES_DIR "/replies/media.xml");
 constexpr Sizes replySizes = {4, 2, 0, 3};
 
-constexpr Failing bothWays[] = {Failing::once, Failing::fromThenOn};
-
 template <class Action>
 std::size_t allocationsOf(Action action) {
     const AllocationWatch watch;
     action();
     return watch.made();
-}
-
-/// Whether an action ends in std::bad_alloc when its allocations fail after so many of them.
-template <class Action>
-bool throwsAfter(std::size_t allowed, Failing failing, AllocationWatch& watch, Action action) {
-    watch.fail(allowed, failing);
-    bool thrown = false;
-    try {
-        action();
-    } catch (const std::bad_alloc&) {
-        thrown = true;
-    }
-    watch.failNoMore();
-    return thrown;
 }
 
 /// One of the allocations of an action, which fails.
