@@ -17,13 +17,19 @@ void release(std::vector<Entry*>* list) {
 
 _KVMediaInfo::~_KVMediaInfo() {
     const auto releaseFilled = [](auto* list) {
-        if (list != nullptr && !list->empty()) release(list);
+        const bool isFilled = list != nullptr && !list->empty();
+        if (isFilled) release(list);
+        return isFilled;
     };
     releaseFilled(cards);
     releaseFilled(films);
     releaseFilled(ribbons);
-    releaseFilled(laminates);
-    laminates = nullptr;
+    if (releaseFilled(laminates)) {
+        // Hosts find the last list null in the memory of a record that has ended; compilers leave out plain stores
+        // there.
+        std::vector<_MediaRibbonInfo*>* volatile& last = laminates;
+        last = nullptr;
+    }
 }
 
 _KVMediaInfo* GetKVMedia() { return new _KVMediaInfo; }

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <cstring>
 #include <memory>
 #include <new>
 #include <stdexcept>
@@ -250,6 +251,46 @@ TEST_F(MediaLife, TheDestructorLeavesFourEmptyListsAllocated) {
     delete films;
     delete ribbons;
     delete laminates;
+    expectNothingLeft();
+}
+
+/// The fields of a catalogue as the destructor leaves them in memory.
+struct Fields {
+    std::vector<_CardInfo*>* cards;
+    std::vector<_MediaRibbonInfo*>* films;
+    std::vector<_MediaRibbonInfo*>* ribbons;
+    std::vector<_MediaRibbonInfo*>* laminates;
+};
+
+template <class Fill>
+void expectLeft(Fill fillRecord, bool lastIsNull) {
+    static_assert(sizeof(Fields) == sizeof(_KVMediaInfo));
+    alignas(_KVMediaInfo) unsigned char memory[sizeof(_KVMediaInfo)];
+    auto* const media = new (memory) _KVMediaInfo;
+    BuildKVMedia(media);
+    fillRecord(*media);
+    const Fields before{media->cards, media->films, media->ribbons, media->laminates};
+    media->~_KVMediaInfo();
+    Fields after;
+    std::memcpy(&after, memory, sizeof after);
+    EXPECT_EQ(after.cards, before.cards);
+    EXPECT_EQ(after.films, before.films);
+    EXPECT_EQ(after.ribbons, before.ribbons);
+    EXPECT_EQ(after.laminates, lastIsNull ? nullptr : before.laminates);
+    delete after.ribbons;  // empty, so left alone
+    if (lastIsNull) return;
+    delete after.cards;
+    delete after.films;
+    delete after.laminates;
+}
+
+TEST_F(MediaLife, TheDestructorSetsTheLastFieldToNullOnly) {
+    expectLeft([](_KVMediaInfo& media) { fill(media); }, true);
+    expectNothingLeft();
+}
+
+TEST_F(MediaLife, TheDestructorLeavesTheFieldOfAnEmptyLastListAsItIs) {
+    expectLeft([](_KVMediaInfo& /*media*/) {}, false);
     expectNothingLeft();
 }
 
