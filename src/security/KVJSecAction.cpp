@@ -17,6 +17,12 @@ namespace {
 /// A length as the frame takes it; one that no reply has counts as none.
 std::int64_t signedLength(unsigned long length) { return static_cast<std::int64_t>(length); }
 
+/// The name of the action that a text has in it; null when there is none.
+const char* actionNameIn(const char* text) {
+    const auto code = codeOf(tables::actionNames, text);
+    return code ? wordOf(tables::actionNames, *code) : nullptr;
+}
+
 }  // namespace
 
 bool KVJSecAction::GetNonceValue(const wchar_t& reply, int length, char* nonce) {
@@ -47,10 +53,10 @@ bool KVJSecAction::ParseDHKeys(TiXmlElement* element, _tagHostDHKeys& keys, long
 bool KVJSecAction::ParseSecureDirectiveValues(const wchar_t& reply, unsigned long length, _tagSecDirecXML& directive) {
     Reply message(reply, signedLength(length));
     TiXmlElement* action = message.root("action");
-    if (textOf(action) != nullptr) {
-        // A text that is cut is still looked through for a name.
-        static_cast<void>(KVJHelper::GetString(action, directive.action[0], sizeof directive.action));
-        GetActionName(directive.action);
+    if (const char* text = textOf(action)) {
+        // The name is looked for in the whole text: in what fits of it, an unlocking could become a locking.
+        const char* name = actionNameIn(text);
+        kvjxml::convert::copy(name != nullptr ? name : text, directive.action, sizeof directive.action);
     }
     return ParseDirectiveValues(action, directive);
 }
@@ -94,10 +100,9 @@ bool KVJSecAction::ParseGetSecureActionRequest(const wchar_t& reply, unsigned lo
 }
 
 bool KVJSecAction::GetActionName(char* name) {
-    const auto code = codeOf(tables::actionNames, name);
-    if (!code) return false;
-    const char* found = wordOf(tables::actionNames, *code);
-    std::memmove(name, found, std::strlen(found) + 1);
+    const char* found = actionNameIn(name);
+    if (found == nullptr) return false;
+    std::memcpy(name, found, std::strlen(found) + 1);
     return true;
 }
 

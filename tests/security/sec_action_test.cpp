@@ -4,6 +4,7 @@
 #include <climits>
 #include <cstring>
 #include <string>
+#include <utility>
 
 #include "KVJSecAction.h"
 #include "support/xml.h"
@@ -132,6 +133,20 @@ TEST(KeyExchange, ALengthOfZeroOrBelowIsNoReply) {
     expectKeys(keys, 101, 102, 103);
 }
 
+TEST(KeyExchange, ThePrintersKeyIsReadAsTheOthersAndIsSigned) {
+    const struct {
+        const char* text;
+        long value;
+    } numbers[] = {{"0x1F", 31}, {"0X1F", 0}, {"0xFFFFFFFFFFFFFFFF", -1}, {"9", 9}, {"none", 104}};
+    for (const auto& [text, value] : numbers) {
+        long key = 104;
+        const std::string reply =
+            "<diffie_hellman><printer_interim_key>" + std::string(text) + "</printer_interim_key></diffie_hellman>";
+        EXPECT_TRUE(read(&KVJSecAction::ParsePrinterDHKeyValues, reply, key)) << text;
+        EXPECT_EQ(key, value) << text;
+    }
+}
+
 // ---- Names of actions ----
 
 TEST(ActionName, EachIsFoundAloneAndSurrounded) {
@@ -195,6 +210,59 @@ TEST(Directive, AnUnknownActionStaysAsReceived) {
     EXPECT_STREQ(directive.action, "dance");
 }
 
+TEST(Directive, TheActionIsTheValueOfTheFirstNodeWhateverThatIs) {
+    for (const auto& [content, action] : {std::pair("<printer model=\"m\"/><hmac>1</hmac>", "printer"),
+                                          std::pair("<!--relock_printer--><hmac>1</hmac>", "lock_printer"),
+                                          std::pair("<hmac>1</hmac>unlock_printer", "hmac")}) {
+        _tagSecDirecXML directive = presetDirective();
+        EXPECT_TRUE(read(&KVJSecAction::ParseSecureDirectiveValues, "<action>" + std::string(content) + "</action>",
+                         directive));
+        EXPECT_STREQ(directive.action, action);
+        EXPECT_STREQ(directive.model, "M");
+        EXPECT_STREQ(directive.serial, "S");
+        EXPECT_STREQ(directive.nonce, "N");
+        EXPECT_STREQ(directive.hmac, "1");
+    }
+}
+
+TEST(Directive, AnActionLongerThanItsFieldIsCutAndTakesNoPartInTheResult) {
+    for (const std::size_t length : {std::size_t{259}, std::size_t{260}, std::size_t{100000}}) {
+        _tagSecDirecXML directive = presetDirective();
+        EXPECT_TRUE(read(&KVJSecAction::ParseSecureDirectiveValues,
+                         "<action>" + std::string(length, 'a') + "<hmac>1</hmac></action>", directive));
+        EXPECT_EQ(directive.action, std::string(259, 'a'));
+        EXPECT_STREQ(directive.nonce, "N");
+    }
+}
+
+TEST(Directive, OfAnActionLongerThanItsFieldTheNameIsLookedForInTheWholeText) {
+    for (const auto& [before, name] : {std::pair(std::string(1000, 'a'), "reset_oem"),
+                                       std::pair("lock_printer" + std::string(250, 'a'), "unlock_printer")}) {
+        _tagSecDirecXML directive = presetDirective();
+        EXPECT_TRUE(read(&KVJSecAction::ParseSecureDirectiveValues,
+                         "<action>" + before + name + "<hmac>1</hmac></action>", directive));
+        EXPECT_STREQ(directive.action, name);
+    }
+}
+
+TEST(Directive, ItsResultIsThatOfTheLastKnownChild) {
+    const auto parse = [](const std::string& children) {
+        _tagSecDirecXML directive = presetDirective();
+        return read(&KVJSecAction::ParseSecureDirectiveValues, "<action>" + children + "</action>", directive);
+    };
+    EXPECT_TRUE(parse("<hmac/><printer/>"));
+    EXPECT_FALSE(parse("<printer/><hmac/>"));
+    EXPECT_FALSE(parse("<printer/><hmac/><other>1</other>"));
+    EXPECT_FALSE(parse("<Printer/><HMAC>1</HMAC>"));
+}
+
+TEST(Directive, OfAnotherMessageLeavesTheRecord) {
+    _tagSecDirecXML directive = presetDirective();
+    EXPECT_FALSE(read(&KVJSecAction::ParseSecureDirectiveValues, "<Action>x<hmac>1</hmac></Action>", directive));
+    EXPECT_STREQ(directive.action, "A");
+    EXPECT_STREQ(directive.hmac, "H");
+}
+
 TEST(Directive, WithoutChildElementsIsFalseAndItsTextIsReadAllTheSame) {
     _tagSecDirecXML directive = presetDirective();
     EXPECT_FALSE(read(&KVJSecAction::ParseSecureDirectiveValues, "<action>lock_printer</action>", directive));
@@ -218,6 +286,13 @@ TEST(Directive, AFieldWithoutATerminatorIsNotReadBeyond) {
     std::memset(directive.model, 'm', sizeof directive.model);
     EXPECT_TRUE(KVJSecAction().ParseDirectiveValues(reply.root(), directive));
     EXPECT_EQ(std::string(reply.root()->FirstChildElement()->Attribute("model")), std::string(260, 'm'));
+}
+
+TEST(Directive, ADigestThatFillsItsFieldIsRead) {
+    _tagSecDirecXML directive = presetDirective();
+    EXPECT_TRUE(read(&KVJSecAction::ParseSecureDirectiveValues,
+                     "<action>x<hmac>" + std::string(259, 'h') + "</hmac></action>", directive));
+    EXPECT_EQ(directive.hmac, std::string(259, 'h'));
 }
 
 TEST(Directive, ADigestLongerThanItsFieldIsCutAndFalse) {
@@ -265,6 +340,43 @@ TEST(Keys, AllThreeAreReadAndOthersSkipped) {
     EXPECT_STREQ(keys.printer_lock_key, "l");
 }
 
+TEST(Keys, TheResultIsThatOfTheLastKnownOne) {
+    const auto parse = [](const std::string& children) {
+        _tagSecKeys keys{};
+        return read(&KVJSecAction::ParseSecurityKeys, "<keys>" + children + "</keys>", keys);
+    };
+    EXPECT_FALSE(parse("<printer_lock_key>l</printer_lock_key><data_encryption_key/><x>1</x>"));
+    EXPECT_TRUE(parse("<data_encryption_key/><printer_lock_key>l</printer_lock_key><x/>"));
+    EXPECT_FALSE(parse("<Printer_lock_key>l</Printer_lock_key>"));
+}
+
+TEST(Keys, ThatFillTheirFieldsAreRead) {
+    for (const char* name : {"data_encryption_key", "host_authentication_key", "printer_lock_key"}) {
+        _tagSecKeys keys{};
+        const std::string tag = name;
+        EXPECT_TRUE(read(&KVJSecAction::ParseSecurityKeys,
+                         "<keys><" + tag + ">" + std::string(259, 'k') + "</" + tag + "></keys>", keys));
+        EXPECT_EQ(std::string(keys.data_encryption_key) + keys.host_authentication_key + keys.printer_lock_key,
+                  std::string(259, 'k'));
+    }
+}
+
+TEST(Keys, OfAnotherMessageLeaveTheirRecords) {
+    _tagSecKeys keys{"D", "H", "L"};
+    EXPECT_FALSE(read(&KVJSecAction::ParseSecurityKeys,
+                      "<passkey><data_encryption_key>d</data_encryption_key></passkey>", keys));
+    EXPECT_STREQ(keys.data_encryption_key, "D");
+    EXPECT_STREQ(keys.host_authentication_key, "H");
+    EXPECT_STREQ(keys.printer_lock_key, "L");
+    _tagSecSetKeys change{};
+    std::memset(&change, '#', sizeof change);
+    const _tagSecSetKeys before = change;
+    EXPECT_FALSE(
+        read(&KVJSecAction::ParseSetSecurityKeys, "<Keys><set><new_passkey>1</new_passkey></set></Keys>", change));
+    EXPECT_FALSE(read(&KVJSecAction::ParseGetSecureActionRequest, "<keys>1</keys>", change));
+    EXPECT_EQ(std::memcmp(&change, &before, sizeof change), 0);
+}
+
 TEST(Keys, AbsentOnesKeepTheirValuesAndLongOnesAreCut) {
     _tagSecKeys keys{"D", "H", "L"};
     EXPECT_FALSE(read(&KVJSecAction::ParseSecurityKeys, "<keys><x/></keys>", keys));
@@ -298,6 +410,28 @@ TEST(KeyChange, EachKeyGoesToTheFieldOfItsName) {
         std::memset(reinterpret_cast<char*>(&expected) + 64 * i, 'k', 63);
         EXPECT_EQ(std::memcmp(&keys, &expected, sizeof keys), 0) << name;
     }
+}
+
+TEST(KeyChange, KeysThatFillTheirFieldsAreRead) {
+    for (std::size_t i = 0; i < 8; ++i) {
+        const std::string name = changeNames[i];
+        _tagSecSetKeys keys{};
+        EXPECT_TRUE(read(&KVJSecAction::ParseSetSecurityKeys,
+                         "<keys><set><" + name + ">" + std::string(63, 'k') + "</" + name + "></set></keys>", keys))
+            << name;
+        EXPECT_STREQ(reinterpret_cast<const char*>(&keys) + 64 * i, std::string(63, 'k').c_str()) << name;
+    }
+}
+
+TEST(KeyChange, TheResultOfASetIsThatOfItsLastKnownKey) {
+    const auto parse = [](const std::string& children) {
+        _tagSecSetKeys keys{};
+        return read(&KVJSecAction::ParseSetSecurityKeys, "<keys>" + children + "</keys>", keys);
+    };
+    EXPECT_TRUE(parse("<set><new_passkey/><current_passkey>1</current_passkey><x/></set>"));
+    EXPECT_FALSE(parse("<set><current_passkey>1</current_passkey><new_passkey/></set>"));
+    EXPECT_FALSE(parse("<set><New_passkey>1</New_passkey></set>"));
+    EXPECT_FALSE(parse("<Set><new_passkey>1</new_passkey></Set>"));
 }
 
 TEST(KeyChange, ALaterSetOverwritesAndItsResultCounts) {
