@@ -79,8 +79,8 @@ public:
 
     /// Reads a hardware address into 6 bytes; see KVJHelper::GetPhysicalAddress.
     bool getPhysicalAddress(TiXmlElement* element, unsigned char* address);
-    /// Reads an IPv4 address as inet_addr does, in network byte order; without text it stores 0. A text that is no
-    /// address is 4294967295.
+    /// Reads an IPv4 address as inet_addr does, in network byte order; without text, or with an empty one, it stores 0
+    /// and is false. A text that is no address is 4294967295.
     bool getIP(TiXmlElement* element, unsigned long& address);
     /// Reserved: always false, and writes nothing; see KVJHelper::GetIP.
     bool getIP(TiXmlElement* element, char* name, unsigned long& address);

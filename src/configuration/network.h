@@ -41,11 +41,12 @@ inline constexpr WordTable cryptoWords({{"none", wirelessCryptoNone},
                                         {"ccmp_tkip", wirelessCryptoCcmp},
                                         {"tkip_ccmp", wirelessCryptoCcmp}});
 
-/// Without text the address is 0; a null element has none to store.
+/// Without text, or with an empty one, the address is 0; a null element has none to store.
 inline bool readIpAddress(const TiXmlElement* element, unsigned long& address) {
     const char* content = textOf(element);
-    if (element != nullptr) address = content == nullptr ? 0 : convert::toIpAddress(content);
-    return content != nullptr;
+    const bool isThere = content != nullptr && *content != '\0';
+    if (element != nullptr) address = isThere ? convert::toIpAddress(content) : 0;
+    return isThere;
 }
 
 template <auto Member>

@@ -247,6 +247,15 @@ TEST(IpAddress, WithoutTextIs0AndFalse) {
     });
 }
 
+TEST(IpAddress, WithAnEmptyTextIs0AndFalse) {
+    for (const char* text : {"<![CDATA[]]>", "<!---->"}) {
+        forEachIpAddress([&](const auto& field) {
+            EXPECT_EQ(outcomeOf(field, text), expected(false, field, [](unsigned long& value) { value = 0; }))
+                << field.name << ' ' << text;
+        });
+    }
+}
+
 TEST(IpAddress, OfAnElementByItself) {
     unsigned long value = 7;
     EXPECT_TRUE(read(&P::getIP, "192.168.1.50", value));

@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "KVJSetConfig.h"
-#include "configuration/network.h"
+#include "configuration/document.h"
 #include "configuration/records.h"
 
 namespace {
@@ -252,6 +252,20 @@ TEST(Network, WithoutAddressesHasNeitherThemNorSnmp) {
     TiXmlElement under("ethernet");
     EXPECT_TRUE(kvjxml::compose(&under, cfg.ethernet, kvjxml::configuration::networkTags, {.withoutAddresses = true}));
     EXPECT_EQ(written(under), "<ethernet><dhcp>enabled</dhcp></ethernet>");
+}
+
+TEST(Network, WithoutAddressesOnlyTheWiredOneLacksThemInAWholeDocument) {
+    _KVConfiguration cfg;
+    fill(cfg);
+    TiXmlElement under("r");
+    EXPECT_TRUE(kvjxml::compose(&under, cfg, kvjxml::configuration::documentSections,
+                                {.withoutAddresses = true, .sections = 0x6}));
+    TiXmlElement wireless("r");
+    EXPECT_TRUE(KVJSetConfig().addConfiguration(&wireless, cfg, 0x4, 0));
+    const std::string wirelessAlone = written(wireless).substr(std::strlen("<r>"));
+    EXPECT_NE(wirelessAlone.find("<ip_address>"), std::string::npos);
+    EXPECT_NE(wirelessAlone.find("<snmp>"), std::string::npos);
+    EXPECT_EQ(written(under), "<r><ethernet><dhcp>enabled</dhcp></ethernet>" + wirelessAlone);
 }
 
 TEST(Network, OfAFreshComposerHasAddresses) {
