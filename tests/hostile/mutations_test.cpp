@@ -17,29 +17,28 @@ using namespace kvjxml::tests;
 /// What is markup, and what begins a character of two, three and four bytes.
 constexpr std::string_view wrongBytes = "<>/\"'=&;#x\xC3\xEF\xF0";
 
-TEST(Mutations, OfAnyByteLeaveTheRecordValid) {
-    withEachReader([](const Reader& reader) {
-        const std::string sample = sampleOf(reader.root);
-        const std::size_t count = sample.size() * wrongBytes.size();
-        std::size_t step = stride(count, sample.size());
-        if (step % wrongBytes.size() == 0) ++step;  // else it would be the same wrong byte each time
-        for (std::size_t i = 0; i < count; i += step) {
-            std::string text = sample;
-            text[i / wrongBytes.size()] = wrongBytes[i % wrongBytes.size()];
-            ASSERT_TRUE(outcomeOf(reader, text).isSound) << text;
-        }
-    });
+using Mutations = EachReader;
+INSTANTIATE_TEST_SUITE_P(Of, Mutations, testing::ValuesIn(readers()), EachReader::nameOf);
+
+TEST_P(Mutations, OfAnyByteLeaveTheRecordValid) {
+    const std::string sample = sampleOf(GetParam().root);
+    const std::size_t count = sample.size() * wrongBytes.size();
+    std::size_t step = stride(count, sample.size());
+    if (step % wrongBytes.size() == 0) ++step;  // else it would be the same wrong byte each time
+    for (std::size_t i = 0; i < count; i += step) {
+        std::string text = sample;
+        text[i / wrongBytes.size()] = wrongBytes[i % wrongBytes.size()];
+        ASSERT_TRUE(outcomeOf(GetParam(), text).isSound) << text;
+    }
 }
 
-TEST(Mutations, ByANulEndTheReply) {
-    withEachReader([](const Reader& reader) {
-        const std::string sample = sampleOf(reader.root);
-        for (std::size_t at = 0; at < sample.size(); at += stride(sample.size(), sample.size())) {
-            std::string text = sample;
-            text[at] = '\0';
-            ASSERT_EQ(outcomeOf(reader, text), outcomeOf(reader, sample.substr(0, at))) << at;
-        }
-    });
+TEST_P(Mutations, ByANulEndTheReply) {
+    const std::string sample = sampleOf(GetParam().root);
+    for (std::size_t at = 0; at < sample.size(); at += stride(sample.size(), sample.size())) {
+        std::string text = sample;
+        text[at] = '\0';
+        ASSERT_EQ(outcomeOf(GetParam(), text), outcomeOf(GetParam(), sample.substr(0, at))) << at;
+    }
 }
 
 }  // namespace

@@ -66,12 +66,19 @@ inline Outcome outcomeOf(const Reader& reader, std::string_view bytes) {
 }
 
 /// For messages.
+inline void PrintTo(const Reader& reader, std::ostream* out) { *out << reader.name; }
 inline void PrintTo(const Outcome& outcome, std::ostream* out) {
     *out << std::boolalpha << outcome.result << (outcome.isSound ? " " : ", not sound ")
          << testing::PrintToString(outcome.record);
 }
 
-/// Runs a check with each reader in turn.
+/// A test for each reader, where one for all of them would be long.
+class EachReader : public testing::TestWithParam<Reader> {
+public:
+    static std::string nameOf(const testing::TestParamInfo<Reader>& info) { return std::string(info.param.name); }
+};
+
+/// Runs a short check with each reader in turn.
 template <class Check>
 void withEachReader(Check check) {
     for (const Reader& reader : readers()) {
