@@ -24,7 +24,7 @@ public:
     // ---- Element text to value ----
     // True when the element had text, whether or not the text made sense; false, and `value` as it was, when it had
     // none. A text that is no number reads as 0, what follows a number is ignored, and a number too large for its type
-    // wraps. The trailing bool has no effect.
+    // wraps; only a long stops at its limits, and a float becomes infinite. The trailing bool has no effect.
 
     /// Reads a decimal number, as atoi does.
     static bool GetNumber(TiXmlElement* element, int& value, bool ignored = false);

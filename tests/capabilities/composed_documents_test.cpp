@@ -3,6 +3,7 @@
 
 #include <climits>
 #include <cstring>
+#include <iterator>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -86,6 +87,19 @@ TEST(WholeDescription, APrintTypeWithoutAWordIsEmpty) {
         _Capabilities caps{};
         caps.printType = code;
         EXPECT_EQ(elementOfWhole(caps, "print_type"), element("print_type", text)) << code;
+    }
+}
+
+TEST(WholeDescription, UnderAnElementOfTheHostsHasThePrintSystemOfTheLastDocument) {
+    const _Capabilities caps{};
+    KVJSetCaps composer;
+    for (const auto& [directToCard, word] : {std::pair(direct, "direct_to_card"), std::pair(transfer, "retransfer")}) {
+        wchar_t out[10000];
+        EXPECT_TRUE(composer.SetCapabilities(caps, out, static_cast<int>(std::size(out)), wholeMode, directToCard));
+        TiXmlElement root("r");
+        composer.addCapabilities(&root, caps, wholeMode);
+        ASSERT_NE(root.FirstChildElement("print_system"), nullptr);
+        EXPECT_EQ(written(*root.FirstChildElement("print_system")), element("print_system", word));
     }
 }
 

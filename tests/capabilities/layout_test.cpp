@@ -1,12 +1,7 @@
 // The layout of the capabilities records is a contract with hosts that were built against an earlier release.
-#include <tinyxml.h>
-
 #include <cstddef>
-#include <type_traits>
 
 #include "CapabilitiesRecords.h"
-#include "KVJCapsParser.h"
-#include "KVJSetCaps.h"
 
 using namespace Kavrin;
 
@@ -96,9 +91,3 @@ static_assert(offsetof(_Capabilities, barCodes) == 216);
 static_assert(offsetof(_Capabilities, laminator) == 224);
 static_assert(sizeof(_Capabilities::laminator) == 1);
 static_assert(offsetof(_Capabilities, laminatorType) == 228);
-
-static_assert(std::is_empty_v<KVJCapsParser>);
-
-// The composer is the document, then the root, then one byte.
-static_assert(std::is_convertible_v<KVJSetCaps*, TiXmlDocument*>);
-static_assert(sizeof(KVJSetCaps) == sizeof(TiXmlDocument) + 2 * sizeof(void*));

@@ -1,11 +1,28 @@
-// The layout of the shared records is a contract with hosts that were built against an earlier release.
+// The layout of the shared records, and the size of the classes, are a contract with hosts that were built against an
+// earlier release.
+#include <tinyxml.h>
+
 #include <cstddef>
 #include <type_traits>
 
-#include "FoundationRecords.h"
+#include "kvjxml.h"
 
-using Kavrin::_MinMaxVal;
-using Kavrin::_MinMaxValFloat;
+using namespace Kavrin;
+
+template <class... Readers>
+constexpr bool areEmpty = (std::is_empty_v<Readers> && ...);
+
+/// Whether these are documents, with so many bytes behind.
+template <std::size_t Bytes, class... Classes>
+constexpr bool areDocumentsWith =
+    ((std::is_convertible_v<Classes*, TiXmlDocument*> && sizeof(Classes) == sizeof(TiXmlDocument) + Bytes) && ...);
+
+static_assert(areEmpty<KVJStatusParser, KVJSensorParser, KVJCapsParser, KVJLogParser, KVJMediaParser, KVJNDC,
+                       KVJSecAction, KVJGetEIN>);
+static_assert(areDocumentsWith<0, KVJConfigParser, KVJPrinterIDParser, KVJSetPrinterInfo>);
+// The root of the last request, and in requests that know both kinds of printing, one byte.
+static_assert(areDocumentsWith<sizeof(void*), KVJSetSecActions, KVJDeviceControl>);
+static_assert(areDocumentsWith<2 * sizeof(void*), KVJSetCaps, KVJSetConfig, KVJSetMedia>);
 
 static_assert(sizeof(_MinMaxVal) == 12);
 static_assert(alignof(_MinMaxVal) == 4);

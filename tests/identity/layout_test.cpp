@@ -1,19 +1,13 @@
 // The layout of the identity, logs and read-backs is a contract with hosts that were built against an earlier release.
-#include <tinyxml.h>
-
 #include <cstddef>
 #include <type_traits>
 
 #include "IdentityRecords.h"
-#include "KVJPrinterIDParser.h"
-#include "KVJSetPrinterInfo.h"
 
 using Kavrin::__GETTRACK;
 using Kavrin::_tagCleaningLogEntry;
 using Kavrin::_tagLogServiceValues;
 using Kavrin::_tagLogServiceXML;
-using Kavrin::KVJPrinterIDParser;
-using Kavrin::KVJSetPrinterInfo;
 using Kavrin::KVPrinterInfo;
 
 static_assert(sizeof(_tagLogServiceValues) == 24);
@@ -63,7 +57,3 @@ static_assert(offsetof(KVPrinterInfo, reserved) == 604);
 static_assert(offsetof(KVPrinterInfo, wireless_physical_address) == 608);
 static_assert(sizeof(KVPrinterInfo::wireless_physical_address) == 6);
 static_assert(std::is_aggregate_v<KVPrinterInfo> && std::is_trivial_v<KVPrinterInfo>);
-
-// Both objects are documents.
-static_assert(std::is_convertible_v<KVJPrinterIDParser*, TiXmlDocument*>);
-static_assert(std::is_convertible_v<KVJSetPrinterInfo*, TiXmlDocument*>);

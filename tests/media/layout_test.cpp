@@ -1,14 +1,11 @@
 // The layout of the catalogue's records is a contract with hosts that were built against an earlier release.
 #include <gtest/gtest.h>
-#include <tinyxml.h>
 
 #include <cstddef>
 #include <cstring>
 #include <type_traits>
 #include <vector>
 
-#include "KVJMediaParser.h"
-#include "KVJSetMedia.h"
 #include "MediaRecords.h"
 
 using namespace Kavrin;
@@ -60,12 +57,6 @@ static_assert(std::is_same_v<decltype(_KVMediaInfo::laminates), std::vector<_Med
 static_assert(!std::is_copy_constructible_v<_KVMediaInfo> && !std::is_copy_assignable_v<_KVMediaInfo>);
 static_assert(!std::is_move_constructible_v<_KVMediaInfo> && !std::is_move_assignable_v<_KVMediaInfo>);
 static_assert(std::is_nothrow_destructible_v<_KVMediaInfo>);
-
-static_assert(std::is_empty_v<KVJMediaParser>);
-
-// The composer is the document, then the root, then one byte.
-static_assert(std::is_convertible_v<KVJSetMedia*, TiXmlDocument*>);
-static_assert(sizeof(KVJSetMedia) == sizeof(TiXmlDocument) + 2 * sizeof(void*));
 
 namespace {
 

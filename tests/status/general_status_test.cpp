@@ -275,6 +275,25 @@ TEST(GeneralStatus, PrinterLockWithoutTextIsStoredAsFalseAndIsFalse) {
     EXPECT_FALSE(status.printerLock);
 }
 
+TEST(GeneralStatus, PrinterLockWithoutTextBeforeAnotherElementIsStoredAsFalseAndTheResultIsTheOthers) {
+    KVGeneralStatus status = preset();
+    EXPECT_TRUE(readChildren("<printer_lock/><error>1</error>", status));
+    EXPECT_FALSE(status.printerLock);
+    EXPECT_EQ(status.error, 1);
+}
+
+TEST(GeneralStatus, ANumberWithoutTextIsFalseAndKeepsItsValue) {
+    for (const char* name :
+         {"error", "num_jobs_receiving_or_pending", "num_jobs_inprogress", "num_jobs_done_ok", "num_jobs_done_error",
+          "num_jobs_total", "action_id_next", "warning", "param_chg_counter"}) {
+        KVGeneralStatus status = preset();
+        EXPECT_FALSE(readChildren("<alarms>0x1</alarms><" + std::string(name) + "/>", status)) << name;
+        KVGeneralStatus expected = preset();
+        expected.alarms = 1;
+        expectEqual(status, expected);
+    }
+}
+
 TEST(GeneralStatus, TheWalkerReadsAnElementThatTheHostHolds) {
     Xml reply("<anything><error>3</error></anything>");
     KVGeneralStatus status{};

@@ -136,6 +136,36 @@ TEST(JobStatus, ReadyForNextJobWithoutTextIsStoredAsFalseAndIsFalse) {
     EXPECT_FALSE(status.readyForNextJob);
 }
 
+TEST(JobStatus, ReadyForNextJobWithoutTextBeforeAnotherElementIsStoredAsFalseAndTheResultIsTheOthers) {
+    KVJobStatus status = preset();
+    EXPECT_TRUE(readChildren("<ready_for_next_job/><action_id>1</action_id>", status));
+    EXPECT_FALSE(status.readyForNextJob);
+    EXPECT_EQ(status.actionId, 1U);
+}
+
+TEST(JobStatus, ANumberWithoutTextIsFalseAndKeepsItsValue) {
+    for (const char* element : {"<action_id/>", "<status_printing><copies_done/></status_printing>",
+                                "<status_printing><copies_total_specified/></status_printing>",
+                                "<status_printing><error_code/></status_printing>"}) {
+        KVJobStatus status = preset();
+        EXPECT_FALSE(readChildren("<uuid>preset</uuid>" + std::string(element), status)) << element;
+        expectEqual(status, preset());
+    }
+}
+
+TEST(JobStatus, AnUnknownWordIsMinus1AndOfTheLaminator0) {
+    const auto unknown = [](const std::string& group, const std::string& name) {
+        return "<" + group + "><" + name + ">magic</" + name + "></" + group + ">";
+    };
+    KVJobStatus status = preset();
+    EXPECT_TRUE(readChildren(unknown("status_printing", "position_in_transport"), status));
+    EXPECT_TRUE(readChildren(unknown("status_printing", "laminator_state"), status));
+    EXPECT_TRUE(readChildren(unknown("status_mag", "mag_state"), status));
+    EXPECT_TRUE(readChildren(unknown("status_contact", "contact_state"), status));
+    EXPECT_TRUE(readChildren(unknown("status_contactless", "contactless_state"), status));
+    expectEqual(status, {101, "preset", true, -2, -3, 102, -4, -1, -1, -1, -1, 0});
+}
+
 TEST(JobStatus, PrintStateMagReadIs21AndAnUnknownWordMinus1) {
     KVJobStatus status{};
     EXPECT_TRUE(readChildren("<status_printing><print_state>mag_read</print_state></status_printing>", status));
