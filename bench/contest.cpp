@@ -13,10 +13,10 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
-#include <map>
 #include <stdexcept>
 
 #include "allocations.h"
+#include "collector.h"
 
 namespace kvjxml::bench {
 
@@ -49,56 +49,29 @@ double spread(const std::vector<double>& values) {
 }
 
 /// One line per task and contender, with the median of the repetitions, and how the first contender's time compares.
-class Report : public benchmark::BenchmarkReporter {
+class Report : public Collector {
 public:
     explicit Report(const std::vector<Task>& tasks) : tasks_(&tasks) {}
-
-    bool ReportContext(const Context& context) override {
-        PrintBasicContext(&GetErrorStream(), context);
-        return true;
-    }
-
-    void ReportRuns(const std::vector<Run>& runs) override {
-        for (const Run& run : runs) {
-            if (run.error_occurred) {
-                GetErrorStream() << run.benchmark_name() << ": " << run.error_message << '\n';
-                failed_ = true;
-            } else if (run.run_type == Run::RT_Iteration) {
-                Measured& measured = measured_[run.run_name.function_name];
-                measured.times.push_back(run.GetAdjustedCPUTime());
-                measured.allocations = run.counters.at("allocations");
-            }
-        }
-    }
 
     void Finalize() override {
         std::printf("locale %s\n", std::setlocale(LC_CTYPE, nullptr));
         std::printf("task         bytes  contender       CPU time  spread  allocations  first/this\n");
         for (const Task& task : *tasks_) {
-            const auto first = measured_.find(nameOf(task.contenders.front(), task));
+            const Measured* first = find(nameOf(task.contenders.front(), task));
             for (const Contender& contender : task.contenders) {
-                const auto measured = measured_.find(nameOf(contender, task));
-                if (measured == measured_.end()) continue;
-                const double time = median(measured->second.times);
+                const Measured* measured = find(nameOf(contender, task));
+                if (measured == nullptr) continue;
+                const double time = median(measured->times);
                 std::printf("%-9s %8zu  %-13s %8.2f us  %5.1f%% %12.0f", task.name.c_str(), task.bytes, contender.name,
-                            time, 100 * spread(measured->second.times), measured->second.allocations);
-                if (first != measured_.end()) std::printf(" %11.3f", median(first->second.times) / time);
+                            time, 100 * spread(measured->times), measured->counters.at("allocations").value);
+                if (first != nullptr) std::printf(" %11.3f", median(first->times) / time);
                 std::printf("\n");
             }
         }
     }
 
-    [[nodiscard]] bool failed() const { return failed_; }
-
 private:
-    struct Measured {
-        std::vector<double> times;
-        double allocations;
-    };
-
     const std::vector<Task>* tasks_;
-    std::map<std::string, Measured> measured_;
-    bool failed_ = false;
 };
 
 }  // namespace

@@ -11,12 +11,12 @@
 #include <exception>
 #include <iostream>
 #include <iterator>
-#include <map>
 #include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "collector.h"
 #include "contest.h"
 
 namespace {
@@ -129,26 +129,8 @@ std::string nameOf(const Shape& shape, const Size& size) { return std::string(sh
 // ---- What is reported -----------------------------------------------------------------------------------------------
 
 /// One line per shape: for each size the time, and how often an ordinary reply's time per byte that is.
-class Report : public benchmark::BenchmarkReporter {
+class Report : public kvjxml::bench::Collector {
 public:
-    bool ReportContext(const Context& context) override {
-        PrintBasicContext(&GetErrorStream(), context);
-        return true;
-    }
-
-    void ReportRuns(const std::vector<Run>& runs) override {
-        for (const Run& run : runs) {
-            if (run.error_occurred) {
-                GetErrorStream() << run.benchmark_name() << ": " << run.error_message << '\n';
-                failed_ = true;
-            } else if (run.run_type == Run::RT_Iteration) {
-                Measured& measured = measured_[run.run_name.function_name];
-                measured.times.push_back(run.GetAdjustedCPUTime());
-                measured.bytes = run.counters.at("bytes");
-            }
-        }
-    }
-
     void Finalize() override {
         std::printf("locale %s\n%-21s", std::setlocale(LC_CTYPE, nullptr), "CPU time, ratio");
         for (const Size& size : sizes) std::printf("%22s", size.name);
@@ -160,28 +142,21 @@ public:
         }
     }
 
-    [[nodiscard]] bool failed() const { return failed_; }
-
 private:
-    struct Measured {
-        std::vector<double> times;
-        double bytes = 0;
-        [[nodiscard]] double perByte() const { return kvjxml::bench::median(times) / bytes; }
-    };
-
-    void print(const std::string& name, const std::string& ordinary) const {
-        const auto measured = measured_.find(name);
-        const auto reference = measured_.find(ordinary);
-        if (measured == measured_.end() || reference == measured_.end()) {
-            std::printf("%22s", "-");
-        } else {
-            std::printf("%12.3f ms %6.2f", kvjxml::bench::median(measured->second.times),
-                        measured->second.perByte() / reference->second.perByte());
-        }
+    static double perByte(const Measured& measured) {
+        return kvjxml::bench::median(measured.times) / measured.counters.at("bytes");
     }
 
-    std::map<std::string, Measured> measured_;
-    bool failed_ = false;
+    void print(const std::string& name, const std::string& ordinary) const {
+        const Measured* measured = find(name);
+        const Measured* reference = find(ordinary);
+        if (measured == nullptr || reference == nullptr) {
+            std::printf("%22s", "-");
+        } else {
+            std::printf("%12.3f ms %6.2f", kvjxml::bench::median(measured->times),
+                        perByte(*measured) / perByte(*reference));
+        }
+    }
 };
 
 }  // namespace
