@@ -1,10 +1,14 @@
 // The copy of a request that the service engineer finds is a courtesy: whatever is in its way, the host gets its
 // request.
 #include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <filesystem>
+#include <stdexcept>
 #include <string>
 
 #include "foundation/request.h"
@@ -86,6 +90,54 @@ TEST(CopyInTheWay, APipeThatNobodyReadsDoesNotBlock) {
         expectText();
         EXPECT_TRUE(std::filesystem::is_fifo(copy));
     });
+}
+
+/// What all composers print.
+std::string textOfAll() {
+    std::string all;
+    for (const Composer& composer : composers()) all += textOf(composer) + '\n';
+    return all;
+}
+
+/// How a process of its own ended that was given another file system and then composed all requests there.
+enum class Elsewhere { composedAsHere, composedOtherwise, notAllowed };
+
+template <class Enter>
+Elsewhere composeElsewhere(Enter enter) {
+    for (const Composer& composer : composers()) EXPECT_NE(textOf(composer), "") << composer.name;
+    const std::string here = textOfAll();
+    const pid_t child = fork();
+    if (child == 0) {
+        // Who is not root is in a namespace of its own.
+        const bool isThere = enter() || (unshare(CLONE_NEWUSER) == 0 && enter());
+        const Elsewhere end = !isThere              ? Elsewhere::notAllowed
+                              : textOfAll() == here ? Elsewhere::composedAsHere
+                                                    : Elsewhere::composedOtherwise;
+        _exit(static_cast<int>(end));
+    }
+    int status = 0;
+    if (child < 0 || waitpid(child, &status, 0) != child) throw std::runtime_error("fork");
+    return WIFEXITED(status) ? static_cast<Elsewhere>(WEXITSTATUS(status)) : Elsewhere::composedOtherwise;
+}
+
+TEST(CopyInTheWay, OnASystemWithoutFilesAllIsComposed) {
+    const CopyScope scope;
+    const TemporaryFolder folder;
+    const Elsewhere end = composeElsewhere(
+        [&] { return chdir((folder / "").c_str()) == 0 && chroot(".") == 0 && access("/tmp", F_OK) != 0; });
+    if (end == Elsewhere::notAllowed) GTEST_SKIP() << "no process may have another root here";
+    EXPECT_EQ(end, Elsewhere::composedAsHere);
+    EXPECT_TRUE(std::filesystem::is_empty(folder / ""));
+}
+
+TEST(CopyInTheWay, OnADiskThatCannotBeWrittenAllIsComposed) {
+    const CopyScope scope;
+    const Elsewhere end = composeElsewhere([] {
+        return unshare(CLONE_NEWNS) == 0 && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+               mount("none", "/tmp", "tmpfs", MS_RDONLY, nullptr) == 0;
+    });
+    if (end == Elsewhere::notAllowed) GTEST_SKIP() << "no process may have mounts of its own here";
+    EXPECT_EQ(end, Elsewhere::composedAsHere);
 }
 
 TEST(DiagnosticCopy, InAFolderThatCannotBeWrittenIsNotMade) {
