@@ -7,7 +7,6 @@
 
 #include "hostile/outcome.h"
 #include "hostile/samples.h"
-#include "hostile/sanitizers.h"
 #include "support/readers.h"
 
 namespace {
@@ -22,19 +21,18 @@ INSTANTIATE_TEST_SUITE_P(Of, Mutations, testing::ValuesIn(readers()), EachReader
 
 TEST_P(Mutations, OfAnyByteLeaveTheRecordValid) {
     const std::string sample = sampleOf(GetParam().root);
-    const std::size_t count = sample.size() * wrongBytes.size();
-    std::size_t step = stride(count, sample.size());
-    if (step % wrongBytes.size() == 0) ++step;  // else it would be the same wrong byte each time
-    for (std::size_t i = 0; i < count; i += step) {
-        std::string text = sample;
-        text[i / wrongBytes.size()] = wrongBytes[i % wrongBytes.size()];
-        ASSERT_TRUE(outcomeOf(GetParam(), text).isSound) << text;
+    for (std::size_t at = 0; at < sample.size(); ++at) {
+        for (const char wrong : wrongBytes) {
+            std::string text = sample;
+            text[at] = wrong;
+            ASSERT_TRUE(outcomeOf(GetParam(), text).isSound) << text;
+        }
     }
 }
 
 TEST_P(Mutations, ByANulEndTheReply) {
     const std::string sample = sampleOf(GetParam().root);
-    for (std::size_t at = 0; at < sample.size(); at += stride(sample.size(), sample.size())) {
+    for (std::size_t at = 0; at < sample.size(); ++at) {
         std::string text = sample;
         text[at] = '\0';
         ASSERT_EQ(outcomeOf(GetParam(), text), outcomeOf(GetParam(), sample.substr(0, at))) << at;

@@ -6,7 +6,6 @@
 
 #include "hostile/outcome.h"
 #include "hostile/samples.h"
-#include "hostile/sanitizers.h"
 #include "support/readers.h"
 
 namespace {
@@ -29,7 +28,7 @@ TEST_P(Prefixes, OfItsReplyAReaderReadsAsFarAsTheyGo) {
     const Outcome whole = outcomeOf(GetParam(), sample);
     ASSERT_TRUE(nothing.isSound);
     ASSERT_NE(whole, nothing);
-    for (std::size_t length = 0; length <= sample.size(); length += stride(sample.size(), sample.size())) {
+    for (std::size_t length = 0; length <= sample.size(); ++length) {
         const Outcome cut = outcomeOfPrefix(GetParam(), sample, length);
         ASSERT_TRUE(cut.isSound) << length;
         // Without the name of the root there is no message, and the end tag of the root says nothing any more.
@@ -49,7 +48,7 @@ TEST_P(Prefixes, OfAnotherReplyAReaderDoesNotRead) {
     const Outcome nothing = outcomeOf(GetParam(), "");
     for (const auto& [root, text] : samples()) {
         if (root == GetParam().root || ++number % oneIn != 0) continue;
-        for (std::size_t length = 0; length <= text.size(); length += stride(text.size(), text.size())) {
+        for (std::size_t length = 0; length <= text.size(); ++length) {
             ASSERT_EQ(outcomeOfPrefix(GetParam(), text, length), nothing) << root << ' ' << length;
         }
     }
