@@ -26,7 +26,8 @@ public:
     /// only the host's had; `key` is then as it was.
     bool ParsePrinterDHKeyValues(const wchar_t& reply, unsigned long length, long& key);
     /// Reads the reply "action": its own text into `directive.action`, normalised as GetActionName does, and "hmac".
-    /// The result is that of ParseDirectiveValues.
+    /// The name is looked for in the whole text; a text without one is cut to the field. The result is that of
+    /// ParseDirectiveValues, whatever became of the text.
     bool ParseSecureDirectiveValues(const wchar_t& reply, unsigned long length, _tagSecDirecXML& directive);
     /// Looks through the reply "secure_action_request" and fills nothing: see ParseReqValues. Null is no reply.
     bool ParseSecureRequestValues(wchar_t* reply, unsigned long length, _tagSecReqXML& request);

@@ -63,7 +63,7 @@ struct _KVMediaInfo {
 
     _KVMediaInfo() = default;
     /// Releases the lists that are not empty, with their entries. **An empty list it leaves allocated**: DestroyKVMedia
-    /// is the complete release.
+    /// is the complete release. Of the fields only `laminates` is null afterwards, and only where it was released.
     KVJXML_API ~_KVMediaInfo();
     // Two records would release the same lists.
     _KVMediaInfo(const _KVMediaInfo&) = delete;
