@@ -79,7 +79,11 @@ enum _laminatorType : int { laminatorNone = 0, laminatorOneSided = 1, laminatorT
 /// array. Out: when the reply has more child elements in the list's section than that, of whatever name, the count
 /// becomes that number and nothing is filled; the host then provides an array of that size and reads again. Otherwise
 /// the entries are filled from index 0 on and the count stays what it was: how many were filled is not told, so set the
-/// array to zero before. A null array has room for nothing. Composing writes as many entries as the count says.
+/// array to zero before. A null array has room for nothing. A section that stands twice is measured against the
+/// capacity both times, and the count becomes the largest number that did not fit, also when the other section did.
+///
+/// **A count is the size of the array only when it is no larger than the one passed in**: after each call compare them,
+/// and go over the array only then; KVJCapsParser shows how. Composing writes as many entries as the count says.
 ///
 /// Sizes of memory and pages, and the resolution, are in the printer's own units.
 // The order is the one that hosts are built with. NOLINTNEXTLINE(clang-analyzer-optin.performance.Padding)

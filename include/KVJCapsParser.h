@@ -14,11 +14,19 @@ namespace Kavrin {
 ///
 /// The lists of the record are read by the protocol that _Capabilities tells; in short, for a list of unknown length:
 ///
-///     _Capabilities caps{};                                      // all counts 0
-///     parser.GetCapabilities(text[0], length, caps);             // now fontCount is the number needed
-///     std::vector<_FontCaps> fonts(caps.fontCount);
-///     caps.fonts = fonts.data();
-///     parser.GetCapabilities(text[0], length, caps);             // now the fonts are filled
+///     std::vector<_FontCaps> fonts;
+///     _Capabilities caps = {};  // all counts 0
+///     parser.GetCapabilities(text[0], length, caps);
+///     while (caps.fontCount > static_cast<int>(fonts.size())) {  // it is the number needed, not that of the array
+///         fonts.assign(static_cast<std::size_t>(caps.fontCount), _FontCaps());
+///         caps = _Capabilities();
+///         caps.fontCount = static_cast<int>(fonts.size());
+///         caps.fonts = fonts.data();
+///         parser.GetCapabilities(text[0], length, caps);
+///     }
+///
+/// Only behind the loop does the count belong to the array: a reply that the printer was asked for anew can have more
+/// entries than the one before.
 class KVJXML_API KVJCapsParser {
 public:
     /// Reads the reply "capabilities", or "get_capabilities" when there is none of the former, of any length.
@@ -29,8 +37,7 @@ public:
     // The same, for a host that holds the element already. Each is false for a null element and one that has no child
     // element, else the result of the last child element that it knows.
 
-    /// Reads the children of a "capabilities" element. A list that stands twice is measured against the capacity that
-    /// the host passed, both times.
+    /// Reads the children of a "capabilities" element.
     bool parseCapabilities(TiXmlElement* root, _Capabilities& caps);
 
     /// Each reads one list section into its array; see _Capabilities. True, with nothing filled, when the count was

@@ -3,6 +3,7 @@
 #ifndef KVJXML_CAPABILITIES_LISTS_H
 #define KVJXML_CAPABILITIES_LISTS_H
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 
@@ -15,12 +16,13 @@ namespace kvjxml::capabilities {
 
 using namespace Kavrin;  // the records
 
-/// A record being filled, and the counts that the host passed with it. A list that stands twice must be measured
-/// against them both times: the number that the first was answered with is not the size of any array.
+/// A record being filled, and what the host passed with it. A list that stands twice must be measured against that both
+/// times: the number that the first was answered with is not the size of any array.
 struct Reading {
     explicit Reading(_Capabilities& record) : caps(record), passed(record) {}
     _Capabilities& caps;
     const _Capabilities passed;
+    _Capabilities refused{};  ///< The counts alone: of each list, the most children that did not fit.
 };
 
 /// A field that is no list.
@@ -29,7 +31,7 @@ inline constexpr Getter<Reading> plain{
     Field.description, [](TiXmlElement* element, Reading& reading) { return Field.read(element, reading.caps); }};
 
 /// A list: its entries, read with a table of their own, when the array has room for as many entries as the section has
-/// child elements, whatever their names; else that number, for the host to come again with.
+/// child elements, whatever their names; else the largest such number, for the host to come again with.
 template <auto Count, auto Array, const auto& Table>
 inline constexpr Getter<Reading> list{{.field = nameOf<Array>(), .conversion = "list", .group = described<Table>},
                                       [](TiXmlElement* section, Reading& reading) {
@@ -39,7 +41,9 @@ inline constexpr Getter<Reading> list{{.field = nameOf<Array>(), .conversion = "
                                           const int capacity =
                                               array == nullptr && needed > 0 ? 0 : reading.passed.*Count;
                                           if (std::cmp_less(capacity, needed)) {
-                                              reading.caps.*Count = static_cast<int>(needed);
+                                              int& most = reading.refused.*Count;
+                                              most = std::max(most, static_cast<int>(needed));
+                                              reading.caps.*Count = most;
                                               return true;
                                           }
                                           RecordOfTable<Table> entries{{array, needed}};

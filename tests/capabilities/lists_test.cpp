@@ -285,9 +285,31 @@ TYPED_TEST(CapabilityList, ASecondSectionIsNotMeasuredAgainstTheNumberAnsweredFo
     this->expect(3, {});
 }
 
-TYPED_TEST(CapabilityList, OfTwoRefusedSectionsTheLaterSaysTheNumberNeeded) {
-    EXPECT_TRUE(this->readSections(2, {this->numbered({1, 2, 3, 4}), this->numbered({1, 2, 3})}));
-    this->expect(3, {});
+TYPED_TEST(CapabilityList, OfRefusedSectionsTheLargestSaysTheNumberNeeded) {
+    const std::string three = this->numbered({1, 2, 3});
+    const std::string four = this->numbered({1, 2, 3, 4});
+    const std::string five = this->numbered({1, 2, 3, 4, 5});
+    for (const auto& sections : {std::vector{five, three}, {three, five}, {five, four, three}, {three, five, four}}) {
+        EXPECT_TRUE(this->readSections(2, sections));
+        this->expect(5, {});
+    }
+}
+
+TYPED_TEST(CapabilityList, OfSectionsWithoutAnArrayTheLargestSaysTheNumberNeededWhateverCountIsPassed) {
+    for (const int count : {INT_MIN, -1, 0, 1, 2, 3, INT_MAX}) {
+        this->lendNone();
+        EXPECT_TRUE(this->readSections(count, {this->numbered({1, 2}), this->numbered({1})}));
+        this->expect(2, {});
+    }
+}
+
+TYPED_TEST(CapabilityList, TheNumberAnsweredForSectionsOfAnySizeIsEnoughForTheSecondCall) {
+    const std::vector sections{this->numbered({1, 2, 3, 4, 5}), this->numbered({1, 2, 3})};
+    EXPECT_TRUE(this->readSections(0, sections));
+    const int needed = this->caps.*TypeParam::count;
+    this->lend(static_cast<std::size_t>(needed));
+    EXPECT_TRUE(this->readSections(needed, sections));
+    EXPECT_EQ(this->caps.*TypeParam::count, needed);
 }
 
 TYPED_TEST(CapabilityList, ASecondSectionWithoutEntriesIsMeasuredAgainstTheCapacityAsWell) {
