@@ -55,10 +55,12 @@ public:
     /// Reads the reply "get_wireless_radio_status".
     bool ParseWirlessRadioXML(const wchar_t& reply, int length, _tagWirelessRadioStatus& status);
     /// Reads the reply "AccessPoints", in two calls. With `list.accessPoints` null it sets `list.count` to the number
-    /// of elements in the reply and is true. With an array of at least so many entries it sets the count again, fills
-    /// the entries from index 0 on, and its result is that of the last one, false when there is none.
+    /// of elements in the reply and is true. With an array, a count above 0 is its capacity: the entries are filled
+    /// from index 0 on, and the result is that of the last one filled, false when there is none. A reply of more
+    /// elements than that fills so many entries and leaves the count; else the count becomes the number of elements.
     ///
-    /// Pass the **same reply** to both: the array is not measured otherwise.
+    /// **With an array and a count of 0 the array is not measured**: it must then have as many entries as the reply has
+    /// elements, which is sure only for the same reply that was counted.
     bool ParseAccessPoints(const wchar_t& reply, int length, _tagAccessPoints& list);
 
     // ---- Walkers: the same, for a host that holds the element already. A null element gives false. ----

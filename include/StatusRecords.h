@@ -398,10 +398,11 @@ struct _tagAccessPoint {
 /// The access points that the printer sees: the reply "AccessPoints", read by KVJStatusParser::ParseAccessPoints in two
 /// calls.
 struct _tagAccessPoints {
-    /// "AccessPoint": an array of the host's, or null to ask for its size only. It must hold as many entries as the
-    /// reply has elements, which is what `count` says after a call with null.
+    /// "AccessPoint": an array of the host's, or null to ask for its size only. With a `count` of 0 it must hold as
+    /// many entries as the reply has elements.
     _tagAccessPoint* accessPoints;
-    /// Out: how many elements the reply has, of whatever name; no less than there are access points.
+    /// In: the capacity of the array, when it is above 0. Out: how many elements the reply has, of whatever name, which
+    /// is no less than there are access points; of a reply of more than the capacity, the capacity.
     unsigned int count;
 };
 

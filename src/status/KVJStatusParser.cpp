@@ -176,9 +176,11 @@ bool KVJStatusParser::ParseAccessPoints(const wchar_t& reply, int length, _tagAc
 bool KVJStatusParser::parseAllWirelessAccessPoint(TiXmlElement* element, _tagAccessPoints& list) {
     if (element == nullptr) return false;
     const std::size_t children = kvjxml::countChildren(element);
-    list.count = static_cast<unsigned int>(children);
+    // Of a host that passes no count the array is as large as the reply needs it.
+    const bool isShort = list.accessPoints != nullptr && list.count > 0 && list.count < children;
+    if (!isShort) list.count = static_cast<unsigned int>(children);
     if (list.accessPoints == nullptr) return true;
-    List<_tagAccessPoint> accessPoints{{list.accessPoints, children}};
+    List<_tagAccessPoint> accessPoints{{list.accessPoints, list.count}};
     return walk(element, accessPoints, tables::accessPoints);
 }
 

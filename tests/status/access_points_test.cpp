@@ -1,6 +1,7 @@
 // The reply "AccessPoints": the call that asks for the number of entries, the call that fills them, and every field.
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <cstddef>
 #include <cstring>
 #include <string>
@@ -62,9 +63,9 @@ bool read(const std::string& reply, _tagAccessPoints& list) {
     return KVJStatusParser().ParseAccessPoints(*text.c_str(), static_cast<int>(text.size()), list);
 }
 
-/// Reads a reply with these children of its root into a host's array, which is longer than the reply needs.
+/// Reads a reply with these children of its root into a host's array, which is as long as the reply needs or longer.
 bool readInto(Entries& entries, const std::string& children, unsigned int& count) {
-    _tagAccessPoints list{entries.data(), 101};
+    _tagAccessPoints list{entries.data(), static_cast<unsigned int>(entries.size())};
     const bool result = read(element("AccessPoints", children), list);
     EXPECT_EQ(list.accessPoints, entries.data());
     count = list.count;
@@ -137,14 +138,48 @@ TEST(AccessPoints, EntriesBehindThoseOfTheReplyAreLeftAlone) {
     expectEqual(entries, {presetOnChannel(1), presetOnChannel(2), preset(), preset(), preset()});
 }
 
-TEST(AccessPoints, TheCountBeforeTheSecondCallHasNoEffect) {
-    for (const unsigned int before : {0U, 1U, 1000U}) {
+TEST(AccessPoints, AnArrayWithoutACountOrWithEnoughIsFilledAndTheCountThatOfTheReply) {
+    for (const unsigned int before : {0U, 3U, 4U, 1000U, UINT_MAX}) {
         Entries entries(4, preset());
         _tagAccessPoints list{entries.data(), before};
         EXPECT_TRUE(read(element("AccessPoints", onChannel(1) + onChannel(2) + onChannel(3)), list));
         EXPECT_EQ(list.count, 3U);
         expectEqual(entries, {presetOnChannel(1), presetOnChannel(2), presetOnChannel(3), preset()});
     }
+}
+
+TEST(AccessPoints, OfMoreThanTheCountSoManyAreFilledAndItStays) {
+    const std::string reply =
+        element("AccessPoints", onChannel(1) + "<scan_time>5</scan_time>" + onChannel(2) + onChannel(3));
+    for (const unsigned int capacity : {1U, 2U, 3U}) {
+        Entries entries(4, preset());
+        Entries expected = entries;
+        for (unsigned int i = 0; i < capacity; ++i) expected[i] = presetOnChannel(static_cast<int>(i) + 1);
+        _tagAccessPoints list{entries.data(), capacity};
+        EXPECT_TRUE(read(reply, list));
+        EXPECT_EQ(list.count, capacity);
+        expectEqual(entries, expected);
+    }
+}
+
+TEST(AccessPoints, AReplyThatHasGrownSinceItWasCountedStaysInTheArray) {
+    _tagAccessPoints list{nullptr, 0};
+    EXPECT_TRUE(read(element("AccessPoints", onChannel(1) + onChannel(2) + onChannel(3)), list));
+    ASSERT_EQ(list.count, 3U);
+    Entries entries(4, preset());  // One more than the host says, to see a write behind it.
+    list.accessPoints = entries.data();
+    EXPECT_TRUE(read(element("AccessPoints", onChannel(1) + onChannel(2) + onChannel(3) + onChannel(4)), list));
+    EXPECT_EQ(list.count, 3U);
+    expectEqual(entries, {presetOnChannel(1), presetOnChannel(2), presetOnChannel(3), preset()});
+}
+
+TEST(AccessPoints, TheResultIsThatOfTheLastOneThatHadRoom) {
+    Entries entries(1, preset());
+    _tagAccessPoints list{entries.data(), 1};
+    EXPECT_TRUE(read(element("AccessPoints", onChannel(1) + "<AccessPoint/>"), list));
+    EXPECT_FALSE(read(element("AccessPoints", "<AccessPoint/>" + onChannel(1)), list));
+    EXPECT_FALSE(read(element("AccessPoints", "<scan_time/><scan_time/>"), list));
+    EXPECT_EQ(list.count, 1U);
 }
 
 TEST(AccessPoints, OtherElementsCountButUseUpNoEntry) {
