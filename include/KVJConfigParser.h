@@ -86,9 +86,10 @@ public:
     bool getIP(TiXmlElement* element, char* name, unsigned long& address);
     bool getFeederMode(TiXmlElement* element, _eFeedMode& mode);  ///< Word as in _eFeedMode.
     bool getUSBSpeed(TiXmlElement* element, USB_Speed& speed);    ///< Word as in USB_Speed; any other leaves it alone.
-    /// Word as in WirelessSecurity; any other leaves it alone and is true as well.
+    /// Word as in WirelessSecurity; any other leaves it alone and is true as well, but for an empty text, which is
+    /// false.
     bool GetSecurity(TiXmlElement* element, WirelessSecurity& security);
-    /// Word as in WirelessCrypto; any other leaves it alone and is true as well.
+    /// Word as in WirelessCrypto; any other leaves it alone and is true as well, but for an empty text, which is false.
     bool GetCrypto(TiXmlElement* element, WirelessCrypto& crypto);
     /// Reads a setting: its range from the attributes "min" and "max", of which a missing one stays as it was, and its
     /// value from the text; then the value is brought up to the minimum and after that down to the maximum, also when

@@ -175,11 +175,11 @@ bool KVJConfigParser::getUSBSpeed(TiXmlElement* element, USB_Speed& speed) {
 }
 
 bool KVJConfigParser::GetSecurity(TiXmlElement* element, WirelessSecurity& security) {
-    return kvjxml::readWord(element, security, tables::securityWords);
+    return tables::readWirelessWord(element, security, tables::securityWords);
 }
 
 bool KVJConfigParser::GetCrypto(TiXmlElement* element, WirelessCrypto& crypto) {
-    return kvjxml::readWord(element, crypto, tables::cryptoWords);
+    return tables::readWirelessWord(element, crypto, tables::cryptoWords);
 }
 
 bool KVJConfigParser::getMinMaxVal(TiXmlElement* element, _MinMaxVal& setting) {

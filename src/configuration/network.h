@@ -41,6 +41,19 @@ inline constexpr WordTable cryptoWords({{"none", wirelessCryptoNone},
                                         {"ccmp_tkip", wirelessCryptoCcmp},
                                         {"tkip_ccmp", wirelessCryptoCcmp}});
 
+/// A word of a wireless network; an unknown one leaves the value alone and counts as read. Without text, or with an
+/// empty one, nothing was read.
+template <class Value>
+bool readWirelessWord(const TiXmlElement* element, Value& value, const Words& table) {
+    const char* content = textOf(element);
+    return content != nullptr && *content != '\0' && readWord(element, value, table);
+}
+
+template <auto Member, const auto& Table>
+inline constexpr Getter<RecordOf<Member>> wirelessWord{
+    word<Member, Table>.description,
+    [](TiXmlElement* element, RecordOf<Member>& record) { return readWirelessWord(element, record.*Member, Table); }};
+
 /// Without text, or with an empty one, the address is 0; a null element has none to store.
 inline bool readIpAddress(const TiXmlElement* element, unsigned long& address) {
     const char* content = textOf(element);
@@ -92,8 +105,8 @@ inline constexpr auto wireless = rows<_WirelessParams>({
     {"dhcp",        flag<&_WirelessParams::dhcp>},
     {"snmp",        flag<&_WirelessParams::snmp>},
     {"radio",       flag<&_WirelessParams::radio>},
-    {"security",    word<&_WirelessParams::security, securityWords>},
-    {"crypto",      word<&_WirelessParams::crypto, cryptoWords>},
+    {"security",    wirelessWord<&_WirelessParams::security, securityWords>},
+    {"crypto",      wirelessWord<&_WirelessParams::crypto, cryptoWords>},
     {"ssid",        text<&_WirelessParams::ssid>},
     {"bssid",       hardwareAddress<&_WirelessParams::bssid>},
     {"key",         text<&_WirelessParams::key>},

@@ -348,6 +348,10 @@ TEST(Word, OfWirelessSecurityAndCrypto) {
     const Field crypto{&P::getWirelessParams, "crypto", &_WirelessParams::crypto};
     expectCodes(crypto, {{"none", 0}, {"rc4", 1}, {"TKIP", 2}, {"ccmp", 3}, {"TKIP_CCMP", 3}});
     expectKept(crypto, {"aes", "Ccmp"});
+    for (const char* empty : {"<![CDATA[]]>", "&#0;", "&#0;none"}) {
+        EXPECT_EQ(outcomeOf(security, empty), untouched(security)) << empty;
+        EXPECT_EQ(outcomeOf(crypto, empty), untouched(crypto)) << empty;
+    }
 }
 
 TEST(Word, OfACardsCoercivityIs0ForAnyOther) {

@@ -68,6 +68,14 @@ struct WordElement {
         EXPECT_FALSE((KVJConfigParser().*reader)(nullptr, value));
         EXPECT_EQ(value, before);
     }
+    /// A text that is there but empty is none. A reference to NUL ends a text.
+    void expectFalseWithAnEmptyText() const {
+        for (const char* content : {"<![CDATA[]]>", "&#0;", "&#x0;", "&#0;none", "<!---->", "<![CDATA[]]>none"}) {
+            Code value = before;
+            EXPECT_FALSE(read(reader, content, value)) << content;
+            EXPECT_EQ(value, before) << content;
+        }
+    }
 };
 
 const WordElement<WirelessSecurity> security{&KVJConfigParser::GetSecurity, static_cast<WirelessSecurity>(-7)};
@@ -99,6 +107,8 @@ TEST(SecurityWord, AnyOtherLeavesTheCodeAndIsTrue) {
 
 TEST(SecurityWord, WithoutTextIsFalseAndLeavesTheCode) { security.expectFalseWithoutText(); }
 
+TEST(SecurityWord, WithAnEmptyTextIsFalseAndLeavesTheCode) { security.expectFalseWithAnEmptyText(); }
+
 TEST(CryptoWord, EachHasItsCodeAndTheMixedOnesAreTheStronger) {
     crypto.expectCodes({{"none", 0},
                         {"RC4", 1},
@@ -118,6 +128,8 @@ TEST(CryptoWord, AnyOtherLeavesTheCodeAndIsTrue) {
 }
 
 TEST(CryptoWord, WithoutTextIsFalseAndLeavesTheCode) { crypto.expectFalseWithoutText(); }
+
+TEST(CryptoWord, WithAnEmptyTextIsFalseAndLeavesTheCode) { crypto.expectFalseWithAnEmptyText(); }
 
 TEST(UsbSpeedWord, FullAndHighHaveCodes) { usbSpeed.expectCodes({{"full", 1}, {"high", 0}}); }
 

@@ -139,4 +139,16 @@ TEST(CombinedWords, WithoutTextOrElementAreFalseAndTheCodesKept) {
     }
 }
 
+// ---- Both ----
+
+TEST(CombinedWords, ATextThatIsThereButEmptyAddsNothingAndIsTrue) {
+    for (const auto& reader : {&KVJStatusParser::GetSecurity, &KVJStatusParser::GetCrypto}) {
+        for (const char* content : {"<![CDATA[]]>", "&#0;", "&#0;WPA"}) {
+            unsigned int codes = 0x80;
+            EXPECT_TRUE(combine(reader, content, codes)) << content;
+            EXPECT_EQ(codes, 0x80U) << content;
+        }
+    }
+}
+
 }  // namespace
