@@ -4,19 +4,26 @@
 
 #include <cstring>
 #include <cwchar>
+#include <string>
 
 namespace kvjxml {
 
 namespace {
 
-/// Whether the locale has each ASCII character as the byte of its own value, whatever stands beside it.
-bool keepsAscii() noexcept {
-    const char* charset = nl_langinfo(CODESET);
-    return std::strcmp(charset, "UTF-8") == 0 || std::strcmp(charset, "ANSI_X3.4-1968") == 0;
+/// What is known of the locale's character set.
+struct Charset {
+    bool isUtf8;
+    bool keepsAscii;  ///< Each ASCII character is the byte of its own value, whatever stands beside it.
+};
+
+Charset charset() noexcept {
+    const char* name = nl_langinfo(CODESET);
+    const bool isUtf8 = std::strcmp(name, "UTF-8") == 0;
+    return {isUtf8, isUtf8 || std::strcmp(name, "ANSI_X3.4-1968") == 0};
 }
 
-/// Copies the ASCII that a text begins with, as far as it fills whole blocks: compilers make vector instructions of
-/// them.
+/// Copies the ASCII that a text begins with, in blocks as far as it fills them: compilers make vector instructions of
+/// those.
 /// @return how many characters were copied.
 std::size_t copyAscii(const wchar_t* text, std::size_t length, char* bytes) noexcept {
     constexpr std::size_t block = 32;
@@ -27,18 +34,38 @@ std::size_t copyAscii(const wchar_t* text, std::size_t length, char* bytes) noex
         if (bits >= 0x80) break;
         for (std::size_t i = 0; i < block; ++i) bytes[copied + i] = static_cast<char>(text[copied + i]);
     }
+    for (; copied < length && static_cast<unsigned int>(text[copied]) < 0x80; ++copied) {
+        bytes[copied] = static_cast<char>(text[copied]);
+    }
     return copied;
+}
+
+/// What was converted up to a character that the locale does not know is what the host can read.
+void convert(const wchar_t* text, char* bytes, std::size_t capacity) noexcept {
+    std::mbstate_t state{};
+    static_cast<void>(std::wcsrtombs(bytes, &text, capacity, &state));
 }
 
 }  // namespace
 
-void toMultibyte(const wchar_t* text, std::size_t length, char* bytes) noexcept {
+void toMultibyte(const wchar_t* text, std::size_t length, char* bytes) {
+    const Charset locale = charset();
+    std::size_t count = wcsnlen(text, length);
     // Replies are ASCII all but always, and copying that takes a fraction of the conversion's time.
-    const std::size_t copied = keepsAscii() ? copyAscii(text, wcsnlen(text, length), bytes) : 0;
-    const wchar_t* rest = text + copied;
-    std::mbstate_t state{};
-    // What was converted up to a character that the locale does not know is what the host can read.
-    static_cast<void>(std::wcsrtombs(bytes + copied, &rest, length - copied, &state));
+    const std::size_t copied = locale.keepsAscii ? copyAscii(text, count, bytes) : 0;
+    text += copied;
+    bytes += copied;
+    length -= copied;
+    count -= copied;
+    if (count == 0) return;
+    if (locale.isUtf8) {
+        // Each character has a byte at least, so the bytes are full before the conversion would look behind the text.
+        convert(text, bytes, length);
+    } else {
+        // Elsewhere a character may have none, or have to wait for the next one, and only a terminator tells that there
+        // is none. A conversion that takes a count instead loses what waits, and ends the process over no byte at all.
+        convert(std::wstring(text, count).c_str(), bytes, length);
+    }
 }
 
 void toWide(const char* text, wchar_t* out, std::size_t capacity) noexcept {

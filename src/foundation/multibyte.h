@@ -8,9 +8,11 @@
 namespace kvjxml {
 
 /// Converts up to `length` wide characters to at most `length` bytes, and a NUL when there is room for it, as wcstombs
-/// does. A character that the locale does not know ends the text. Nothing behind a NUL is looked at.
+/// does with a text that is terminated behind them. A character that the locale does not know ends the text. Nothing
+/// behind the characters is looked at, nor behind a NUL among them.
 /// @param bytes  room for `length` bytes, all zero.
-void toMultibyte(const wchar_t* text, std::size_t length, char* bytes) noexcept;
+/// @throws std::bad_alloc, only in a locale of another character set than UTF-8 and ASCII, or over such a character.
+void toMultibyte(const wchar_t* text, std::size_t length, char* bytes);
 
 /// Converts a terminated text to at most `capacity` wide characters, the NUL included when there is room for it, as
 /// mbstowcs does. A byte that the locale does not know ends the text.

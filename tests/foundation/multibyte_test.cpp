@@ -7,22 +7,30 @@
 #include <cstdlib>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "foundation/locale_scope.h"
+#include "support/guarded_memory.h"
 
+using kvjxml::tests::End;
+using kvjxml::tests::GuardedMemory;
 using kvjxml::tests::LocaleScope;
 
 namespace {
 
-const char* const locales[] = {"C", "C.UTF-8", "de_DE.UTF-8", "tr_TR.ISO-8859-9"};
+const char* const locales[] = {
+    "C", "C.UTF-8", "de_DE.UTF-8", "tr_TR.ISO-8859-9", "zh_HK.BIG5-HKSCS", "ja_JP.EUC-JISX0213"};
 
-/// Converts an exact copy of the text into an exact buffer, so that a sanitizer sees what goes over either's end.
+/// Converts an exact copy of the text into an exact buffer, both at the end of what can be touched.
 std::string multibyte(const std::wstring& text) {
-    const auto exact = std::make_unique<wchar_t[]>(text.size());
-    std::ranges::copy(text, exact.get());
-    const auto bytes = std::make_unique<char[]>(text.size());
-    kvjxml::toMultibyte(exact.get(), text.size(), bytes.get());
-    return {bytes.get(), text.size()};
+    const GuardedMemory texts(text.size() * sizeof(wchar_t) + 1);
+    auto* const exact = reinterpret_cast<wchar_t*>(texts.at(End::back, text.size() * sizeof(wchar_t)));
+    std::ranges::copy(text, exact);
+    const GuardedMemory buffers(text.size() + 1);
+    char* const bytes = buffers.at(End::back, text.size());
+    kvjxml::toMultibyte(exact, text.size(), bytes);
+    return {bytes, text.size()};
 }
 
 std::string multibyteOfTheCLibrary(const std::wstring& text) {
@@ -75,6 +83,64 @@ TEST(ToMultibyte, AnyCharacterAnywhereIsWhatTheCLibraryMakesOfIt) {
             const std::wstring only(100, character);
             ASSERT_EQ(multibyte(only), multibyteOfTheCLibrary(only))
                 << locale << ", character " << static_cast<long>(character);
+        }
+    }
+}
+
+// In these character sets a character waits for the next one, with which it can be one: U+00CA with U+0304, U+304B with
+// U+309A. A tag, as U+E0041, is left out of any text but one in UTF-8, so that a text can have room to spare.
+
+TEST(ToMultibyte, ACharacterThatWaitsForTheNextArrivesAtTheEnd) {
+    {
+        const LocaleScope hongKong("zh_HK.BIG5-HKSCS");
+        EXPECT_EQ(multibyte(L"ab\U000E0041\u00CA"), "ab\x88\x66");
+        EXPECT_EQ(multibyte(L"\U000E0041\u00CA"), "\x88\x66");
+        EXPECT_EQ(multibyte(L"\u00CA\u0304"), "\x88\x62");
+        EXPECT_EQ(multibyte(L"\u00CA "), "\x88\x66");
+    }
+    const LocaleScope japan("ja_JP.EUC-JISX0213");
+    EXPECT_EQ(multibyte(L"ab\U000E0041\u304B"), "ab\xA4\xAB");
+    EXPECT_EQ(multibyte(L"\U000E0041\u304B"), "\xA4\xAB");
+    EXPECT_EQ(multibyte(L"\u304B\u309A"), "\xA4\xF7");
+    EXPECT_EQ(multibyte(L"\u304B "), "\xA4\xAB");
+}
+
+TEST(ToMultibyte, ACharacterThatWaitsForTheNextIsLeftOutWhereThereIsNoRoom) {
+    {
+        const LocaleScope hongKong("zh_HK.BIG5-HKSCS");
+        EXPECT_EQ(multibyte(L"\u00CA"), std::string(1, '\0'));
+        EXPECT_EQ(multibyte(L"ab\u00CA"), std::string("ab\0", 3));
+    }
+    const LocaleScope japan("ja_JP.EUC-JISX0213");
+    EXPECT_EQ(multibyte(L"\u304B"), std::string(1, '\0'));
+    EXPECT_EQ(multibyte(L"ab\u304B"), std::string("ab\0", 3));
+}
+
+TEST(ToMultibyte, ATextOfCharactersThatAreLeftOutIsEmpty) {
+    for (const char* locale : {"C", "tr_TR.ISO-8859-9", "zh_HK.BIG5-HKSCS", "ja_JP.EUC-JISX0213"}) {
+        const LocaleScope scope(locale);
+        for (std::size_t length = 1; length <= 100; ++length) {
+            ASSERT_EQ(multibyte(std::wstring(length, L'\U000E0041')), std::string(length, '\0')) << locale;
+        }
+        EXPECT_EQ(multibyte(L"a\U000E0041\U000E0041b"), std::string("ab\0\0", 4)) << locale;
+    }
+}
+
+TEST(ToMultibyte, AnyTextOfFewCharactersIsWhatTheCLibraryMakesOfIt) {
+    const std::wstring_view characters = L"a<\u00CA\u0304\u030C\u304B\u309A\u00E6\u0300\u20AC\U000E0041\U0001F5A8";
+    for (const char* locale : locales) {
+        const LocaleScope scope(locale);
+        std::vector<std::wstring> texts{L""};
+        for (std::size_t length = 1; length <= 3; ++length) {
+            std::vector<std::wstring> longer;
+            for (const std::wstring& text : texts) {
+                for (const wchar_t character : characters) longer.push_back(text + character);
+            }
+            texts = std::move(longer);
+            for (const std::wstring& text : texts) {
+                ASSERT_EQ(multibyte(text), multibyteOfTheCLibrary(text))
+                    << locale << ", " << testing::PrintToString(text);
+            }
         }
     }
 }

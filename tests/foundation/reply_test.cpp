@@ -13,10 +13,13 @@
 #include "foundation/element.h"
 #include "foundation/locale_scope.h"
 #include "support/files.h"
+#include "support/guarded_memory.h"
 #include "support/xml.h"
 
 using kvjxml::Reply;
 using kvjxml::textOf;
+using kvjxml::tests::End;
+using kvjxml::tests::GuardedMemory;
 using kvjxml::tests::LocaleScope;
 using kvjxml::tests::wide;
 using kvjxml::tests::written;
@@ -231,6 +234,21 @@ TEST(Reply, InAUtf8LocaleALengthGreaterByThoseBytesKeepsTheEnd) {
 TEST(Reply, InALocaleOfOneByteACharacterCostsNothing) {
     const LocaleScope turkish("tr_TR.ISO-8859-9");
     EXPECT_EQ(contentsOf(replyOf(L"<r><a>\u00E9</a><b>12")), "[a \xE9][b 12]");
+}
+
+TEST(Reply, ACharacterThatWaitsForTheNextArrivesAndNothingBehindTheReplyIsRead) {
+    const auto contentsAtTheEnd = [](const char* locale, std::wstring_view text) {
+        const LocaleScope scope(locale);
+        const GuardedMemory memory(text.size() * sizeof(wchar_t));
+        auto* const reply = reinterpret_cast<wchar_t*>(memory.at(End::back, text.size() * sizeof(wchar_t)));
+        std::ranges::copy(text, reply);
+        return contentsOf(Reply(*reply, static_cast<std::int64_t>(text.size())));
+    };
+    // The tag is left out, which makes room for the character's second byte.
+    EXPECT_EQ(contentsAtTheEnd("zh_HK.BIG5-HKSCS", L"<r><a>\U000E0041\u00CA"), "[a \x88\x66][no b]");
+    EXPECT_EQ(contentsAtTheEnd("ja_JP.EUC-JISX0213", L"<r><a>\U000E0041\u304B"), "[a \xA4\xAB][no b]");
+    EXPECT_EQ(contentsAtTheEnd("zh_HK.BIG5-HKSCS", L"<r><a>1\u00CA"), "[a 1][no b]");
+    EXPECT_EQ(contentsAtTheEnd("ja_JP.EUC-JISX0213", L"<r><a>1\u304B"), "[a 1][no b]");
 }
 
 TEST(Reply, AnythingThatIsNoCharacterEndsTheText) {
