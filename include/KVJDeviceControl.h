@@ -17,9 +17,9 @@
 /// **Results.** True when the command was printed; false when `out` is null, or the name of a device is. A null text is
 /// left out.
 ///
-/// **Files.** Each command is also left in "/tmp/composedXML" for the service engineer, readable by its owner alone;
-/// that this fails is not reported, and of objects in several threads the last to write wins. Without `out` nothing is
-/// left.
+/// **Files.** Each command is also left in "/tmp/composedXML" for the service engineer, as Kavrin::KVJSetConfig leaves
+/// its copy: readable by its owner alone, a file of another user keeps its old content, failures are silent, and of
+/// several objects at the same time the last leaves its command, whole. Without `out` nothing is left.
 class KVJXML_API KVJDeviceControl : public TiXmlDocument {
 public:
     /// A motor by its number: 0 "card_feed", 1 "card_x", 2 "ribbon", 3 "head_lift", 4 "options", 5 "flipper"; any other

@@ -42,8 +42,11 @@ namespace Kavrin {
 class KVJXML_API KVJSetConfig : public TiXmlDocument {
 public:
     /// Composes "configuration", leaves a copy of it in the file "/tmp/firmwaresettings" and prints it. The copy is
-    /// written even when `out` is null. It can hold the network key: it is readable by its owner alone, a link under
-    /// that name is not followed, and a file of another user is not touched. Its failures are silent.
+    /// written even when `out` is null. It can hold the network key: it is written to a new file that only its owner
+    /// can read, named as the copy with a point and six characters, which takes the place of the old copy when it is
+    /// whole. A link under that name is not followed, and a file of another user keeps its old content, as does one
+    /// that was made read-only or has a second name. Failures are silent: the old copy stays, and no signal comes when
+    /// files may not grow so large.
     /// @param out  room for `outLen` wide characters. The request is converted to them in the process's locale, and its
     ///             terminator is written when there is room for it. A request that fills the capacity, or that holds a
     ///             byte that the locale does not know, ends without one: have room to spare, and set the buffer to zero

@@ -11,15 +11,15 @@
 namespace Kavrin {
 
 /// The object is the document that is composed. Composing appends to it: a second SetPrinterInfo gives a document with
-/// two roots, so take **a fresh object for each request**, in one thread at a time. Two threads that compose at the
-/// same time on objects of their own write the one file "/tmp/printidsettings" over each other.
+/// two roots, so take **a fresh object for each request**, in one thread at a time. Of two that compose at the same
+/// time on objects of their own, the last leaves its copy, whole.
 ///
 /// Texts of the record need not be terminated.
 class KVJXML_API KVJSetPrinterInfo : public TiXmlDocument {
 public:
     /// Composes "printer_id", leaves a copy of it in the file "/tmp/printidsettings" and prints it. The copy is written
-    /// even when `out` is null. It is readable by its owner alone, a link under that name is not followed, and a file
-    /// of another user is not touched. Its failures are silent.
+    /// even when `out` is null. It is left as that of KVJSetConfig is: readable by its owner alone, a file of another
+    /// user keeps its old content, and failures are silent.
     /// @param out  room for `capacity` wide characters. The request is converted to them in the process's locale, and
     ///             its terminator is written when there is room for it. A request that fills the capacity, or that
     ///             holds a byte that the locale does not know, ends without one: have room to spare, and set the buffer

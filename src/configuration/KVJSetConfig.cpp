@@ -1,6 +1,7 @@
 #include "KVJSetConfig.h"
 
 #include "configuration/document.h"
+#include "foundation/diagnostic_copy.h"
 #include "foundation/request.h"
 
 namespace Kavrin {

@@ -2,6 +2,7 @@
 
 #include "devicecontrol/tables.h"
 #include "foundation/convert.h"
+#include "foundation/diagnostic_copy.h"
 #include "foundation/request.h"
 #include "foundation/tags.h"
 

@@ -1,10 +1,5 @@
 #include "foundation/request.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <cstdio>
 #include <cstring>
 #include <memory>
 
@@ -22,17 +17,6 @@ bool printed(const TiXmlDocument& request, Deliver deliver) {
     if (!request.Accept(&printer)) return false;
     deliver(printer.CStr());
     return true;
-}
-
-struct CloseFile {
-    void operator()(std::FILE* file) const noexcept { static_cast<void>(std::fclose(file)); }
-};
-
-/// Whether the open file is a plain file of this user's, and known by this one name.
-bool isOwn(int descriptor) noexcept {
-    struct stat status {};
-    return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_uid == geteuid() &&
-           status.st_nlink == 1;
 }
 
 }  // namespace
@@ -60,19 +44,5 @@ bool print(const TiXmlDocument& request, char* out) {
 }
 
 bool save(const TiXmlDocument& request, const char* path) { return path != nullptr && request.SaveFile(path); }
-
-void keepDiagnosticCopy(const TiXmlDocument& request, const char* path) {
-    constexpr mode_t ownerOnly = S_IRUSR | S_IWUSR;
-    // Not blocking: a pipe under that name would otherwise hold the host up.
-    const int descriptor = open(path, O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, ownerOnly);
-    if (descriptor < 0) return;
-    const std::unique_ptr<std::FILE, CloseFile> file(fdopen(descriptor, "w"));
-    if (file == nullptr) {  // GCOVR_EXCL_START: only for want of memory, which no test can take from the C library.
-        close(descriptor);
-        return;
-    }  // GCOVR_EXCL_STOP
-    if (!isOwn(descriptor) || fchmod(descriptor, ownerOnly) != 0 || ftruncate(descriptor, 0) != 0) return;
-    static_cast<void>(request.SaveFile(file.get()));
-}
 
 }  // namespace kvjxml

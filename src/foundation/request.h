@@ -29,11 +29,6 @@ bool print(const TiXmlDocument& request, char* out);
 /// Saves `request` to the file `path`. False when `path` is null or the file cannot be written.
 bool save(const TiXmlDocument& request, const char* path);
 
-/// Leaves a copy of `request` in the file `path` for the service engineer, and says nothing when that fails. The copy
-/// can hold a network key, and its name is known to everyone: a link is not followed, a file of another user or one
-/// with a second name is not touched, and the copy is readable by its owner alone.
-void keepDiagnosticCopy(const TiXmlDocument& request, const char* path);
-
 }  // namespace kvjxml
 
 #endif

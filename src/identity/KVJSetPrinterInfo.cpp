@@ -1,5 +1,6 @@
 #include "KVJSetPrinterInfo.h"
 
+#include "foundation/diagnostic_copy.h"
 #include "foundation/request.h"
 #include "identity/printer.h"
 

@@ -1,12 +1,8 @@
 // How a composed document gets to the host, and into the files beside it.
 #include "foundation/request.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
-#include <cstdio>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -14,12 +10,10 @@
 
 #include "foundation/locale_scope.h"
 #include "support/files.h"
-#include "support/no_room_for_files.h"
 #include "support/xml.h"
 
 using kvjxml::tests::contentOf;
 using kvjxml::tests::LocaleScope;
-using kvjxml::tests::NoRoomForFiles;
 using kvjxml::tests::TemporaryFolder;
 using kvjxml::tests::wide;
 
@@ -213,153 +207,6 @@ TEST(Save, WithoutAFileToWriteItIsFalse) {
     EXPECT_FALSE(kvjxml::save(Request(), ""));
     EXPECT_FALSE(kvjxml::save(Request(), (folder / "").c_str()));
     EXPECT_FALSE(kvjxml::save(Request(), (folder / "missing/request.xml").c_str()));
-}
-
-// ---- Diagnostic copies ----
-
-mode_t modeOf(const std::filesystem::path& path) {
-    struct stat status {};
-    if (lstat(path.c_str(), &status) != 0) throw std::runtime_error("no file " + path.string());
-    return status.st_mode & 07777;
-}
-
-class UmaskScope {
-public:
-    explicit UmaskScope(mode_t mask) : before_(umask(mask)) {}
-    ~UmaskScope() { umask(before_); }
-    UmaskScope(const UmaskScope&) = delete;
-    UmaskScope& operator=(const UmaskScope&) = delete;
-
-private:
-    mode_t before_;
-};
-
-class DiagnosticCopy : public testing::Test {
-protected:
-    TemporaryFolder folder;
-    std::filesystem::path path = folder / "settings";
-    std::filesystem::path other = folder / "other";
-
-    void keep() const { kvjxml::keepDiagnosticCopy(Request(), path.c_str()); }
-};
-
-TEST_F(DiagnosticCopy, IsTheDocument) {
-    keep();
-    EXPECT_EQ(contentOf(path), requestText);
-}
-
-TEST_F(DiagnosticCopy, IsReadableByItsOwnerAloneWhateverTheUmask) {
-    const UmaskScope open(0);
-    keep();
-    EXPECT_EQ(modeOf(path), mode_t{0600});
-}
-
-TEST_F(DiagnosticCopy, IsReadableByItsOwnerUnderATightUmask) {
-    const UmaskScope tight(0777);
-    keep();
-    EXPECT_EQ(modeOf(path), mode_t{0600});
-}
-
-TEST_F(DiagnosticCopy, ReplacesALongerOneThatEveryoneCouldRead) {
-    kvjxml::tests::write(path, std::string(5000, 'z'));
-    std::filesystem::permissions(path, std::filesystem::perms{0644});
-    keep();
-    EXPECT_EQ(contentOf(path), requestText);
-    EXPECT_EQ(modeOf(path), mode_t{0600});
-}
-
-TEST_F(DiagnosticCopy, ALinkIsNotFollowed) {
-    kvjxml::tests::write(other, "precious");
-    std::filesystem::permissions(other, std::filesystem::perms{0644});
-    std::filesystem::create_symlink(other, path);
-    keep();
-    EXPECT_EQ(contentOf(other), "precious");
-    EXPECT_EQ(modeOf(other), mode_t{0644});
-    EXPECT_TRUE(std::filesystem::is_symlink(path));
-}
-
-TEST_F(DiagnosticCopy, ALinkToNothingCreatesNothing) {
-    std::filesystem::create_symlink(other, path);
-    keep();
-    EXPECT_FALSE(std::filesystem::exists(other));
-    EXPECT_TRUE(std::filesystem::is_symlink(path));
-}
-
-TEST_F(DiagnosticCopy, AFileWithASecondNameIsNotTouched) {
-    kvjxml::tests::write(other, "precious");
-    std::filesystem::permissions(other, std::filesystem::perms{0644});
-    std::filesystem::create_hard_link(other, path);
-    keep();
-    EXPECT_EQ(contentOf(other), "precious");
-    EXPECT_EQ(modeOf(other), mode_t{0644});
-}
-
-TEST_F(DiagnosticCopy, AFileOfAnotherUserIsNotTouched) {
-    if (geteuid() != 0) GTEST_SKIP() << "only root can give a file away";
-    kvjxml::tests::write(path, "precious");
-    std::filesystem::permissions(path, std::filesystem::perms{0644});
-    ASSERT_EQ(chown(path.c_str(), 65534, 65534), 0);
-    keep();
-    EXPECT_EQ(contentOf(path), "precious");
-    EXPECT_EQ(modeOf(path), mode_t{0644});
-}
-
-TEST_F(DiagnosticCopy, AFolderIsNotTouched) {
-    std::filesystem::create_directory(path);
-    std::filesystem::permissions(path, std::filesystem::perms{0755});
-    keep();
-    EXPECT_TRUE(std::filesystem::is_empty(path));
-    EXPECT_EQ(modeOf(path), mode_t{0755});
-}
-
-TEST_F(DiagnosticCopy, APipeThatNobodyReadsDoesNotBlock) {
-    ASSERT_EQ(mkfifo(path.c_str(), 0644), 0);
-    keep();
-    EXPECT_TRUE(std::filesystem::is_fifo(path));
-}
-
-TEST_F(DiagnosticCopy, APipeThatSomebodyReadsIsNotTouched) {
-    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
-    std::filesystem::permissions(path, std::filesystem::perms{0644});
-    const int reader = open(path.c_str(), O_RDONLY | O_NONBLOCK);
-    ASSERT_GE(reader, 0);
-    keep();
-    char byte = 0;
-    EXPECT_EQ(read(reader, &byte, 1), 0);
-    EXPECT_EQ(modeOf(path), mode_t{0644});
-    close(reader);
-}
-
-TEST_F(DiagnosticCopy, AMissingFolderStaysMissing) {
-    kvjxml::keepDiagnosticCopy(Request(), (folder / "missing/settings").c_str());
-    EXPECT_FALSE(std::filesystem::exists(folder / "missing"));
-}
-
-TEST_F(DiagnosticCopy, ADiskWithoutRoomIsNoMatter) {
-    kvjxml::tests::write(path, "old");
-    testing::internal::CaptureStderr();
-    {
-        const NoRoomForFiles scope;
-        keep();
-    }
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
-    EXPECT_EQ(contentOf(path), "");
-}
-
-TEST_F(DiagnosticCopy, KeepsNoFileOpen) {
-    const auto openFiles = [] {
-        return std::distance(std::filesystem::directory_iterator("/proc/self/fd"),
-                             std::filesystem::directory_iterator());
-    };
-    const auto before = openFiles();
-    keep();
-    std::filesystem::remove(path);
-    std::filesystem::create_directory(path);
-    keep();
-    std::filesystem::remove(path);
-    ASSERT_EQ(mkfifo(path.c_str(), 0644), 0);
-    keep();
-    EXPECT_EQ(openFiles(), before);
 }
 
 }  // namespace

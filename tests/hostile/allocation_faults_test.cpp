@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <tinyxml.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstring>
 #include <filesystem>
@@ -161,11 +162,22 @@ auto openFiles() {
     return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), std::filesystem::directory_iterator());
 }
 
+/// The files beside a composer's copy that could become one: its name, a point and six characters.
+auto unfinishedCopies(const Composer& composer) {
+    if (composer.copy == nullptr) return std::ptrdiff_t{0};
+    const std::filesystem::path copy = composer.copy;
+    return std::ranges::count_if(std::filesystem::directory_iterator(copy.parent_path()), [&](const auto& entry) {
+        const std::string name = entry.path().string();
+        return name.starts_with(copy.string() + '.') && name.size() == copy.string().size() + 7;
+    });
+}
+
 TEST(FaultsInComposers, AreThrownAndLeaveNothingBehindAndTheNextCallComposes) {
     withEachComposer([](const Composer& composer) {
         const std::string whole = textOf(composer);
         ASSERT_NE(whole, "");
         const auto filesBefore = openFiles();
+        const auto unfinishedBefore = unfinishedCopies(composer);
         const std::size_t count = allocationsOf([&] { composer.begin()->compose(); }) - allocationsOf(composer.begin);
         ASSERT_GT(count, 1U);
         for (std::size_t allowed = 0; allowed <= count; ++allowed) {
@@ -183,6 +195,7 @@ TEST(FaultsInComposers, AreThrownAndLeaveNothingBehindAndTheNextCallComposes) {
             }
         }
         EXPECT_EQ(openFiles(), filesBefore);
+        EXPECT_EQ(unfinishedCopies(composer), unfinishedBefore);
     });
 }
 
