@@ -23,7 +23,8 @@ class KVJXML_API KVJConfigParser : public TiXmlDocument {
 public:
     /// Reads the reply "configuration", or "set_configuration" when there is none of the former, and sets the record to
     /// zero first when the reply has either. For every description of a ribbon or film it writes two lines to the
-    /// standard error stream, "DEBUG:RIBBON NAME" and "DEBUG:RIBBON NAME2".
+    /// standard error stream, "DEBUG:RIBBON NAME" and "DEBUG:RIBBON NAME2", in which control characters (0 to 31 and
+    /// 127 to 159, as a byte or in UTF-8) are shown as "?". The record has them as they came.
     /// @param text    the reply as multibyte text, terminated by NUL; null is no reply.
     /// @param length  does not count.
     /// @return **always false**: hosts judge from the record what was read.

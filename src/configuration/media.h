@@ -9,6 +9,7 @@
 
 #include "ConfigurationRecords.h"
 #include "KVJConfigParser.h"
+#include "configuration/shown.h"
 #include "foundation/getters.h"
 #include "foundation/vocabulary.h"
 #include "foundation/writers.h"
@@ -21,7 +22,7 @@ using namespace Kavrin;  // the records
 // ---- Ribbon and film ----
 
 /// A ribbon's name, without the word that all one-coloured ribbons begin with. Hosts watch the two lines that go to the
-/// standard error stream for it.
+/// standard error stream for it, often on a terminal.
 inline bool readRibbonName(TiXmlElement* element, char (&description)[64]) {
     std::memset(szRibbonName, 0, sizeof szRibbonName);
     const bool result = KVJHelper::GetString(element, szRibbonName[0], sizeof szRibbonName);
@@ -31,8 +32,8 @@ inline bool readRibbonName(TiXmlElement* element, char (&description)[64]) {
         std::memset(szRibbonName + sizeof szRibbonName - removed, 0, removed);
     }
     std::memset(description, 0, sizeof description);
-    static_cast<void>(std::fprintf(stderr, "DEBUG:RIBBON NAME %s\n", szRibbonName));
-    static_cast<void>(std::fprintf(stderr, "DEBUG:RIBBON NAME2 %s\n", description));
+    static_cast<void>(std::fprintf(stderr, "DEBUG:RIBBON NAME %s\n", Shown(szRibbonName).characters));
+    static_cast<void>(std::fprintf(stderr, "DEBUG:RIBBON NAME2 %s\n", Shown(description).characters));
     std::memcpy(description, szRibbonName, sizeof szRibbonName);
     return result;
 }

@@ -83,6 +83,43 @@ TEST(RibbonDescription, LongerThan31CharactersIsCutAndFalse) {
     }
 }
 
+TEST(RibbonDescription, WithControlCharactersIsStoredAsItIsAndShownWithoutThem) {
+    EXPECT_EQ(described("a\x1B[31mb\x07"), (Ribbon{true, "a\x1B[31mb\x07", debugLines("a?[31mb?")}));
+    EXPECT_EQ(described("a&#10;DEBUG:b&#13;&#9;c"), (Ribbon{true, "a\nDEBUG:b\r\tc", debugLines("a?DEBUG:b??c")}));
+    for (int code = 1; code < 0xA0; ++code) {
+        const bool isControl = code < 0x20 || code >= 0x7F;
+        const std::string byte(1, static_cast<char>(code));
+        const std::string text = "<![CDATA[x" + byte + "x]]>";
+        const std::string shown = "x" + (isControl ? "?" : byte) + "x";
+        EXPECT_EQ(described(text), (Ribbon{true, "x" + byte + "x", debugLines(shown)})) << code;
+        if (code < 0x80) continue;
+        const std::string inUtf8 = "x\xC2" + byte + "x";
+        EXPECT_EQ(described(inUtf8), (Ribbon{true, inUtf8, debugLines("x?x")})) << code;
+    }
+}
+
+TEST(RibbonDescription, WithAnyOtherCharacterIsShownAsItIs) {
+    for (int code = 0xA0; code <= 0xFF; ++code) {
+        const std::string text = "x" + std::string(1, static_cast<char>(code)) + "x";
+        EXPECT_EQ(described(text), (Ribbon{true, text, debugLines(text)})) << code;
+    }
+    // Each has a byte that alone would be a control character.
+    for (const char* text : {"\xC3\x80", "\xC3\x9B", "\xC2\xA0", "\xE2\x80\x9C", "\xE0\xA0\x80", "\xEF\xBF\xBD",
+                             "\xF0\x9F\x96\xA8", "\xF4\x8F\xBF\xBF"}) {
+        EXPECT_EQ(described(text), (Ribbon{true, text, debugLines(text)})) << text;
+    }
+}
+
+TEST(RibbonDescription, WithWhatIsNoCharacterInUtf8IsShownByteByByte) {
+    // Longer forms than needed of ESC and of the C1 control CSI, and characters that are cut.
+    for (const auto& [text, shown] :
+         {std::pair("\xC0\x9B", "\xC0?"), std::pair("\xE0\x80\x9B", "\xE0??"), std::pair("\xE0\x82\x9B", "\xE0??"),
+          std::pair("\xF0\x80\x82\x9B", "\xF0???"), std::pair("\xE2\x80", "\xE2?"), std::pair("\xC2x", "\xC2x"),
+          std::pair("\xF4\x9B\x80\x80", "\xF4???"), std::pair("\xF9\x9B\x80\x80", "\xF9???")}) {
+        EXPECT_EQ(described(text), (Ribbon{true, text, debugLines(shown)})) << text;
+    }
+}
+
 TEST(RibbonDescription, WithMonoIsCutFirst) {
     const std::string rest = std::string(22, 'r') + "MONO";
     EXPECT_EQ(described(std::string(27, 'r') + "MONO and more"), (Ribbon{false, rest, debugLines(rest)}));
