@@ -20,6 +20,8 @@
 /// **Files.** Each command is also left in "/tmp/composedXML" for the service engineer, as Kavrin::KVJSetConfig leaves
 /// its copy: readable by its owner alone, a file of another user keeps its old content, failures are silent, and of
 /// several objects at the same time the last leaves its command, whole. Without `out` nothing is left.
+///
+/// **Size.** Hosts are built with the size of the object: it stays what it is.
 class KVJXML_API KVJDeviceControl : public TiXmlDocument {
 public:
     /// A motor by its number: 0 "card_feed", 1 "card_x", 2 "ribbon", 3 "head_lift", 4 "options", 5 "flipper"; any other

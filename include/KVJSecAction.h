@@ -13,10 +13,15 @@ namespace Kavrin {
 
 /// Stateless. Replies, results and ownership are as for KVJStatusParser. What passes through is kept nowhere and
 /// written to no file.
+///
+/// **True does not mean that the reply was whole.** A reply that breaks off is read as far as its text goes, and the
+/// result tells of the last element only: of `<keys><host_authentication_key>HALF` half a key is read, and it is true.
+/// A host that acts on a key or a directive makes sure by other means that it had the whole reply.
 class KVJXML_API KVJSecAction {
 public:
     /// Copies the text of the reply "nonce", with its terminator.
-    /// @param nonce  a buffer of 32 characters. A longer text is cut to 31 characters, terminated, and false.
+    /// @param nonce  a buffer of 32 characters. A nonce longer than 31 characters is cut to that, terminated, and
+    /// false.
     /// @return false, and the buffer as it was, when the element is missing or has no text, or `nonce` is null.
     bool GetNonceValue(const wchar_t& reply, int length, char* nonce);
     /// Reads the host's part of the reply "diffie_hellman". True when any of its four values had a text, even if only

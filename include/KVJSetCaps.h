@@ -16,6 +16,8 @@ namespace Kavrin {
 /// What is written is what the printer expects, and not in every place what it sends: the operations below say where.
 /// Texts of the record need not be terminated. A null `under` adds nothing and gives false; a null array has no
 /// entries, whatever its count.
+///
+/// **Size.** Hosts are built with the size of the object: it stays what it is.
 class KVJXML_API KVJSetCaps : public TiXmlDocument {
 public:
     /// Composes "capabilities" and prints it.
@@ -26,7 +28,8 @@ public:
     /// @param mode  0 the whole description, "mag_encoder" 1 alone, 2 the smart-card encoder alone; any other value
     ///              writes an empty root.
     /// @param directToCard  the printer prints on the card itself, without transfer film: "print_system" says so.
-    /// @return whether it was printed, even if it was cut; false when `out` is null.
+    /// @return whether it was printed, even if it was cut; false, with nothing written, when `out` is null or `outLen`
+    ///         negative.
     bool SetCapabilities(const _Capabilities& caps, wchar_t* out, int outLen, int mode, bool directToCard);
 
     /// Adds to `root` what `mode` says. The result is that of the last "barcode" in mode 0, that of the last element in

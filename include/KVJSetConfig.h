@@ -38,6 +38,8 @@ namespace Kavrin {
 ///
 /// Settings with a fraction are written with their **maximum** as text: the printer never takes their value. Texts of the
 /// record need not be terminated.
+///
+/// **Size.** Hosts are built with the size of the object: it stays what it is.
 // clang-format on
 class KVJXML_API KVJSetConfig : public TiXmlDocument {
 public:
@@ -55,7 +57,8 @@ public:
     /// @param cardSelect    0 for the whole document, 1 or 2 for that custom card alone; any other value fails.
     /// @param skipTransfer  printing is direct to card: nothing of film and transfer is written.
     /// @return whether it was printed, even if it was cut; false, without copy or print, when the last section could
-    ///         not be written or there was none, and false when `out` is null.
+    ///         not be written or there was none; false, with nothing written to `out`, when that is null or `outLen`
+    ///         negative.
     bool SetConfiguration(const _KVConfiguration& cfg, wchar_t* out, int outLen, long mask, int cardSelect,
                           bool skipTransfer);
 

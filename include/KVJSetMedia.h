@@ -14,6 +14,8 @@ namespace Kavrin {
 /// roots, so take **a fresh object for each request**, in one thread at a time.
 ///
 /// Films, ribbons and laminates are never written. Texts of the records need not be terminated.
+///
+/// **Size.** Hosts are built with the size of the object: it stays what it is.
 class KVJXML_API KVJSetMedia : public TiXmlDocument {
 public:
     /// Composes "media" / "cards" and prints it.
@@ -24,7 +26,8 @@ public:
     ///             before.
     /// @param allCards      1 writes every card; any other value those of the types 0 and 1 only.
     /// @param omitTransfer  "transfer_temps" and "transfer_speeds" are left out: printing is direct to card.
-    /// @return whether it was printed, even if it was cut; false when `out` is null.
+    /// @return whether it was printed, even if it was cut; false, with nothing written, when `out` is null or `outLen`
+    ///         negative.
     bool SetMedia(_KVMediaInfo& media, wchar_t* out, int outLen, char allCards, bool omitTransfer);
 
     /// Adds a further "cards" to the document that SetMedia composed. False when there is none, or no card is written;

@@ -15,6 +15,8 @@ namespace Kavrin {
 /// time on objects of their own, the last leaves its copy, whole.
 ///
 /// Texts of the record need not be terminated.
+///
+/// **Size.** Hosts are built with the size of the object: it stays what it is.
 class KVJXML_API KVJSetPrinterInfo : public TiXmlDocument {
 public:
     /// Composes "printer_id", leaves a copy of it in the file "/tmp/printidsettings" and prints it. The copy is written
@@ -25,8 +27,8 @@ public:
     ///             holds a byte that the locale does not know, ends without one: have room to spare, and set the buffer
     ///             to zero before.
     /// @param mask  0x1 "printer_model", 0x2 "printhead_serial"; other bits write nothing.
-    /// @return whether it was printed, even if it was cut; false when the last element could not be written, and when
-    ///         `out` is null.
+    /// @return whether it was printed, even if it was cut; false when the last element could not be written, and, with
+    ///         nothing written to `out`, when that is null or `capacity` negative.
     bool SetPrinterInfo(const KVPrinterInfo& info, wchar_t* out, int capacity, long mask);
 
     /// Adds what `mask` selects to `under`. True when there is nothing to add, else the result of the last element.

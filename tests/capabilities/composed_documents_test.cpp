@@ -391,6 +391,14 @@ TEST(CapabilitiesRequest, IsCutAtTheCapacityAndTerminatedWhenThereIsRoom) {
     }
 }
 
+TEST(CapabilitiesRequest, ANegativeCapacityIsFalseAndWritesNothing) {
+    for (const int capacity : {-1, INT_MIN}) {
+        std::wstring out(10, L'#');
+        EXPECT_FALSE(KVJSetCaps().SetCapabilities(Whole().caps, out.data(), capacity, wholeMode, transfer));
+        EXPECT_EQ(out, std::wstring(10, L'#'));
+    }
+}
+
 TEST(CapabilitiesRequest, CanBePrintedAgain) {
     KVJSetCaps composer;
     std::wstring first(1000, L'\0');

@@ -329,6 +329,12 @@ TEST(SecureRequest, IsTrueWhenAnyOfItsElementsIsThere) {
 
 // ---- Keys ----
 
+TEST(Keys, OfAReplyThatBreaksOffAreReadAsFarAsTheyGoAndTrue) {
+    _tagSecKeys keys{};
+    EXPECT_TRUE(read(&KVJSecAction::ParseSecurityKeys, "<keys><host_authentication_key>HALF", keys));
+    EXPECT_STREQ(keys.host_authentication_key, "HALF");
+}
+
 TEST(Keys, AllThreeAreReadAndOthersSkipped) {
     _tagSecKeys keys{"D", "H", "L"};
     EXPECT_TRUE(read(&KVJSecAction::ParseSecurityKeys,

@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <climits>
 #include <filesystem>
 #include <functional>
 #include <iterator>
@@ -189,6 +190,18 @@ TEST(SecurityRequest, AMessageIsCutAtTheCapacityAndTerminatedWhenThereIsRoom) {
         if (capacity > length) expected += L'\0';
         expected.resize(text.size() + 2, L'#');
         EXPECT_EQ(out, expected) << capacity;
+    }
+}
+
+TEST(SecurityRequest, ANegativeCapacityIsFalseAndWritesNothing) {
+    for (const Compose& message : {nonce("1"), passkey("p"), passkeyChange("a", "b"), request(values),
+                                   directive(values, 1), keys({"d", "h", "l"}), keyChange(true, true, true)}) {
+        std::wstring out(10, L'#');
+        KVJSetSecActions composer;
+        EXPECT_FALSE(message(composer, out.data(), -1));
+        EXPECT_FALSE(message(composer, out.data(), INT_MIN));
+        EXPECT_FALSE(composer.saveJob(out.data(), -1));
+        EXPECT_EQ(out, std::wstring(10, L'#'));
     }
 }
 
