@@ -37,11 +37,11 @@ TEST(Encode, WrongUseIsCode2) {
 }
 
 TEST(Encode, WhatIsNoJsonObjectIsRefused) {
-    expectRefused("nonce", "", "byte 1: is no JSON");
-    expectRefused("nonce", "{\"nonce\": }", "byte 11: is no JSON");
+    expectRefused("nonce", "", "\"\" is no JSON at byte 1");
+    expectRefused("nonce", "{\"nonce\": }", "\"/nonce\" is no JSON at byte 11");
     expectRefused("nonce", "[1]", "\"\" has to be an object");
     // 0xE9 begins a character of three bytes; the next, byte 12, is none of them.
-    expectRefused("nonce", "{\"nonce\":\"\xE9\"}", "byte 12: is no JSON");
+    expectRefused("nonce", "{\"nonce\":\"\xE9\"}", "\"/nonce\" is no JSON at byte 12");
 }
 
 TEST(Encode, AMissingFieldIsRefused) {
@@ -65,7 +65,7 @@ TEST(Encode, ANumberThatDoesNotFitIsRefused) {
         expectRefused("motor", std::string("{\"state\":") + state + "}", "\"/state\" is out of range");
     }
     expectRefused("calibrate", R"({"calibration":1,"torque":1e39})", "\"/torque\" is out of range");
-    expectRefused("calibrate", R"({"calibration":1,"torque":1e400})", "\"\" holds a number that is out of range");
+    expectRefused("calibrate", R"({"calibration":1,"torque":1e400})", "\"/torque\" is out of range");
 }
 
 TEST(Encode, AnUnknownFieldIsRefused) {
@@ -79,8 +79,54 @@ TEST(Encode, ATextThatDoesNotFitItsFieldIsRefused) {
     expectRefused("keys", "{\"printer_lock_key\":\"" + fits + "k\"}", "\"/printer_lock_key\" is longer than 259 bytes");
 }
 
-TEST(Encode, ATextWithANulIsRefused) {
-    expectRefused("nonce", R"({"nonce":"a\u0000b"})", "\"/nonce\" holds a NUL character");
+TEST(Encode, ATextWithACharacterThatXmlDoesNotHaveIsRefused) {
+    for (const char* number : {"0000", "0001", "0008", "000B", "000C", "000E", "001B", "001F", "FFFE", "FFFF"}) {
+        const std::string reason = std::string(" holds U+") + number + ", a character that XML does not have";
+        const std::string text = std::string(R"("a\u)") + number + R"(b")";
+        expectRefused("nonce", "{\"nonce\":" + text + "}", "\"/nonce\"" + reason);
+        expectRefused("cam", R"({"cam":"x","state":)" + text + "}", "\"/state\"" + reason);
+        expectRefused("keys", "{\"printer_lock_key\":" + text + "}", "\"/printer_lock_key\"" + reason);
+    }
+    // The same as UTF-8.
+    expectRefused("nonce", "{\"nonce\":\"a\xEF\xBF\xBF\"}",
+                  "\"/nonce\" holds U+FFFF, a character that XML does not have");
+}
+
+TEST(Encode, HalfOfASurrogatePairIsRefused) {
+    expectRefused("nonce", R"({"nonce":"a\ud800b"})", "\"/nonce\" is no JSON at byte 18");
+    expectRefused("nonce", R"({"nonce":"a\udc00b"})", "\"/nonce\" is no JSON at byte 17");
+}
+
+TEST(Encode, EveryOtherCharacterIsWritten) {
+    const std::string edges = "\x7F\xC2\x80\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBD\xF0\x90\x80\x80\xF4\x8F\xBF\xBF";
+    EXPECT_EQ(runTool("encode nonce", "{\"nonce\":\"" + edges + "\"}").out,
+              declaration + "<nonce>" + edges + "</nonce>\n");
+    // As references, which a parser does not take for blanks to be left out.
+    EXPECT_EQ(runTool("encode nonce", R"({"nonce":"a\tb\nc\rd"})").out,
+              declaration + "<nonce>a&#x09;b&#x0A;c&#x0D;d</nonce>\n");
+    EXPECT_THAT(runTool("encode cam", R"({"cam":"x","state":"a\tb\nc\rd"})").out,
+                HasSubstr("state=\"a&#x09;b&#x0A;c&#x0D;d\""));
+}
+
+TEST(Encode, AKeyThatStandsTwiceIsRefused) {
+    expectRefused("nonce", R"({"nonce":"5F","nonce":"5F"})", "\"/nonce\" stands twice");
+    expectRefused("nonce", R"({"nonce":null,"nonce":"5F"})", "\"/nonce\" stands twice");
+    expectRefused("nonce", R"({"nonce":"5F","nonc\u0065":"6A"})", "\"/nonce\" stands twice");
+    expectRefused("motor", R"({"state":1,"direction":0,"speed":4,"motor":1,"state":0})", "\"/state\" stands twice");
+}
+
+TEST(Encode, ADeviceHasToBeTheNameOfAnElement) {
+    const std::string reason =
+        "\"/device\" has to be the name of an element: ASCII letters, digits, '_', '-' and '.', a letter or '_' first";
+    for (const char* device : {R"(rfid state=\"off\"/><motor)", "", "x y", "1x", "-x", ".x", "x>", "x/", "a:b", "&amp;",
+                               "\xC3\x97", "x\xC3\xA9"}) {
+        expectRefused("rfid", std::string(R"({"device":")") + device + R"(","mode":1,"antenna":1})", reason);
+        expectRefused("other", std::string(R"({"device":")") + device + R"(","on":true})", reason);
+    }
+    for (const char* device : {"x", "_x", "X.1-y_2"}) {
+        EXPECT_EQ(runTool("encode other", std::string(R"({"device":")") + device + R"(","text":"t","on":true})").out,
+                  declaration + "<device_control>\n    <" + device + ">t</" + device + ">\n</device_control>\n");
+    }
 }
 
 TEST(Encode, ANullTextIsLeftOut) {

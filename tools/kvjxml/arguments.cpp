@@ -1,20 +1,11 @@
 #include "arguments.h"
 
-#include "failure.h"
+#include "checked_json.h"
 
 namespace kvjxml::tool {
 
-using nlohmann::json;
-
-Arguments::Arguments(const std::string& json_, std::string source)
-    : source_(std::move(source)), room_(4096 + 6 * json_.size()) {
-    try {
-        object_ = json::parse(json_);
-    } catch (const json::parse_error& error) {
-        throw Failure(ExitCode::badJson, source_ + ": byte " + std::to_string(error.byte) + ": is no JSON");
-    } catch (const json::out_of_range&) {  // A number that not even a double can hold.
-        throw Failure(ExitCode::badJson, source_ + ": \"\" holds a number that is out of range");
-    }
+Arguments::Arguments(const std::string& json, std::string source)
+    : source_(std::move(source)), object_(checkedJson(json, source_)), room_(4096 + 6 * json.size()) {
     whole().expectObject();
 }
 
@@ -42,6 +33,11 @@ Text Arguments::text(const char* name) { return has(name) ? requiredText(name) :
 Text Arguments::requiredText(const char* name) {
     asked_.insert(name);
     return Text(whole().at(name).text());
+}
+
+Text Arguments::elementName(const char* name) {
+    asked_.insert(name);
+    return Text(whole().at(name).elementName());
 }
 
 void Arguments::expectNoOthers() const {

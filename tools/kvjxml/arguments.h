@@ -27,7 +27,7 @@ private:
 
 class Arguments {
 public:
-    /// @throws Failure when the text is no JSON object.
+    /// @throws Failure when the text is no JSON object, or not as checkedJson takes it.
     Arguments(const std::string& json, std::string source);
 
     /// The bytes that a document made of these arguments cannot exceed.
@@ -43,6 +43,8 @@ public:
     Text text(const char* name);
     /// A text that has to be there.
     Text requiredText(const char* name);
+    /// A text that has to be there and becomes the name of an element.
+    Text elementName(const char* name);
     /// A text for a field of a record.
     template <std::size_t N>
     void text(const char* name, char (&field)[N]) {

@@ -6,12 +6,15 @@
 
 #include "failure.h"
 #include "foundation/convert.h"
+#include "xml_text.h"
 
 namespace kvjxml::tool {
 
-void Place::refuse(const std::string& reason) const {
-    throw Failure(ExitCode::badJson, *source_ + ": \"" + pointer_.to_string() + "\" " + reason);
+void refuse(const std::string& source, const nlohmann::json::json_pointer& place, const std::string& reason) {
+    throw Failure(ExitCode::badJson, source + ": \"" + place.to_string() + "\" " + reason);
 }
+
+void Place::refuse(const std::string& reason) const { tool::refuse(*source_, pointer_, reason); }
 
 void Place::refuse(std::string_view field, const std::string& reason) const {
     Place(*value_, *source_, pointer_ / std::string(field)).refuse(reason);
@@ -42,9 +45,15 @@ std::size_t Place::expectList() const {
 
 std::string Place::text() const {
     if (!value_->is_string()) refuse("has to be a text");
-    auto content = value_->get<std::string>();
-    if (content.find('\0') != std::string::npos) refuse("holds a NUL character");
-    return content;
+    return value_->get<std::string>();
+}
+
+std::string Place::elementName() const {
+    auto name = text();
+    if (!isElementName(name)) {
+        refuse("has to be the name of an element: ASCII letters, digits, '_', '-' and '.', a letter or '_' first");
+    }
+    return name;
 }
 
 void Place::read(bool& flag) const {

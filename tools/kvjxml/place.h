@@ -15,6 +15,10 @@
 
 namespace kvjxml::tool {
 
+/// @throws Failure for a place in the JSON that came from `source`.
+[[noreturn]] void refuse(const std::string& source, const nlohmann::json::json_pointer& place,
+                         const std::string& reason);
+
 class Place {
 public:
     /// `value` and `source`, which says where it came from, outlive the place.
@@ -35,8 +39,9 @@ public:
     void expectObject() const;
     /// @return how many entries there are.
     [[nodiscard]] std::size_t expectList() const;
-    /// A text without a NUL character.
     [[nodiscard]] std::string text() const;
+    /// A text that can be the name of an element.
+    [[nodiscard]] std::string elementName() const;
     void read(bool& flag) const;
     void read(float& number) const;
     template <std::integral Integer>

@@ -67,7 +67,7 @@ std::string calibrate(Arguments& json, const Options& /*options*/) {
 }
 
 std::string other(Arguments& json, const Options& /*options*/) {
-    Text device = json.requiredText("device");
+    Text device = json.elementName("device");
     Text text = json.text("text");
     Text panel = json.text("panel");
     const bool on = json.flag("on");
@@ -78,7 +78,7 @@ std::string other(Arguments& json, const Options& /*options*/) {
 }
 
 std::string rfid(Arguments& json, const Options& /*options*/) {
-    Text device = json.requiredText("device");
+    Text device = json.elementName("device");
     const int mode = json.number("mode");
     const int antenna = json.number("antenna");
     return narrow(json, [&](char* out, int capacity) {

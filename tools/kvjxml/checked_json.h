@@ -1,0 +1,18 @@
+/// @file checked_json.h
+/// JSON out of a text, with the checks that hold for every request, whatever its fields.
+#ifndef KVJXML_TOOL_CHECKED_JSON_H
+#define KVJXML_TOOL_CHECKED_JSON_H
+
+#include <nlohmann/json.hpp>
+#include <string>
+
+namespace kvjxml::tool {
+
+/// @param source  says where the text came from.
+/// @throws Failure, with a JSON pointer to the place, for what is no JSON, a key that stands twice in its object, and a
+///         text with a character that XML does not have.
+nlohmann::json checkedJson(const std::string& text, const std::string& source);
+
+}  // namespace kvjxml::tool
+
+#endif
