@@ -41,12 +41,6 @@ TEST(Decode, AFolderIsCode1) {
     EXPECT_EQ(outcome.error, "kvjxml: /: cannot be read: Is a directory\n");
 }
 
-TEST(Decode, OutputThatCannotBeWrittenIsCode1) {
-    const int status =
-        std::system((std::string(KVJXML_TOOL) + " decode " + sample + " >/dev/full 2>/dev/null").c_str());
-    EXPECT_EQ(WEXITSTATUS(status), 1);
-}
-
 TEST(Decode, WrongUseIsCode2) {
     EXPECT_EQ(runTool("").code, 2);
     EXPECT_EQ(runTool("decipher").code, 2);
@@ -78,6 +72,24 @@ TEST(Decode, WhatIsNoXmlIsCode3AndSaysWhy) {
     EXPECT_EQ(outcome.out, "");
     EXPECT_THAT(outcome.error, HasSubstr("standard input"));
     EXPECT_EQ(runTool("decode", "<!-- nothing -->").error, "kvjxml: standard input: there is no XML element in it\n");
+}
+
+TEST(Decode, AReplyThatIsRefusedIsCode3AndSaysWhy) {
+    std::string deep;
+    for (int level = 0; level < 65; ++level) deep += "<get_job_status>";
+    std::string wide = "<get_job_status";
+    for (int number = 0; number < 257; ++number) wide += " a" + std::to_string(number) + "='1'";
+    wide += "/>";
+    for (const char* verb : {"decode", "decode --message get_job_status"}) {
+        const Outcome tooDeep = runTool(verb, deep);
+        EXPECT_EQ(tooDeep.code, 3);
+        EXPECT_EQ(tooDeep.out, "");
+        EXPECT_EQ(tooDeep.error, "kvjxml: standard input: is refused: its elements nest deeper than 64 levels\n");
+        const Outcome tooWide = runTool(verb, wide);
+        EXPECT_EQ(tooWide.code, 3);
+        EXPECT_EQ(tooWide.out, "");
+        EXPECT_EQ(tooWide.error, "kvjxml: standard input: is refused: an element has more than 256 attributes\n");
+    }
 }
 
 TEST(Decode, BytesThatAreNotUtf8AreCode3AndSayWhere) {
@@ -197,78 +209,6 @@ TEST(Decode, NoReaderHavingReadAnythingIsCode4AndEveryRecordIsPrinted) {
     EXPECT_THAT(outcome.error, HasSubstr("ParseCleanLogCount reported failure"));
 }
 
-// ---- Lists ----
-
-/// A root with `count` entries of this name, each with one element that holds its number from 1 on.
-std::string listReply(const std::string& root, const std::string& entry, const std::string& element, int count) {
-    std::string text = "<" + root + ">";
-    for (int number = 1; number <= count; ++number) {
-        text += "<" + entry + "><" + element + ">" + std::to_string(number) + "</" + element + "></" + entry + ">";
-    }
-    return text + "</" + root + ">";
-}
-
-/// `list` has as many entries as there are numbers from 1 to `count`, in this order.
-void expectNumbered(const json& list, const std::string& field, int count) {
-    ASSERT_EQ(list.size(), static_cast<std::size_t>(count));
-    for (int number = 1; number <= count; ++number) {
-        EXPECT_EQ(list[static_cast<std::size_t>(number - 1)].at(field), number);
-    }
-}
-
-TEST(Decode, OfALongJobListTheFirst64JobsArePrinted) {
-    const Outcome outcome = runTool("decode", listReply("get_job_list", "job", "action_id", 70));
-    EXPECT_EQ(outcome.code, 0);
-    EXPECT_EQ(recordOf(outcome).at("count"), 64);
-    expectNumbered(recordOf(outcome).at("jobs"), "actionId", 64);
-}
-
-TEST(Decode, AJobListWithoutJobsIsEmptyAndCode4) {
-    const Outcome outcome = runTool("decode", "<get_job_list/>");
-    EXPECT_EQ(outcome.code, 4);
-    EXPECT_EQ(recordOf(outcome), (json{{"count", 0}, {"jobs", json::array()}}));
-}
-
-TEST(Decode, EveryAccessPointIsPrinted) {
-    const Outcome outcome = runTool("decode", listReply("AccessPoints", "AccessPoint", "Channel", 70));
-    EXPECT_EQ(outcome.code, 0);
-    EXPECT_EQ(recordOf(outcome).at("count"), 70);
-    expectNumbered(recordOf(outcome).at("accessPoints"), "Channel", 70);
-}
-
-TEST(Decode, EveryEntryOfTheServiceHistoryIsPrinted) {
-    const Outcome outcome = runTool("decode", listReply("get_log_service_history", "service", "number", 70));
-    EXPECT_EQ(outcome.code, 0);
-    EXPECT_EQ(recordOf(outcome).at("count"), 70);
-    expectNumbered(recordOf(outcome).at("entries"), "number", 70);
-}
-
-TEST(Decode, OfTheCleaningHistoryOnlyEntriesThatWereFilledArePrinted) {
-    for (const int count : {1, 5, 32}) {
-        const Outcome outcome = runTool("decode", listReply("get_log_cleaning_history", "cleaning", "number", count));
-        EXPECT_EQ(outcome.code, 0);
-        expectNumbered(recordOf(outcome), "number", count);
-    }
-    const Outcome full = runTool("decode", listReply("get_log_cleaning_history", "cleaning", "number", 40));
-    EXPECT_EQ(full.code, 0);
-    expectNumbered(recordOf(full), "number", 32);
-}
-
-TEST(Decode, AnEmptyEntryOfTheCleaningHistoryBetweenOthersIsPrinted) {
-    const Outcome outcome = runTool("decode",
-                                    "<get_log_cleaning_history><cleaning/><cleaning><type>2</type></cleaning>"
-                                    "</get_log_cleaning_history>");
-    EXPECT_EQ(outcome.code, 0);
-    EXPECT_EQ(recordOf(outcome),
-              (json{{{"number", 0}, {"cards", 0}, {"type", 0}}, {{"number", 0}, {"cards", 0}, {"type", 2}}}));
-}
-
-TEST(Decode, ACleaningHistoryWithoutEntriesIsAnEmptyListAndCode4) {
-    const Outcome outcome = runTool("decode", "<get_log_cleaning_history/>");
-    EXPECT_EQ(outcome.code, 4);
-    EXPECT_EQ(recordOf(outcome), json::array());
-}
-
 // ---- Values ----
 
 TEST(Decode, ANumberWithADecimalPointHasTheDigitsOfTheReply) {
@@ -281,29 +221,5 @@ TEST(Decode, AHardwareAddressIsText) {
     EXPECT_EQ(outcome.code, 0);
     EXPECT_EQ(recordOf(outcome).at("accessPoints").at(0).at("BSSID"), "00:1a:2b:3c:4d:5e");
 }
-
-// ---- The command line ----
-
-TEST(Decode, AListHasNoEntriesForElementsOfOtherNames) {
-    const Outcome points =
-        runTool("decode", "<AccessPoints><AccessPoint><Channel>6</Channel></AccessPoint><scan/></AccessPoints>");
-    EXPECT_EQ(recordOf(points).at("count"), 2);
-    EXPECT_EQ(recordOf(points).at("accessPoints").size(), 1U);
-    const Outcome log = runTool(
-        "decode", "<get_log_service_history><service><year>2024</year></service><next/></get_log_service_history>");
-    EXPECT_EQ(recordOf(log).at("count"), 2);
-    EXPECT_EQ(recordOf(log).at("entries").size(), 1U);
-}
-
-TEST(Decode, HelpShowsTheExitCodes) {
-    for (const char* words : {"--help", "decode --help"}) {
-        const Outcome outcome = runTool(words);
-        EXPECT_EQ(outcome.code, 0);
-        EXPECT_THAT(outcome.out, HasSubstr("0  done\n"));
-        EXPECT_THAT(outcome.out, HasSubstr("4  the reader reported failure; what was read is printed all the same\n"));
-    }
-}
-
-TEST(Decode, TheVersionIsTheProjects) { EXPECT_EQ(runTool("--version").out, std::string(KVJXML_VERSION) + "\n"); }
 
 }  // namespace

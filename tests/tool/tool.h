@@ -18,14 +18,19 @@ struct Outcome {
     std::string error;
 };
 
-/// Runs the tool with these words of a command line, and with `input` on its standard input.
-inline Outcome runTool(const std::string& words, const std::string& input = {}) {
+/// Runs a command of the shell, with `input` on its standard input.
+inline Outcome runShell(const std::string& command, const std::string& input = {}) {
     const TemporaryFolder folder;
     write(folder / "in", input);
-    const std::string command = std::string(KVJXML_TOOL) + " " + words + " <" + (folder / "in").string() + " >" +
-                                (folder / "out").string() + " 2>" + (folder / "error").string();
-    const int status = std::system(command.c_str());
+    const std::string whole = "{ " + command + "\n} <" + (folder / "in").string() + " >" + (folder / "out").string() +
+                              " 2>" + (folder / "error").string();
+    const int status = std::system(whole.c_str());
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, contentOf(folder / "out"), contentOf(folder / "error")};
+}
+
+/// Runs the tool with these words of a command line, and with `input` on its standard input.
+inline Outcome runTool(const std::string& words, const std::string& input = {}) {
+    return runShell(std::string(KVJXML_TOOL) + " " + words, input);
 }
 
 }  // namespace kvjxml::tests

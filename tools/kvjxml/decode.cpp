@@ -1,11 +1,13 @@
 #include "decode.h"
 
 #include <algorithm>
+#include <cstring>
 #include <iostream>
 #include <vector>
 
 #include "failure.h"
 #include "foundation/reply.h"
+#include "foundation/shape.h"
 #include "messages.h"
 
 namespace kvjxml::tool {
@@ -43,38 +45,63 @@ std::vector<Message> messagesIn(const TiXmlDocument& document, const std::string
     throw Failure(ExitCode::unknownMessage, name + ": " + reason);
 }
 
-}  // namespace
+/// Why the library does not look into a reply at all; empty when it does.
+std::string refusalOf(const std::string& bytes) {
+    const std::string padded = bytes + std::string(4, '\0');
+    const Shape shape = shapeOf(padded.c_str(), std::strlen(padded.c_str()));
+    if (shape.depth > largestShape.depth) {
+        return "is refused: its elements nest deeper than " + std::to_string(largestShape.depth) + " levels";
+    }
+    if (shape.attributes > largestShape.attributes) {
+        return "is refused: an element has more than " + std::to_string(largestShape.attributes) + " attributes";
+    }
+    return {};
+}
 
-ExitCode decode(const std::string& path, const std::string& message) {
-    const Input input = readInput(path);
+/// The readers of a reply: those of the `message`, or those that go by its root when that is empty. Says what is wrong
+/// with the reply.
+std::vector<Message> readersOf(const Input& input, const std::string& message) {
+    if (const auto refusal = refusalOf(input.bytes); !refusal.empty()) {
+        throw Failure(ExitCode::unknownMessage, input.name + ": " + refusal);
+    }
     constexpr int tabSize = 1;  // Errors are shown by line and column.
     const Reply reply(input.bytes.c_str(), tabSize);
-    const auto readers = message.empty() ? messagesIn(reply.document(), input.name) : messagesOf(message);
+    auto readers = message.empty() ? messagesIn(reply.document(), input.name) : messagesOf(message);
     if (const auto error = errorIn(reply.document()); !error.empty()) {
         std::cerr << "kvjxml: " << input.name << ": read as far as it goes: " << error << '\n';
     }
+    return readers;
+}
 
-    // Several readers may take their part of one reply, and a reply need not have a part for each.
-    bool anyRead = false;
-    Json record;
-    for (const Message& reader : readers) {
-        auto decoded = reader.decode(input);
-        if (decoded.result) {
-            anyRead = true;
-        } else {
-            std::cerr << "kvjxml: " << input.name << ": " << reader.reader << " reported failure: \"" << reader.root
-                      << "\" is missing or empty, or the last element known in it has no text or one too long\n";
-        }
-        if (readers.size() == 1) {
-            record = std::move(decoded.record);
-        } else {
-            record[reader.reader] = std::move(decoded.record);
-        }
+/// Has a reader print its record, and says when it failed.
+bool decode(const Message& reader, const Input& input, JsonPrinter& json) {
+    const bool result = reader.decode(input, json);
+    if (!result) {
+        std::cerr << "kvjxml: " << input.name << ": " << reader.reader << " reported failure: \"" << reader.root
+                  << "\" is missing or empty, or the last element known in it has no text or one too long\n";
     }
+    return result;
+}
 
-    constexpr int indent = 4;
-    std::cout << record.dump(indent, ' ', false, Json::error_handler_t::replace) << std::endl;
-    if (!std::cout) throw Failure(ExitCode::inputOutput, "standard output: cannot be written");
+}  // namespace
+
+ExitCode decode(const Source& source, const std::string& message) {
+    const Input input = readInput(source);
+    const auto readers = readersOf(input, message);
+    JsonPrinter json(std::cout);
+    bool anyRead = false;
+    if (readers.size() == 1) {
+        anyRead = decode(readers.front(), input, json);
+    } else {
+        // Several readers may take their part of one reply, and a reply need not have a part for each.
+        json.object([&] {
+            for (const Message& reader : readers) {
+                json.field(reader.reader);
+                if (decode(reader, input, json)) anyRead = true;
+            }
+        });
+    }
+    std::cout << '\n';
     return anyRead ? ExitCode::done : ExitCode::readerFailed;
 }
 

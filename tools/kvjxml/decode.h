@@ -6,13 +6,14 @@
 #include <string>
 
 #include "exit_code.h"
+#include "input.h"
 
 namespace kvjxml::tool {
 
-/// Prints the record of the reply in the file `path` ("-" for standard input) as JSON.
+/// Prints the record of the reply from `source` as JSON.
 /// @param message  the root element of the message to look for; empty to go by the document.
 /// @throws Failure
-ExitCode decode(const std::string& path, const std::string& message);
+ExitCode decode(const Source& source, const std::string& message);
 
 }  // namespace kvjxml::tool
 

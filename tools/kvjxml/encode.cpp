@@ -2,17 +2,14 @@
 
 #include <iostream>
 
-#include "failure.h"
-#include "input.h"
 #include "sections.h"
 
 namespace kvjxml::tool {
 
-ExitCode encode(const Request& request, const Options& options, const std::string& path) {
+ExitCode encode(const Request& request, const Options& options, const Source& source) {
     if (options.listSections) return listSections(request.table);
-    Arguments arguments(readBytes(path), sourceName(path));
-    std::cout << request.compose(arguments, options) << std::flush;
-    if (!std::cout) throw Failure(ExitCode::inputOutput, "standard output: cannot be written");
+    Arguments arguments(readBytes(source), source.name());
+    std::cout << request.compose(arguments, options);
     return ExitCode::done;
 }
 

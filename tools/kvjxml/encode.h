@@ -3,16 +3,15 @@
 #ifndef KVJXML_TOOL_ENCODE_H
 #define KVJXML_TOOL_ENCODE_H
 
-#include <string>
-
 #include "exit_code.h"
+#include "input.h"
 #include "requests.h"
 
 namespace kvjxml::tool {
 
-/// Prints the request that the JSON in the file `path` ("-" for standard input) makes.
+/// Prints the request that the JSON from `source` makes.
 /// @throws Failure
-ExitCode encode(const Request& request, const Options& options, const std::string& path);
+ExitCode encode(const Request& request, const Options& options, const Source& source);
 
 }  // namespace kvjxml::tool
 

@@ -1,5 +1,6 @@
 /// @file fields.h
-/// The fields of each record, in the record's order, and how a record becomes JSON. The names are the members' own.
+/// The fields of each record, in the record's order, and how a record is printed as JSON. The names are the members'
+/// own.
 #ifndef KVJXML_TOOL_FIELDS_H
 #define KVJXML_TOOL_FIELDS_H
 
@@ -12,18 +13,17 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <nlohmann/json.hpp>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <vector>
 
 #include "foundation/convert.h"
 #include "foundation/member.h"
+#include "json_printer.h"
 #include "shared/card.h"
 
 namespace kvjxml::tool {
-
-using Json = nlohmann::ordered_json;
 
 template <auto... Fields>
 struct FieldList {};
@@ -98,76 +98,81 @@ consteval bool complete(FieldList<Fields...> /*list*/) {
 // ---- JSON ----
 
 template <class Record>
-Json toJson(const Record& record);
+void print(JsonPrinter& json, const Record& record);
 
 /// A float in as few digits as tell it from its neighbours, 24.35 and not 24.350000381469727.
-Json toJson(float value);
+void print(JsonPrinter& json, float value);
 
 /// A hardware address, "00:1a:2b:3c:4d:5e".
-Json toJson(const unsigned char (&address)[6]);
+void print(JsonPrinter& json, const unsigned char (&address)[6]);
 
 /// The entries of a list that points to them.
 template <class Entry>
-Json toJson(const std::vector<Entry*>& entries);
+void print(JsonPrinter& json, const std::vector<Entry*>& entries);
 
 template <class Value>
-Json valueToJson(const Value& value) {
+void printValue(JsonPrinter& json, const Value& value) {
     if constexpr (std::is_integral_v<Value>) {
-        return value;
+        json.value(value);
     } else if constexpr (std::is_enum_v<Value>) {
-        return static_cast<int>(value);
+        json.value(static_cast<int>(value));
     } else if constexpr (std::is_same_v<std::remove_extent_t<Value>, char>) {
-        return std::string(value, strnlen(value, sizeof value));
+        json.value(std::string_view(value, strnlen(value, sizeof value)));
     } else if constexpr (std::is_pointer_v<Value>) {
-        return toJson(*value);
+        print(json, *value);
     } else {
-        return toJson(value);
+        print(json, value);
     }
+}
+
+template <class Value>
+void printEntry(JsonPrinter& json, const Value& value) {
+    json.entry();
+    printValue(json, value);
+}
+
+template <class Value>
+void printField(JsonPrinter& json, std::string_view name, const Value& value) {
+    json.field(name);
+    printValue(json, value);
 }
 
 /// The first `count` entries of an array.
 template <class Entry>
-Json toJson(const Entry* entries, std::size_t count) {
-    Json json = Json::array();
-    std::for_each_n(entries, count, [&](const Entry& entry) { json.push_back(valueToJson(entry)); });
-    return json;
+void print(JsonPrinter& json, const Entry* entries, std::size_t count) {
+    json.list([&] { std::for_each_n(entries, count, [&](const Entry& entry) { printEntry(json, entry); }); });
 }
 
 template <class Entry>
-Json toJson(const std::vector<Entry*>& entries) {
-    Json json = Json::array();
-    for (const Entry* entry : entries) json.push_back(toJson(*entry));
-    return json;
+void print(JsonPrinter& json, const std::vector<Entry*>& entries) {
+    json.list([&] {
+        for (const Entry* entry : entries) printEntry(json, *entry);
+    });
 }
 
 template <class Record, class Value>
-Json fieldToJson(const Record& record, Value Record::*member) {
-    return valueToJson(record.*member);
-}
-template <class Record, auto Count, auto Array>
-Json fieldToJson(const Record& record, ListField<Count, Array> /*field*/) {
-    return toJson(record.*Array, static_cast<std::size_t>(record.*Count));
+void printFieldOf(JsonPrinter& json, const Record& record, Value Record::*member) {
+    printValue(json, record.*member);
 }
 template <class Record, class Bit, bool First>
-Json fieldToJson(const Record& record, BitField<Bit, First> /*field*/) {
-    return Bit::get(record);
+void printFieldOf(JsonPrinter& json, const Record& record, BitField<Bit, First> /*field*/) {
+    json.value(Bit::get(record));
 }
 template <class Record, auto Member>
-Json fieldToJson(const Record& record, AddressField<Member> /*field*/) {
-    return convert::fromIpAddress(record.*Member).c_str();
+void printFieldOf(JsonPrinter& json, const Record& record, AddressField<Member> /*field*/) {
+    json.value(convert::fromIpAddress(record.*Member).c_str());
 }
 
-template <class Record, auto... Fields>
-Json toJson(const Record& record, FieldList<Fields...> /*list*/) {
+/// A record, whose values `printIt(field)` prints.
+template <class Record, auto... Fields, class Print>
+void printFields(JsonPrinter& json, FieldList<Fields...> /*list*/, Print printIt) {
     static_assert(complete<Record>(FieldList<Fields...>{}), "a field of the record is missing in its list");
-    Json json = Json::object();
-    (json.emplace(FieldTraits<Fields>::name, fieldToJson(record, Fields)), ...);
-    return json;
+    json.object([&] { ((json.field(FieldTraits<Fields>::name), printIt(Fields)), ...); });
 }
 
 template <class Record>
-Json toJson(const Record& record) {
-    return toJson(record, fields<Record>);
+void print(JsonPrinter& json, const Record& record) {
+    printFields<Record>(json, fields<Record>, [&](auto field) { printFieldOf(json, record, field); });
 }
 
 // clang-format off

@@ -22,12 +22,18 @@ using File = std::unique_ptr<std::FILE, CloseFile>;
     throw Failure(ExitCode::inputOutput, name + ": cannot be read: " + std::generic_category().message(errno));
 }
 
-std::string contentOf(std::FILE* file, const std::string& name) {
-    if (file == nullptr) cannotRead(name);
+std::string contentOf(std::FILE* file, const Source& source) {
+    if (file == nullptr) cannotRead(source.name());
     std::string bytes;
     std::array<char, 4096> block{};
-    while (const std::size_t count = std::fread(block.data(), 1, block.size(), file)) bytes.append(block.data(), count);
-    if (std::ferror(file) != 0) cannotRead(name);
+    while (const std::size_t count = std::fread(block.data(), 1, block.size(), file)) {
+        bytes.append(block.data(), count);
+        if (bytes.size() > source.maxSize) {
+            throw Failure(ExitCode::inputOutput, source.name() + ": is larger than " + std::to_string(source.maxSize) +
+                                                     " bytes; --max-size takes more");
+        }
+    }
+    if (std::ferror(file) != 0) cannotRead(source.name());
     return bytes;
 }
 
@@ -49,15 +55,13 @@ std::wstring wideOf(const std::string& bytes, const std::string& name) {
 
 }  // namespace
 
-std::string sourceName(const std::string& path) { return path == "-" ? "standard input" : path; }
-
-std::string readBytes(const std::string& path) {
-    if (path == "-") return contentOf(stdin, sourceName(path));
-    return contentOf(File(std::fopen(path.c_str(), "rb")).get(), path);
+std::string readBytes(const Source& source) {
+    if (source.path == "-") return contentOf(stdin, source);
+    return contentOf(File(std::fopen(source.path.c_str(), "rb")).get(), source);
 }
 
-Input readInput(const std::string& path) {
-    Input input{sourceName(path), readBytes(path), {}};
+Input readInput(const Source& source) {
+    Input input{source.name(), readBytes(source), {}};
     input.text = wideOf(input.bytes, input.name);
     return input;
 }

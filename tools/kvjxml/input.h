@@ -3,6 +3,7 @@
 #ifndef KVJXML_TOOL_INPUT_H
 #define KVJXML_TOOL_INPUT_H
 
+#include <cstdint>
 #include <string>
 
 namespace kvjxml::tool {
@@ -15,16 +16,21 @@ struct Input {
     std::wstring text;
 };
 
-/// The bytes of a file, or of standard input for "-".
-/// @throws Failure when it cannot be read.
-std::string readBytes(const std::string& path);
+/// Where input comes from, and how much of it is taken: a pipe need not end.
+struct Source {
+    std::string path = "-";                           ///< of a file; "-" for standard input
+    std::uint64_t maxSize = std::uint64_t{64} << 20;  ///< in bytes
+    /// What messages call it.
+    [[nodiscard]] std::string name() const { return path == "-" ? "standard input" : path; }
+};
 
-/// What messages call a file, or standard input for "-".
-std::string sourceName(const std::string& path);
+/// All bytes of a source.
+/// @throws Failure when it cannot be read, or as soon as it turns out to be larger than it may be.
+std::string readBytes(const Source& source);
 
-/// Reads a reply from a file, or from standard input for "-".
-/// @throws Failure when it cannot be read, or is not text in UTF-8.
-Input readInput(const std::string& path);
+/// Reads a reply.
+/// @throws Failure as readBytes does, and when it is not text in UTF-8.
+Input readInput(const Source& source);
 
 }  // namespace kvjxml::tool
 

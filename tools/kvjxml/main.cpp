@@ -1,10 +1,15 @@
 // kvjxml: what a captured reply of the printer says.
 #include <CLI/CLI.hpp>
+#include <charconv>
 #include <clocale>
+#include <cstdint>
 #include <cstdlib>
 #include <iostream>
+#include <limits>
+#include <map>
 #include <set>
 #include <string>
+#include <string_view>
 
 #include "decode.h"
 #include "encode.h"
@@ -24,6 +29,22 @@ std::string asHexadecimal(std::string& text) {
     return {};
 }
 
+/// A size, as its number of bytes. Units are those of 1024; of "KB" nobody knows which is meant.
+std::string asBytes(std::string& text) {
+    static const std::map<std::string_view, int> shifts{{"", 0},     {"K", 10}, {"KiB", 10}, {"M", 20},
+                                                        {"MiB", 20}, {"G", 30}, {"GiB", 30}};
+    std::uint64_t number = 0;
+    const char* const end = text.data() + text.size();
+    const auto [unit, error] = std::from_chars(text.data(), end, number);
+    const auto shift = shifts.find(std::string_view(unit, end));
+    if (error != std::errc() || shift == shifts.end() ||
+        number > std::numeric_limits<std::uint64_t>::max() >> shift->second) {
+        return "\"" + text + "\" is no size such as 1048576, 64M or 1GiB";
+    }
+    text = std::to_string(number << shift->second);
+    return {};
+}
+
 /// A request of sections does not guess which are meant.
 void addSectionOptions(CLI::App& verb, const kvjxml::tool::Request& request, kvjxml::tool::Options& options) {
     CLI::Option_group* choice = verb.add_option_group("Sections", "What is written: one of these");
@@ -39,13 +60,24 @@ void addSectionOptions(CLI::App& verb, const kvjxml::tool::Request& request, kvj
     choice->require_option(1);
 }
 
+/// What each verb that reads anything takes.
+void addSource(CLI::App& verb, const std::string& content, kvjxml::tool::Source& source) {
+    verb.add_option("FILE", source.path, content + "; - for standard input")->capture_default_str();
+    verb.add_option(
+            "--max-size", source.maxSize,
+            "Refuse input that is larger: bytes, or with K, M, G or KiB, MiB, GiB behind the number; 64M unless "
+            "told")
+        ->option_text("SIZE")
+        ->transform(CLI::Validator(asBytes, ""));
+}
+
 int run(int argc, char** argv) {
     CLI::App app("Shows what the messages of a card printer say.", "kvjxml");
     app.footer(kvjxml::tool::exitCodeTable());
     app.set_version_flag("--version", KVJXML_VERSION);
     app.require_subcommand(1);
 
-    std::string file = "-";
+    kvjxml::tool::Source source;
     std::string message;
     std::set<std::string> roots;
     for (const auto& known : kvjxml::tool::messages()) {
@@ -55,7 +87,7 @@ int run(int argc, char** argv) {
 
     CLI::App* decode = app.add_subcommand("decode", "Print the record that a captured reply fills, as JSON");
     decode->footer(kvjxml::tool::exitCodeTable());
-    decode->add_option("FILE", file, "The reply, in UTF-8; - for standard input")->capture_default_str();
+    addSource(*decode, "The reply, in UTF-8", source);
     decode->add_option("--message", message, "Read it as this message, whatever its root element")
         ->option_text("NAME")
         ->check(CLI::IsMember(roots));
@@ -69,7 +101,7 @@ int run(int argc, char** argv) {
     for (const auto& request : requests) {
         CLI::App* verb =
             encode->add_subcommand(std::string(request.name), "From an object with " + std::string(request.fields));
-        verb->add_option("FILE", file, "The JSON; - for standard input")->capture_default_str();
+        addSource(*verb, "The JSON", source);
         if (request.addOptions != nullptr) request.addOptions(*verb, options);
         if (request.hasSections()) addSectionOptions(*verb, request, options);
     }
@@ -84,9 +116,10 @@ int run(int argc, char** argv) {
     }
     for (const auto& request : requests) {
         if (encode->got_subcommand(std::string(request.name)))
-            return static_cast<int>(kvjxml::tool::encode(request, options, file));
+            return static_cast<int>(kvjxml::tool::encode(request, options, source));
     }
-    return static_cast<int>(messages->parsed() ? kvjxml::tool::printReference() : kvjxml::tool::decode(file, message));
+    return static_cast<int>(messages->parsed() ? kvjxml::tool::printReference()
+                                               : kvjxml::tool::decode(source, message));
 }
 
 }  // namespace
@@ -95,7 +128,11 @@ int main(int argc, char** argv) {
     // Replies are UTF-8, whatever the terminal is set to. Numbers stay those of the "C" locale.
     static_cast<void>(std::setlocale(LC_CTYPE, "C.UTF-8"));
     try {
-        return run(argc, argv);
+        const int code = run(argc, argv);
+        if (!std::cout.flush()) {
+            throw kvjxml::tool::Failure(ExitCode::inputOutput, "standard output: cannot be written");
+        }
+        return code;
     } catch (const kvjxml::tool::Failure& failure) {
         std::cerr << "kvjxml: " << failure.what() << '\n';
         return static_cast<int>(failure.code());

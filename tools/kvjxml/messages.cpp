@@ -11,13 +11,18 @@
 #include <KVJSensorParser.h>
 #include <KVJStatusParser.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <cstring>
+#include <functional>
 #include <iterator>
-#include <tuple>
+#include <sstream>
+#include <string>
 #include <vector>
 
 #include "capabilities/tables.h"
 #include "configuration/document.h"
+#include "fields.h"
 #include "foundation/member.h"
 #include "foundation/reply.h"
 #include "identity/logs.h"
@@ -63,10 +68,11 @@ struct ReaderOf<bool (Parser::*)(Reply, Length, Record_&)> {
 
 /// A reader of a record that stands for itself.
 template <auto Reader>
-Decoded decode(const Input& input) {
+bool decode(const Input& input, JsonPrinter& json) {
     typename ReaderOf<decltype(Reader)>::Record record{};
     const bool result = read(Reader, input, record);
-    return {result, valueToJson(record)};
+    printValue(json, record);
+    return result;
 }
 
 using Kavrin::KVJCapsParser;
@@ -80,150 +86,249 @@ using Kavrin::KVJSecAction;
 using Kavrin::KVJSensorParser;
 using Kavrin::KVJStatusParser;
 
-Decoded decodeJobList(const Input& input) {
+/// A list as its record has it, the count and the entries.
+template <class Entry>
+void printList(JsonPrinter& json, std::int64_t count, std::string_view entriesName, const Entry* entries,
+               std::size_t filled) {
+    json.object([&] {
+        printField(json, "count", count);
+        json.field(entriesName);
+        print(json, entries, filled);
+    });
+}
+
+bool decodeJobList(const Input& input, JsonPrinter& json) {
     Kavrin::KVJobList list{};
     list.count = Kavrin::KVJOBLIST_CAPACITY + 1;  // As many as there is room for; it stays so when there is no list.
     const bool result = read(&KVJStatusParser::ParseJobList, input, list);
     if (list.count > Kavrin::KVJOBLIST_CAPACITY) list.count = 0;
-    return {result, {{"count", list.count}, {"jobs", toJson(list.jobs, static_cast<std::size_t>(list.count))}}};
+    printList(json, list.count, "jobs", list.jobs, static_cast<std::size_t>(list.count));
+    return result;
 }
 
-/// The entries of an array up to the last that says anything: what is behind it was not in the reply.
 template <class Entry>
-Json filledToJson(const Entry* entries, std::size_t count) {
-    const Json empty = toJson(Entry{});
-    while (count > 0 && toJson(entries[count - 1]) == empty) --count;
-    return toJson(entries, count);
+std::string printed(const Entry& entry) {
+    std::ostringstream text;
+    JsonPrinter json(text);
+    print(json, entry);
+    return text.str();
 }
 
-/// Reads a list in the two calls that its reader wants: one for the size, one to fill an array of that size.
-template <class Parser, class Length, class List, class Entry, class Count>
-Decoded decodeList(bool (Parser::*reader)(const wchar_t&, Length, List&), Entry* List::*entries, Count List::*count,
-                   std::string_view entriesName, const Input& input) {
+/// How many entries of an array there are up to the last that says anything: what is behind it was not in the reply.
+template <class Entry>
+std::size_t filled(const Entry* entries, std::size_t count) {
+    const std::string empty = printed(Entry{});
+    while (count > 0 && printed(entries[count - 1]) == empty) --count;
+    return count;
+}
+
+/// How many children of that name the root of a reply has.
+std::size_t countNamed(const Input& input, const char* root, const char* name) {
+    Reply reply(input.bytes.c_str());
+    const auto* const list = reply.root(root);
+    std::size_t count = 0;
+    for (const auto* entry = list == nullptr ? nullptr : list->FirstChildElement(name); entry != nullptr;
+         entry = entry->NextSiblingElement(name)) {
+        ++count;
+    }
+    return count;
+}
+
+/// Reads a list in the two calls that its reader wants: one for the size, one to fill an array. The size counts the
+/// children of every name, and only those of the entries' own are written, so the array has room for these alone.
+template <const auto& Table, class Parser, class Length, class List, class Entry, class Count>
+bool decodeList(bool (Parser::*reader)(const wchar_t&, Length, List&), Entry* List::*entries, Count List::*count,
+                std::string_view entriesName, const char* root, const Input& input, JsonPrinter& json) {
     List list{};
     bool result = read(reader, input, list);
-    std::vector<Entry> array(static_cast<std::size_t>(list.*count));
-    if (!array.empty()) {
-        list.*entries = array.data();
+    std::vector<Entry> array(countNamed(input, root, Table.front().name.data()));
+    if (list.*count > 0) {
+        Entry none{};  // So that an array is there, even one without room.
+        list.*entries = array.empty() ? &none : array.data();
         result = read(reader, input, list);
     }
-    return {result, {{"count", list.*count}, {entriesName, filledToJson(array.data(), array.size())}}};
+    printList(json, list.*count, entriesName, array.data(), filled(array.data(), array.size()));
+    return result;
 }
 
-Decoded decodeAccessPoints(const Input& input) {
+bool decodeAccessPoints(const Input& input, JsonPrinter& json) {
     using List = Kavrin::_tagAccessPoints;
-    return decodeList(&KVJStatusParser::ParseAccessPoints, &List::accessPoints, &List::count, "accessPoints", input);
+    return decodeList<status::accessPoints>(&KVJStatusParser::ParseAccessPoints, &List::accessPoints, &List::count,
+                                            "accessPoints", "AccessPoints", input, json);
 }
 
-Decoded decodeServiceLog(const Input& input) {
+bool decodeServiceLog(const Input& input, JsonPrinter& json) {
     using List = Kavrin::_tagLogServiceXML;
-    return decodeList(&KVJLogParser::ParseLogServiceXML, &List::entries, &List::count, "entries", input);
+    return decodeList<identity::serviceHistory>(&KVJLogParser::ParseLogServiceXML, &List::entries, &List::count,
+                                                "entries", "get_log_service_history", input, json);
 }
 
-Decoded decodeCleaningLog(const Input& input) {
+bool decodeCleaningLog(const Input& input, JsonPrinter& json) {
     Kavrin::_tagCleaningLogEntry entries[32]{};
     const bool result = read(&KVJLogParser::ParseCleaningLog, input, entries);
-    return {result, filledToJson(entries, std::size(entries))};
+    print(json, entries, filled(entries, std::size(entries)));
+    return result;
 }
 
 /// Reads a reply that is one text, into a buffer of the size that its reader wants.
 template <std::size_t Capacity, class Parser>
-Decoded decodeText(bool (Parser::*reader)(const wchar_t&, int, char*), std::string_view name, const Input& input) {
+bool decodeText(bool (Parser::*reader)(const wchar_t&, int, char*), std::string_view name, const Input& input,
+                JsonPrinter& json) {
     char text[Capacity]{};
     const bool result = (Parser().*reader)(*input.text.c_str(), static_cast<int>(input.text.size()), text);
-    return {result, {{name, valueToJson(text)}}};
+    json.object([&] { printField(json, name, text); });
+    return result;
 }
 
-Decoded decodeLaminatorResponse(const Input& input) {
-    return decodeText<512>(&KVJNDC::GetLaminatorResponse, "response", input);
+bool decodeLaminatorResponse(const Input& input, JsonPrinter& json) {
+    return decodeText<512>(&KVJNDC::GetLaminatorResponse, "response", input, json);
 }
 
-Decoded decodeNonce(const Input& input) { return decodeText<32>(&KVJSecAction::GetNonceValue, "nonce", input); }
+bool decodeNonce(const Input& input, JsonPrinter& json) {
+    return decodeText<32>(&KVJSecAction::GetNonceValue, "nonce", input, json);
+}
 
 // ---- Readers that do not say whether they read anything: a reply with an element in its root had something to read
 // ----
 
+TiXmlElement* rootOf(Reply& reply, const char* root, const char* otherRoot) {
+    TiXmlElement* element = reply.root(root);
+    return element == nullptr ? reply.root(otherRoot) : element;
+}
+
+bool hasContent(const TiXmlElement* root) { return root != nullptr && root->FirstChildElement() != nullptr; }
+
 bool hasContent(const Input& input, const char* root, const char* otherRoot = "") {
     Reply reply(input.bytes.c_str());
-    const TiXmlElement* element = reply.root(root);
-    if (element == nullptr) element = reply.root(otherRoot);
-    return element != nullptr && element->FirstChildElement() != nullptr;
+    return hasContent(rootOf(reply, root, otherRoot));
 }
 
-Decoded decodeConfiguration(const Input& input) {
+bool decodeConfiguration(const Input& input, JsonPrinter& json) {
     Kavrin::_KVConfiguration record{};
     read(&KVJConfigParser::GetConfiguration, input, record);
-    return {hasContent(input, "configuration", "set_configuration"), toJson(record)};
+    print(json, record);
+    return hasContent(input, "configuration", "set_configuration");
 }
 
-Decoded decodeMedia(const Input& input) {
+bool decodeMedia(const Input& input, JsonPrinter& json) {
+    const bool result = hasContent(input, "media");
     const auto media = Kavrin::MakeKVMedia();
     read(&KVJMediaParser::GetMedia, input, *media);
-    return {hasContent(input, "media"), toJson(*media)};
+    print(json, *media);
+    return result;
 }
 
-/// An array of the size that a list needs, twice: one to read into, and one that shows where the reader wrote.
-template <class Entry>
-struct ListArrays {
-    explicit ListArrays(int count) : entries(static_cast<std::size_t>(count)), marks(entries.size()) {
-        std::memset(marks.data(), mark, marks.size() * sizeof(Entry));
-    }
-    /// How many entries there are up to the last that was written: the section may have had other elements as well.
-    [[nodiscard]] int filled() const {
-        const auto* const first = reinterpret_cast<const char*>(marks.data());
-        const auto isUntouched = [=](std::size_t entry) {
-            return std::all_of(first + entry * sizeof(Entry), first + (entry + 1) * sizeof(Entry),
-                               [](char byte) { return byte == mark; });
-        };
-        std::size_t count = marks.size();
-        while (count > 0 && isUntouched(count - 1)) --count;
-        return static_cast<int>(count);
-    }
-    static constexpr char mark = 0x5A;
-    std::vector<Entry> entries;
-    std::vector<Entry> marks;
-};
+// ---- Capabilities: an entry of a list takes up to 4 KiB, so one is read, printed and forgotten before the next ----
 
-template <class Field>
-struct ListsOf {
-    using type = std::tuple<>;
-};
+/// The table that the entries of a list are read with.
+template <auto Array>
+inline constexpr std::nullptr_t entriesOf = nullptr;
+using Kavrin::_Capabilities;
+template <>
+inline constexpr const auto& entriesOf<&_Capabilities::hostPorts> = capabilities::hostPorts;
+template <>
+inline constexpr const auto& entriesOf<&_Capabilities::devicePorts> = capabilities::devicePorts;
+template <>
+inline constexpr const auto& entriesOf<&_Capabilities::swInterfaces> = capabilities::swInterfaces;
+template <>
+inline constexpr const auto& entriesOf<&_Capabilities::ocpLanguages> = capabilities::ocpLanguages;
+template <>
+inline constexpr const auto& entriesOf<&_Capabilities::graphicFormats> = capabilities::graphicFormatList;
+template <>
+inline constexpr const auto& entriesOf<&_Capabilities::fonts> = capabilities::fonts;
+template <>
+inline constexpr const auto& entriesOf<&_Capabilities::templates> = capabilities::templates;
+template <>
+inline constexpr const auto& entriesOf<&_Capabilities::graphics> = capabilities::graphics;
+template <>
+inline constexpr const auto& entriesOf<&_Capabilities::barCodes> = capabilities::barCodes;
+
+/// Whether all elements of a list are read into its first entry.
+template <auto Array>
+inline constexpr bool hasOneEntry = false;
+template <>
+inline constexpr bool hasOneEntry<&_Capabilities::devicePorts> = true;
+
+/// The name of the element that fills a field of the capabilities.
+std::string elementOf(std::string_view field) {
+    const auto& rows = described<capabilities::whole>;
+    return std::string(std::ranges::find(rows, field, [](const auto& row) { return row.description.field; })->name);
+}
+
+/// Whether reading changes anything in an entry.
+template <class Entry, class Read>
+bool isWritten(Read readInto) {
+    constexpr char mark = 0x5A;
+    Entry entry;
+    std::memset(&entry, mark, sizeof entry);
+    readInto(entry);
+    const auto* const bytes = reinterpret_cast<const char*>(&entry);
+    return !std::all_of(bytes, bytes + sizeof entry, [](char byte) { return byte == mark; });
+}
+
+/// The entries of a list, as an array that is large enough would have them after reading: those of a section that
+/// stands again go over those of the first, and what is behind the last that was written is none.
 template <auto Count, auto Array>
-struct ListsOf<ListField<Count, Array>> {
-    using type = std::tuple<ListField<Count, Array>>;
-};
+void printFieldOf(JsonPrinter& json, TiXmlElement* root, ListField<Count, Array> /*list*/) {
+    using Entry = typename ListField<Count, Array>::Entry;
+    const auto& row = entriesOf<Array>.front();
+    const std::string name(row.name);
+    const std::string section = elementOf(nameOf<Array>());
 
-/// The lists among the fields of a record.
-template <auto... Fields>
-auto listsOf(FieldList<Fields...> /*list*/) {
-    return std::tuple_cat(typename ListsOf<std::remove_const_t<decltype(Fields)>>::type{}...);
+    std::vector<TiXmlElement*> next;  // of each section
+    for (auto* list = root == nullptr ? nullptr : root->FirstChildElement(section); list != nullptr;
+         list = list->NextSiblingElement(section)) {
+        next.push_back(list->FirstChildElement(name));
+    }
+    const auto readInto = [&](Entry& entry) {
+        for (auto* element : next) {
+            for (; element != nullptr; element = hasOneEntry<Array> ? element->NextSiblingElement(name) : nullptr) {
+                List<Entry> one{{&entry, 1}};
+                row.getter.read(element, one);
+            }
+        }
+    };
+    const auto goOn = [&] {
+        for (auto*& element : next) {
+            element = element == nullptr || hasOneEntry<Array> ? nullptr : element->NextSiblingElement(name);
+        }
+    };
+    json.list([&] {
+        std::size_t unwritten = 0;
+        for (; std::ranges::any_of(next, std::identity()); goOn()) {
+            Entry entry{};
+            readInto(entry);
+            if (!isWritten<Entry>(readInto)) {
+                ++unwritten;
+                continue;
+            }
+            for (; unwritten > 0; --unwritten) printEntry(json, Entry{});
+            printEntry(json, entry);
+        }
+    });
 }
 
-/// Reads the capabilities in the two calls that their lists want: one for the sizes, one to fill arrays of these sizes.
-template <class... Lists>
-Json capabilitiesToJson(const Input& input, std::tuple<Lists...> /*lists*/) {
-    Kavrin::_Capabilities caps{};
-    read(&KVJCapsParser::GetCapabilities, input, caps);
-    std::tuple<ListArrays<typename Lists::Entry>...> arrays(caps.*Lists::count...);
-    std::apply([&](auto&... array) { ((caps.*Lists::array = array.marks.data()), ...); }, arrays);
-    read(&KVJCapsParser::GetCapabilities, input, caps);
-    std::apply([&](auto&... array) { ((caps.*Lists::array = array.entries.data()), ...); }, arrays);
-    caps.imageSharpeningLevels = 0;  // Reading adds to them.
-    read(&KVJCapsParser::GetCapabilities, input, caps);
-    std::apply([&](auto&... array) { ((caps.*Lists::count = array.filled()), ...); }, arrays);
-    return toJson(caps);
-}
-
-Decoded decodeCapabilities(const Input& input) {
-    return {hasContent(input, "capabilities", "get_capabilities"),
-            capabilitiesToJson(input, listsOf(fields<Kavrin::_Capabilities>))};
+bool decodeCapabilities(const Input& input, JsonPrinter& json) {
+    _Capabilities caps{};
+    read(&KVJCapsParser::GetCapabilities, input, caps);  // All but the lists, which have no room.
+    Reply reply(input.bytes.c_str());
+    TiXmlElement* const root = rootOf(reply, "capabilities", "get_capabilities");
+    printFields<_Capabilities>(json, fields<_Capabilities>, [&](auto field) {
+        if constexpr (requires { field.array; }) {
+            printFieldOf(json, root, field);
+        } else {
+            printFieldOf(json, caps, field);
+        }
+    });
+    return hasContent(root);
 }
 
 /// A reply that is a text, without elements.
 constexpr std::array<Row<int>, 0> textAlone{};
 
 template <auto Reader, const auto& Table>
-constexpr Message message(std::string_view root, Decoded (*decodeIt)(const Input&), std::string_view otherRoot = {}) {
+constexpr Message message(std::string_view root, bool (*decodeIt)(const Input&, JsonPrinter&),
+                          std::string_view otherRoot = {}) {
     return {root, otherRoot, nameOf<Reader>(), described<Table>, decodeIt};
 }
 

@@ -6,23 +6,20 @@
 #include <span>
 #include <string_view>
 
-#include "fields.h"
 #include "foundation/rows.h"
 #include "input.h"
+#include "json_printer.h"
 
 namespace kvjxml::tool {
-
-struct Decoded {
-    bool result;  ///< what the reader returned; whether it had anything to read when it does not say
-    Json record;
-};
 
 struct Message {
     std::string_view root;                ///< the reply's root element
     std::string_view otherRoot;           ///< another that its reader takes; empty when there is none
     std::string_view reader;              ///< the library's operation
     std::span<const DescribedRow> table;  ///< what that operation reads
-    Decoded (*decode)(const Input& input);
+    /// Reads the reply and prints the record, a long list entry by entry.
+    /// @return what the reader returned; whether it had anything to read when it does not say.
+    bool (*decode)(const Input& input, JsonPrinter& json);
 };
 
 std::span<const Message> messages();

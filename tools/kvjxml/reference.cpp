@@ -5,7 +5,6 @@
 #include <sstream>
 #include <string>
 
-#include "failure.h"
 #include "messages.h"
 #include "requests.h"
 
@@ -79,7 +78,6 @@ ExitCode printReference() {
     }
     std::cout << "\n## Words and their codes\n";
     for (const auto& [name, table] : tables) printWords(name, table);
-    if (!std::cout.flush()) throw Failure(ExitCode::inputOutput, "standard output: cannot be written");
     return ExitCode::done;
 }
 

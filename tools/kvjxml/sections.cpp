@@ -3,8 +3,6 @@
 #include <iomanip>
 #include <iostream>
 
-#include "failure.h"
-
 namespace kvjxml::tool {
 
 namespace {
@@ -60,7 +58,6 @@ ExitCode listSections(std::span<const DescribedRow> rows) {
         std::cout << std::left << std::setw(24) << section.name << " 0x" << std::setw(7) << std::hex << section.bit
                   << section.content << '\n';
     }
-    if (!std::cout.flush()) throw Failure(ExitCode::inputOutput, "standard output: cannot be written");
     return ExitCode::done;
 }
 

@@ -1,0 +1,26 @@
+#include "json_printer.h"
+
+#include <iomanip>
+
+namespace kvjxml::tool {
+
+void JsonPrinter::field(std::string_view name) {
+    entry();
+    *out_ << '"' << name << "\": ";
+}
+
+void JsonPrinter::entry() {
+    if (!std::exchange(isEmpty_, false)) *out_ << ',';
+    beginLine();
+}
+
+void JsonPrinter::value(const nlohmann::json& value) {
+    *out_ << value.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+}
+
+void JsonPrinter::beginLine() {
+    constexpr std::size_t indent = 4;
+    *out_ << '\n' << std::setw(static_cast<int>(depth_ * indent)) << "";
+}
+
+}  // namespace kvjxml::tool

@@ -1,0 +1,69 @@
+/// @file json_printer.h
+/// JSON that is printed while it is made: a reply can hold a million entries, and none is kept.
+#ifndef KVJXML_TOOL_JSON_PRINTER_H
+#define KVJXML_TOOL_JSON_PRINTER_H
+
+#include <array>
+#include <charconv>
+#include <concepts>
+#include <nlohmann/json.hpp>
+#include <ostream>
+#include <string_view>
+#include <utility>
+
+namespace kvjxml::tool {
+
+class JsonPrinter {
+public:
+    /// `out` outlives the printer.
+    explicit JsonPrinter(std::ostream& out) : out_(&out) {}
+
+    /// Each prints what `content` prints, as the fields of an object or as the entries of a list.
+    template <class Content>
+    void object(Content content) {
+        enclose('{', '}', content);
+    }
+    template <class Content>
+    void list(Content content) {
+        enclose('[', ']', content);
+    }
+
+    /// Begins the next field of an object, whose name is that of a member; its value is printed next.
+    void field(std::string_view name);
+    /// Begins the next entry of a list; it is printed next.
+    void entry();
+    /// A text, a number, true, false or null. Of a text, bytes that are not UTF-8 become U+FFFD.
+    void value(const nlohmann::json& value);
+    /// The same, for what a catalogue has a million of.
+    template <std::integral Integer>
+    void value(Integer number) {
+        if constexpr (std::is_same_v<Integer, bool>) {
+            *out_ << (number ? "true" : "false");
+        } else {
+            std::array<char, 24> digits{};
+            std::to_chars(digits.begin(), digits.end(), number);
+            *out_ << digits.data();
+        }
+    }
+
+private:
+    template <class Content>
+    void enclose(char open, char close, Content content) {
+        *out_ << open;
+        isEmpty_ = true;
+        ++depth_;
+        content();
+        --depth_;
+        if (!std::exchange(isEmpty_, false)) beginLine();
+        *out_ << close;
+    }
+    void beginLine();
+
+    std::ostream* out_;
+    std::size_t depth_ = 0;
+    bool isEmpty_ = true;  ///< what is being printed, until now
+};
+
+}  // namespace kvjxml::tool
+
+#endif
