@@ -51,6 +51,7 @@ void addSectionOptions(CLI::App& verb, const kvjxml::tool::Request& request, kvj
     choice->add_option("--sections", options.sections, "Names from --list-sections, separated by commas")
         ->option_text("NAMES")
         ->delimiter(',')
+        ->allow_extra_args(false)  // What stands behind the names is the file.
         ->transform(kvjxml::tool::oneOf(kvjxml::tool::bitsByName(request.table)));
     choice->add_option("--mask", options.mask, "Their bits")
         ->option_text("HEX")
