@@ -14,7 +14,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
-#include <functional>
 #include <iterator>
 #include <sstream>
 #include <string>
@@ -223,31 +222,30 @@ bool decodeMedia(const Input& input, JsonPrinter& json) {
 /// The table that the entries of a list are read with.
 template <auto Array>
 inline constexpr std::nullptr_t entriesOf = nullptr;
-using Kavrin::_Capabilities;
 template <>
-inline constexpr const auto& entriesOf<&_Capabilities::hostPorts> = capabilities::hostPorts;
+inline constexpr const auto& entriesOf<&Kavrin::_Capabilities::hostPorts> = capabilities::hostPorts;
 template <>
-inline constexpr const auto& entriesOf<&_Capabilities::devicePorts> = capabilities::devicePorts;
+inline constexpr const auto& entriesOf<&Kavrin::_Capabilities::devicePorts> = capabilities::devicePorts;
 template <>
-inline constexpr const auto& entriesOf<&_Capabilities::swInterfaces> = capabilities::swInterfaces;
+inline constexpr const auto& entriesOf<&Kavrin::_Capabilities::swInterfaces> = capabilities::swInterfaces;
 template <>
-inline constexpr const auto& entriesOf<&_Capabilities::ocpLanguages> = capabilities::ocpLanguages;
+inline constexpr const auto& entriesOf<&Kavrin::_Capabilities::ocpLanguages> = capabilities::ocpLanguages;
 template <>
-inline constexpr const auto& entriesOf<&_Capabilities::graphicFormats> = capabilities::graphicFormatList;
+inline constexpr const auto& entriesOf<&Kavrin::_Capabilities::graphicFormats> = capabilities::graphicFormatList;
 template <>
-inline constexpr const auto& entriesOf<&_Capabilities::fonts> = capabilities::fonts;
+inline constexpr const auto& entriesOf<&Kavrin::_Capabilities::fonts> = capabilities::fonts;
 template <>
-inline constexpr const auto& entriesOf<&_Capabilities::templates> = capabilities::templates;
+inline constexpr const auto& entriesOf<&Kavrin::_Capabilities::templates> = capabilities::templates;
 template <>
-inline constexpr const auto& entriesOf<&_Capabilities::graphics> = capabilities::graphics;
+inline constexpr const auto& entriesOf<&Kavrin::_Capabilities::graphics> = capabilities::graphics;
 template <>
-inline constexpr const auto& entriesOf<&_Capabilities::barCodes> = capabilities::barCodes;
+inline constexpr const auto& entriesOf<&Kavrin::_Capabilities::barCodes> = capabilities::barCodes;
 
 /// Whether all elements of a list are read into its first entry.
 template <auto Array>
 inline constexpr bool hasOneEntry = false;
 template <>
-inline constexpr bool hasOneEntry<&_Capabilities::devicePorts> = true;
+inline constexpr bool hasOneEntry<&Kavrin::_Capabilities::devicePorts> = true;
 
 /// The name of the element that fills a field of the capabilities.
 std::string elementOf(std::string_view field) {
@@ -266,54 +264,64 @@ bool isWritten(Read readInto) {
     return !std::all_of(bytes, bytes + sizeof entry, [](char byte) { return byte == mark; });
 }
 
+using Elements = std::vector<TiXmlElement*>;
+
+/// The elements that are read into the first entry of a list: the first of each of its sections, or all of them.
+Elements firstElements(TiXmlElement* root, const std::string& section, const std::string& name, bool all) {
+    Elements elements;
+    if (root == nullptr) return elements;
+    for (auto* list = root->FirstChildElement(section); list != nullptr; list = list->NextSiblingElement(section)) {
+        for (auto* element = list->FirstChildElement(name); element != nullptr;
+             element = all ? element->NextSiblingElement(name) : nullptr) {
+            elements.push_back(element);
+        }
+    }
+    return elements;
+}
+
+/// Goes on to those of the next entry; none are left at the end.
+void goOn(Elements& elements) {
+    const auto next = [](TiXmlElement* element) { return element->NextSiblingElement(element->ValueStr()); };
+    std::ranges::transform(elements, elements.begin(), next);
+    std::erase(elements, nullptr);
+}
+
 /// The entries of a list, as an array that is large enough would have them after reading: those of a section that
 /// stands again go over those of the first, and what is behind the last that was written is none.
 template <auto Count, auto Array>
 void printFieldOf(JsonPrinter& json, TiXmlElement* root, ListField<Count, Array> /*list*/) {
     using Entry = typename ListField<Count, Array>::Entry;
-    const auto& row = entriesOf<Array>.front();
-    const std::string name(row.name);
-    const std::string section = elementOf(nameOf<Array>());
-
-    std::vector<TiXmlElement*> next;  // of each section
-    for (auto* list = root == nullptr ? nullptr : root->FirstChildElement(section); list != nullptr;
-         list = list->NextSiblingElement(section)) {
-        next.push_back(list->FirstChildElement(name));
-    }
+    constexpr bool all = hasOneEntry<Array>;
+    constexpr auto row = entriesOf<Array>.front();
+    constexpr auto readElement = row.getter.read;
+    Elements elements = firstElements(root, elementOf(nameOf<Array>()), std::string(row.name), all);
     const auto readInto = [&](Entry& entry) {
-        for (auto* element : next) {
-            for (; element != nullptr; element = hasOneEntry<Array> ? element->NextSiblingElement(name) : nullptr) {
-                List<Entry> one{{&entry, 1}};
-                row.getter.read(element, one);
-            }
-        }
-    };
-    const auto goOn = [&] {
-        for (auto*& element : next) {
-            element = element == nullptr || hasOneEntry<Array> ? nullptr : element->NextSiblingElement(name);
+        for (auto* element : elements) {
+            List<Entry> one{{&entry, 1}};
+            readElement(element, one);
         }
     };
     json.list([&] {
         std::size_t unwritten = 0;
-        for (; std::ranges::any_of(next, std::identity()); goOn()) {
-            Entry entry{};
-            readInto(entry);
+        for (; !elements.empty(); all ? elements.clear() : goOn(elements)) {
             if (!isWritten<Entry>(readInto)) {
                 ++unwritten;
                 continue;
             }
             for (; unwritten > 0; --unwritten) printEntry(json, Entry{});
+            Entry entry{};
+            readInto(entry);
             printEntry(json, entry);
         }
     });
 }
 
 bool decodeCapabilities(const Input& input, JsonPrinter& json) {
-    _Capabilities caps{};
+    Kavrin::_Capabilities caps{};
     read(&KVJCapsParser::GetCapabilities, input, caps);  // All but the lists, which have no room.
     Reply reply(input.bytes.c_str());
     TiXmlElement* const root = rootOf(reply, "capabilities", "get_capabilities");
-    printFields<_Capabilities>(json, fields<_Capabilities>, [&](auto field) {
+    printFields<Kavrin::_Capabilities>(json, fields<Kavrin::_Capabilities>, [&](auto field) {
         if constexpr (requires { field.array; }) {
             printFieldOf(json, root, field);
         } else {
