@@ -13,8 +13,10 @@ namespace Kavrin {
 /// Scratch space in which a ribbon's description is read. There is one for the whole process: see KVJConfigParser.
 extern KVJXML_API char szRibbonName[32];
 
-/// The object is the document that a reply is parsed into, and is empty again after each call, so one object reads any
-/// number of replies, one after the other and in one thread at a time.
+/// One object reads any number of replies, one after the other and in one thread at a time. It is a document for the
+/// sake of what is wrong with a reply: after each call it is empty, and `Error()`, `ErrorId()` and `ErrorDesc()` tell
+/// of the reply that was read, while `ErrorRow()` and `ErrorCol()` are 0. Without a text they tell what they told
+/// before.
 ///
 /// **Not in two threads at once:** all parsers read a ribbon's description through Kavrin::szRibbonName. Two threads
 /// that read configurations, or "media_info", or a ribbon with any KVJConfigParser at the same time interfere with each

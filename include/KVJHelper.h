@@ -1,8 +1,8 @@
 /// @file KVJHelper.h
 /// Reads typed values out of the elements of a printer's reply, and writes typed values as elements of a request.
 ///
-/// Every reader and composer of the library converts through this class, so what it says about a conversion holds for
-/// the whole vocabulary. Hosts need it only to read or write elements that the library does not know.
+/// Every reader and composer of the library converts in the same way, so what is said here about a conversion holds for
+/// the whole vocabulary. Hosts need this class only to read or write elements that the library does not know.
 ///
 /// The *text* of an element is the value of its first child node, whatever that node is: the text of `<a>12</a>` is
 /// "12", that of `<a><b/></a>` is "b", and `<a/>` has none.

@@ -10,8 +10,10 @@
 
 namespace Kavrin {
 
-/// The object is the document that a reply is parsed into, and is empty again after each call, so one object reads any
-/// number of replies, one after the other and in one thread at a time.
+/// One object reads any number of replies, one after the other and in one thread at a time. It is a document for the
+/// sake of what is wrong with a reply: after each call it is empty, and `Error()`, `ErrorId()` and `ErrorDesc()` tell
+/// of the reply that was read, while `ErrorRow()` and `ErrorCol()` are 0. Without a text they tell what they told
+/// before.
 class KVJXML_API KVJPrinterIDParser : public TiXmlDocument {
 public:
     /// Reads the reply "printer_id". A field whose element is missing keeps the value that it had.

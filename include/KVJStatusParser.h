@@ -20,8 +20,7 @@ namespace Kavrin {
 /// **Results.** True means that the reply holds the message and that the last element recognised in it had a value that
 /// fits its field. False means that the message is not in the reply (the record is as it was), that it has no child
 /// elements, or that its last recognised element had no text or a text too long; the record then holds all that could
-/// be read. A reply that is cut or malformed is read as far as its text goes; one nested deeper than 64 levels, or with
-/// more than 256 attributes in one element, counts as one without the message. Elements that are not known are skipped,
+/// be read. A reply that is cut or malformed is read as far as its text goes. Elements that are not known are skipped,
 /// of repeated elements the last one counts, and names and words are compared with case.
 ///
 /// **Ownership.** Nothing is kept and nothing allocated for the caller. std::bad_alloc is thrown when memory runs out.

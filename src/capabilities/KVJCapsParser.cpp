@@ -18,20 +18,20 @@ bool readList(TiXmlElement* section, _Capabilities& caps) {
     return tables::list<Count, Array, Table>.read(section, reading);
 }
 
-}  // namespace
-
-bool KVJCapsParser::GetCapabilities(const wchar_t& text, int length, _Capabilities& caps) {
-    kvjxml::Reply reply(text, length);
-    TiXmlElement* root = reply.root("capabilities");
-    if (root == nullptr) root = reply.root("get_capabilities");
-    parseCapabilities(root, caps);
-    return false;  // Whatever was read: hosts look at the record.
-}
-
-bool KVJCapsParser::parseCapabilities(TiXmlElement* root, _Capabilities& caps) {
+bool readCapabilities(kvjxml::Element root, _Capabilities& caps) {
     tables::Reading reading(caps);
     return walk(root, reading, tables::whole);
 }
+
+}  // namespace
+
+bool KVJCapsParser::GetCapabilities(const wchar_t& text, int length, _Capabilities& caps) {
+    const kvjxml::Reply reply(text, length);
+    readCapabilities(reply.root("capabilities", "get_capabilities"), caps);
+    return false;  // Whatever was read: hosts look at the record.
+}
+
+bool KVJCapsParser::parseCapabilities(TiXmlElement* root, _Capabilities& caps) { return readCapabilities(root, caps); }
 
 // ---- Lists ----
 

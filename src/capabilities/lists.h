@@ -28,27 +28,26 @@ struct Reading {
 /// A field that is no list.
 template <const auto& Field>
 inline constexpr Getter<Reading> plain{
-    Field.description, [](TiXmlElement* element, Reading& reading) { return Field.read(element, reading.caps); }};
+    Field.description, [](Element element, Reading& reading) { return Field.read(element, reading.caps); }};
 
 /// A list: its entries, read with a table of their own, when the array has room for as many entries as the section has
 /// child elements, whatever their names; else the largest such number, for the host to come again with.
 template <auto Count, auto Array, const auto& Table>
-inline constexpr Getter<Reading> list{{.field = nameOf<Array>(), .conversion = "list", .group = described<Table>},
-                                      [](TiXmlElement* section, Reading& reading) {
-                                          if (section == nullptr) return false;
-                                          const std::size_t needed = countChildren(section);
-                                          auto* const array = reading.caps.*Array;
-                                          const int capacity =
-                                              array == nullptr && needed > 0 ? 0 : reading.passed.*Count;
-                                          if (std::cmp_less(capacity, needed)) {
-                                              int& most = reading.refused.*Count;
-                                              most = std::max(most, static_cast<int>(needed));
-                                              reading.caps.*Count = most;
-                                              return true;
-                                          }
-                                          RecordOfTable<Table> entries{{array, needed}};
-                                          return walk(section, entries, Table);
-                                      }};
+inline constexpr Getter<Reading> list{
+    {.field = nameOf<Array>(), .conversion = "list", .group = described<Table>}, [](Element section, Reading& reading) {
+        if (!section) return false;
+        const std::size_t needed = countChildren(section);
+        auto* const array = reading.caps.*Array;
+        const int capacity = array == nullptr && needed > 0 ? 0 : reading.passed.*Count;
+        if (std::cmp_less(capacity, needed)) {
+            int& most = reading.refused.*Count;
+            most = std::max(most, static_cast<int>(needed));
+            reading.caps.*Count = most;
+            return true;
+        }
+        RecordOfTable<Table> entries{{array, needed}};
+        return walk(section, entries, Table);
+    }};
 
 }  // namespace kvjxml::capabilities
 

@@ -66,7 +66,7 @@ inline constexpr WordTable sharpeningLevels({{"off", 0x1}, {"normal", 0x2}, {"hi
 template <const auto& Table>
 inline constexpr Getter<List<RecordOfTable<Table>>> firstEntry{
     {.field = {}, .conversion = "the first entry of a list, each time", .group = described<Table>},
-    [](TiXmlElement* element, List<RecordOfTable<Table>>& list) {
+    [](Element element, List<RecordOfTable<Table>>& list) {
         list.filled = 0;
         return entry<Table>.read(element, list);
     }};
@@ -74,7 +74,7 @@ inline constexpr Getter<List<RecordOfTable<Table>>> firstEntry{
 /// A word that is an entry itself.
 inline constexpr Getter<int> graphicFormatWord{
     {.field = {}, .conversion = "code of the word", .tableName = "graphicFormats", .table = graphicFormats},
-    [](TiXmlElement* element, int& format) { return readWord(element, format, graphicFormats); }};
+    [](Element element, int& format) { return readWord(element, format, graphicFormats); }};
 inline constexpr Writer<int> graphicFormatTag{
     {.field = {}, .conversion = "word of the code", .tableName = "graphicFormats", .table = graphicFormats},
     [](TiXmlElement* parent, const char* name, const int& format, const Selection&) {

@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "KVJHelper.h"
 #include "configuration/document.h"
 #include "foundation/reply.h"
 
@@ -13,21 +14,27 @@ namespace tables = kvjxml::configuration;
 
 char szRibbonName[32];
 
+namespace {
+
+bool readConfiguration(kvjxml::Element root, _KVConfiguration& out) {
+    if (!root) return false;
+    std::memset(&out, 0, sizeof out);
+    walk(root, out, tables::document);
+    return kvjxml::countChildren(root) != 0;
+}
+
+}  // namespace
+
 bool KVJConfigParser::GetConfiguration(const char* text, int /*length*/, _KVConfiguration& out) {
     Clear();
-    kvjxml::parse(*this, text);
-    TiXmlElement* root = FirstChildElement("configuration");
-    if (root == nullptr) root = FirstChildElement("set_configuration");
-    parseConfiguration(root, out);
-    Clear();
+    const kvjxml::Reply reply(text);
+    kvjxml::tellFault(reply, *this);
+    readConfiguration(reply.root("configuration", "set_configuration"), out);
     return false;  // Whatever was read: hosts look at the record.
 }
 
 bool KVJConfigParser::parseConfiguration(TiXmlElement* root, _KVConfiguration& out) {
-    if (root == nullptr) return false;
-    std::memset(&out, 0, sizeof out);
-    walk(root, out, tables::document);
-    return root->FirstChildElement() != nullptr;
+    return readConfiguration(root, out);
 }
 
 // ---- General settings ----

@@ -27,8 +27,8 @@ inline constexpr WordTable usbSpeeds({{"full", usbSpeedFull}, {"high", usbSpeedH
 /// The one word that no text stands for as well.
 inline constexpr Getter<_KVConfiguration> errorControl{
     {.field = "errorControl", .conversion = "code of the word", .tableName = "errorControls", .table = errorControls},
-    [](TiXmlElement* element, _KVConfiguration& configuration) {
-        const char* content = textOf(element);
+    [](Element element, _KVConfiguration& configuration) {
+        const char* content = element.text();
         configuration.errorControl = static_cast<ErrorControl>(anyCodeOf(errorControls, content));
         return content != nullptr;
     }};
@@ -39,7 +39,7 @@ inline constexpr Getter<_InternalEncoderInfo> contactlessEncoder{
      .conversion = "code of the word; when that is not 0, to `contactlessEncoder2`",
      .tableName = "contactlessEncoders",
      .table = contactlessEncoders},
-    [](TiXmlElement* element, _InternalEncoderInfo& info) {
+    [](Element element, _InternalEncoderInfo& info) {
         using Info = _InternalEncoderInfo;
         return info.contactlessEncoder == 0 ? word<&Info::contactlessEncoder, contactlessEncoders>.read(element, info)
                                             : word<&Info::contactlessEncoder2, contactlessEncoders>.read(element, info);

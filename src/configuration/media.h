@@ -23,9 +23,9 @@ using namespace Kavrin;  // the records
 
 /// A ribbon's name, without the word that all one-coloured ribbons begin with. Hosts watch the two lines that go to the
 /// standard error stream for it, often on a terminal.
-inline bool readRibbonName(TiXmlElement* element, char (&description)[64]) {
+inline bool readRibbonName(Element element, char (&description)[64]) {
     std::memset(szRibbonName, 0, sizeof szRibbonName);
-    const bool result = KVJHelper::GetString(element, szRibbonName[0], sizeof szRibbonName);
+    const bool result = readText(element, szRibbonName, sizeof szRibbonName);
     if (std::strstr(szRibbonName, "MONO") != nullptr) {
         constexpr std::size_t removed = sizeof "MONO";  // and the blank behind it
         std::memmove(szRibbonName, szRibbonName + removed, sizeof szRibbonName - removed);
@@ -40,7 +40,7 @@ inline bool readRibbonName(TiXmlElement* element, char (&description)[64]) {
 
 inline constexpr Getter<_RibbonInfo> ribbonName{
     {.field = "description", .conversion = "text without a leading `MONO`", .capacity = sizeof szRibbonName},
-    [](TiXmlElement* element, _RibbonInfo& ribbon) { return readRibbonName(element, ribbon.description); }};
+    [](Element element, _RibbonInfo& ribbon) { return readRibbonName(element, ribbon.description); }};
 
 inline constexpr WordTable transferTypes{0, {{"single", 1}, {"dual", 2}}};
 
@@ -121,7 +121,7 @@ inline constexpr auto cardTags = tags<_CustomCardInfo>({
 inline constexpr Getter<_KVConfiguration> customCard{
     {.field = "customCard1", .conversion = "the last with the description `Custom 1`; the last other one to `customCard2`",
      .group = described<card>},
-    [](TiXmlElement* element, _KVConfiguration& configuration) {
+    [](Element element, _KVConfiguration& configuration) {
         _CustomCardInfo info{};
         const bool result = walk(element, info, card);
         (convert::equal(info.description, "Custom 1") ? configuration.customCard1 : configuration.customCard2) = info;

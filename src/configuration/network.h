@@ -44,28 +44,28 @@ inline constexpr WordTable cryptoWords({{"none", wirelessCryptoNone},
 /// A word of a wireless network; an unknown one leaves the value alone and counts as read. Without text, or with an
 /// empty one, nothing was read.
 template <class Value>
-bool readWirelessWord(const TiXmlElement* element, Value& value, const Words& table) {
-    const char* content = textOf(element);
+bool readWirelessWord(Element element, Value& value, const Words& table) {
+    const char* content = element.text();
     return content != nullptr && *content != '\0' && readWord(element, value, table);
 }
 
 template <auto Member, const auto& Table>
 inline constexpr Getter<RecordOf<Member>> wirelessWord{
     word<Member, Table>.description,
-    [](TiXmlElement* element, RecordOf<Member>& record) { return readWirelessWord(element, record.*Member, Table); }};
+    [](Element element, RecordOf<Member>& record) { return readWirelessWord(element, record.*Member, Table); }};
 
 /// Without text, or with an empty one, the address is 0; a null element has none to store.
-inline bool readIpAddress(const TiXmlElement* element, unsigned long& address) {
-    const char* content = textOf(element);
+inline bool readIpAddress(Element element, unsigned long& address) {
+    const char* content = element.text();
     const bool isThere = content != nullptr && *content != '\0';
-    if (element != nullptr) address = isThere ? convert::toIpAddress(content) : 0;
+    if (element) address = isThere ? convert::toIpAddress(content) : 0;
     return isThere;
 }
 
 template <auto Member>
 inline constexpr Getter<RecordOf<Member>> ipAddress{
     {nameOf<Member>(), "IPv4 address"},
-    [](TiXmlElement* element, RecordOf<Member>& record) { return readIpAddress(element, record.*Member); }};
+    [](Element element, RecordOf<Member>& record) { return readIpAddress(element, record.*Member); }};
 
 template <auto Member>
 inline constexpr Writer<RecordOf<Member>> ipAddressTag{

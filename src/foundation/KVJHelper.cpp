@@ -2,109 +2,75 @@
 
 #include <tinyxml.h>
 
-#include <algorithm>
-
 #include "foundation/convert.h"
 #include "foundation/element.h"
 #include "foundation/tags.h"
+#include "foundation/values.h"
 #include "foundation/vocabulary.h"
+#include "foundation/writers.h"
 
-using kvjxml::textOf;
 namespace convert = kvjxml::convert;
-
-namespace {
-
-/// Reads an element's text into `value`; an element without text leaves it alone.
-template <class Value, class Convert>
-bool store(const TiXmlElement* element, Value& value, Convert convert) {
-    const char* content = textOf(element);
-    if (content != nullptr) value = static_cast<Value>(convert(content));
-    return content != nullptr;
-}
-
-const char* attributeOf(const TiXmlElement* element, const char* name) {
-    return element == nullptr || name == nullptr ? nullptr : element->Attribute(name);
-}
-
-}  // namespace
+using kvjxml::Element;
+using kvjxml::readNumber;
 
 // ---- Element text to value ----
 
-bool KVJHelper::GetNumber(TiXmlElement* element, int& value, bool /*ignored*/) {
-    return store(element, value, convert::toInt);
-}
+bool KVJHelper::GetNumber(TiXmlElement* element, int& value, bool /*ignored*/) { return readNumber(element, value); }
 
 bool KVJHelper::GetNumber(TiXmlElement* element, unsigned int& value, bool /*ignored*/) {
-    return store(element, value, convert::toInt);
+    return readNumber(element, value);
 }
 
 bool KVJHelper::GetNumber(TiXmlElement* element, unsigned short& value, bool /*ignored*/) {
-    return store(element, value, convert::toInt);
+    return readNumber(element, value);
 }
 
 bool KVJHelper::GetNumber(TiXmlElement* element, unsigned long& value, bool /*ignored*/) {
-    return store(element, value,
-                 [](const char* content) { return static_cast<unsigned short>(convert::toInt(content)); });
+    return readNumber(element, value);
 }
 
-bool KVJHelper::GetNumber(TiXmlElement* element, long& value, bool /*ignored*/) {
-    return store(element, value, convert::toLong);
-}
+bool KVJHelper::GetNumber(TiXmlElement* element, long& value, bool /*ignored*/) { return readNumber(element, value); }
 
-bool KVJHelper::GetNumber(TiXmlElement* element, float& value, bool /*ignored*/) {
-    return store(element, value, convert::toFloat);
-}
+bool KVJHelper::GetNumber(TiXmlElement* element, float& value, bool /*ignored*/) { return readNumber(element, value); }
 
 bool KVJHelper::GetString(TiXmlElement* element, char& first, int capacity) {
-    const char* content = textOf(element);
-    return content != nullptr && convert::copy(content, &first, capacity);
+    return kvjxml::readText(element, &first, capacity);
 }
 
-bool KVJHelper::GetBool(TiXmlElement* element, char& value) { return store(element, value, convert::isTrue); }
+bool KVJHelper::GetBool(TiXmlElement* element, char& value) { return kvjxml::readTruth(element, value); }
 
-bool KVJHelper::GetBool(TiXmlElement* element, bool& value) {
-    value = false;
-    return store(element, value, convert::isTrue);
-}
+bool KVJHelper::GetBool(TiXmlElement* element, bool& value) { return kvjxml::readTruth(element, value); }
 
 bool KVJHelper::GetPhysicalAddress(TiXmlElement* element, unsigned char* address) {
-    const char* content = textOf(element);
-    if (content == nullptr || address == nullptr) return false;
-    std::ranges::copy(convert::toHardwareAddress(content), address);
-    return true;
+    return address != nullptr && kvjxml::readHardwareAddress(element, address);
 }
 
 // ---- Attribute to value ----
 
 bool KVJHelper::GetInt(TiXmlElement* element, char* name, int& value) {
-    const char* content = attributeOf(element, name);
-    return content != nullptr && convert::scanInt(content, value);
+    return kvjxml::readAttribute(element, name, value);
 }
 
 bool KVJHelper::GetNumberFromAttr(TiXmlElement* element, char* name, int& value) {
-    return GetInt(element, name, value);
+    return kvjxml::readAttribute(element, name, value);
 }
 
 bool KVJHelper::GetNumberFromAttr(TiXmlElement* element, char* name, float& value) {
-    // TinyXML's own query for such a number follows the process's locale.
-    const char* content = attributeOf(element, name);
-    return content != nullptr && convert::scanFloat(content, value);
+    return kvjxml::readAttribute(element, name, value);
 }
 
 bool KVJHelper::GetShort(TiXmlElement* element, char* name, unsigned short& value) {
-    const char* content = attributeOf(element, name);
+    const char* content = Element(element).attribute(name);
     if (content != nullptr) convert::scanUnsignedShort(content, value);
     return content != nullptr;
 }
 
 bool KVJHelper::GetBool(TiXmlElement* element, char* name, char& value) {
-    const char* content = attributeOf(element, name);
-    if (content != nullptr) value = static_cast<char>(convert::isTrue(content));
-    return content != nullptr;
+    return kvjxml::store(Element(element).attribute(name), value, convert::isTrue);
 }
 
 bool KVJHelper::GetString(TiXmlElement* element, char* name, char* buffer, int capacity) {
-    const char* content = attributeOf(element, name);
+    const char* content = Element(element).attribute(name);
     return content != nullptr && buffer != nullptr && convert::copy(content, buffer, capacity);
 }
 
@@ -147,14 +113,11 @@ bool KVJHelper::AddTagPhysicalAddress(TiXmlElement* parent, char* name, const un
 }
 
 bool KVJHelper::AddTagMinMaxVal(TiXmlElement* parent, char* name, const Kavrin::_MinMaxVal& setting) {
-    return kvjxml::addSetting(parent, name, convert::fromInt(setting.min).c_str(),
-                              convert::fromInt(setting.max).c_str(), convert::fromInt(setting.value).c_str());
+    return kvjxml::addSetting(parent, name, setting);
 }
 
 bool KVJHelper::AddTagMinMaxVal(TiXmlElement* parent, char* name, const Kavrin::_MinMaxValFloat& setting) {
-    // The printer expects the maximum as the element's text here, not the value.
-    const convert::Digits max = convert::fromDouble(setting.max, 2);
-    return kvjxml::addSetting(parent, name, convert::fromDouble(setting.min, 2).c_str(), max.c_str(), max.c_str());
+    return kvjxml::addSetting(parent, name, setting);
 }
 
 bool KVJHelper::AddTagAttrib(TiXmlElement* element, const char* name, const char* value) {

@@ -9,11 +9,12 @@
 #include <string_view>
 #include <type_traits>
 
-#include "KVJHelper.h"
+#include "FoundationRecords.h"
 #include "foundation/convert.h"
 #include "foundation/element.h"
 #include "foundation/member.h"
 #include "foundation/rows.h"
+#include "foundation/values.h"
 
 namespace kvjxml {
 
@@ -26,26 +27,26 @@ inline constexpr std::string_view numberKind<unsigned long> = "number, its low 1
 template <>
 inline constexpr std::string_view numberKind<float> = "number with a decimal point";
 
-/// A number of the member's type, as KVJHelper::GetNumber reads it.
+/// A number of the member's type.
 template <auto Member>
 inline constexpr Getter<RecordOf<Member>> number{
     {nameOf<Member>(), numberKind<ValueOf<Member>>},
-    [](TiXmlElement* element, RecordOf<Member>& record) { return KVJHelper::GetNumber(element, record.*Member); }};
+    [](Element element, RecordOf<Member>& record) { return readNumber(element, record.*Member); }};
 
 /// A text, cut to the size of its field.
 template <auto Member>
 inline constexpr Getter<RecordOf<Member>> text{
     {.field = nameOf<Member>(), .conversion = "text", .capacity = std::extent_v<ValueOf<Member>>},
-    [](TiXmlElement* element, RecordOf<Member>& record) {
+    [](Element element, RecordOf<Member>& record) {
         constexpr auto capacity = static_cast<int>(std::extent_v<ValueOf<Member>>);
-        return KVJHelper::GetString(element, (record.*Member)[0], capacity);
+        return readText(element, record.*Member, capacity);
     }};
 
 /// A word, as its code; an unknown word is that of the table's other texts, or leaves the value alone. Without text the
 /// value is left alone.
 template <class Value>
-bool readWord(const TiXmlElement* element, Value& value, const Words& table) {
-    const char* content = textOf(element);
+bool readWord(Element element, Value& value, const Words& table) {
+    const char* content = element.text();
     if (content == nullptr) return false;
     if (const auto code = codeOf(table, content)) value = static_cast<Value>(*code);
     return true;
@@ -54,7 +55,7 @@ bool readWord(const TiXmlElement* element, Value& value, const Words& table) {
 template <auto Member, const auto& Table>
 inline constexpr Getter<RecordOf<Member>> word{
     {.field = nameOf<Member>(), .conversion = "code of the word", .tableName = nameOfTable<Table>(), .table = Table},
-    [](TiXmlElement* element, RecordOf<Member>& record) { return readWord(element, record.*Member, Table); }};
+    [](Element element, RecordOf<Member>& record) { return readWord(element, record.*Member, Table); }};
 
 /// The bits of words, added to those that are set already; an unknown word adds none.
 template <auto Member, const auto& Table>
@@ -62,17 +63,17 @@ inline constexpr Getter<RecordOf<Member>> bits{{.field = nameOf<Member>(),
                                                 .conversion = "bit of the word, added",
                                                 .tableName = nameOfTable<Table>(),
                                                 .table = Table},
-                                               [](TiXmlElement* element, RecordOf<Member>& record) {
-                                                   const char* content = textOf(element);
+                                               [](Element element, RecordOf<Member>& record) {
+                                                   const char* content = element.text();
                                                    if (const auto bit = codeOf(Table, content)) record.*Member |= *bit;
                                                    return content != nullptr;
                                                }};
 
-/// A truth word, as KVJHelper::GetBool reads it.
+/// A truth word.
 template <auto Member>
 inline constexpr Getter<RecordOf<Member>> flag{
     {nameOf<Member>(), "true for exactly `enabled` and `yes`"},
-    [](TiXmlElement* element, RecordOf<Member>& record) { return KVJHelper::GetBool(element, record.*Member); }};
+    [](Element element, RecordOf<Member>& record) { return readTruth(element, record.*Member); }};
 
 /// A word as a template argument.
 template <std::size_t N>
@@ -92,9 +93,9 @@ enum class WithoutText { isFalse, isKept };
 template <auto Member, Literal Word, WithoutText Otherwise = WithoutText::isFalse>
 inline constexpr Getter<RecordOf<Member>> is{
     {.field = nameOf<Member>(), .conversion = "true for exactly", .argument = literal<Word>.characters},
-    [](TiXmlElement* element, RecordOf<Member>& record) {
+    [](Element element, RecordOf<Member>& record) {
         bool& flag = record.*Member;
-        const char* content = textOf(element);
+        const char* content = element.text();
         if (content != nullptr || Otherwise == WithoutText::isFalse) {
             flag = content != nullptr && convert::equal(content, literal<Word>.characters);
         }
@@ -105,9 +106,9 @@ inline constexpr Getter<RecordOf<Member>> is{
 template <auto Member, Literal Word>
 inline constexpr Getter<RecordOf<Member>> isNot{
     {.field = nameOf<Member>(), .conversion = "false for exactly", .argument = literal<Word>.characters},
-    [](TiXmlElement* element, RecordOf<Member>& record) {
+    [](Element element, RecordOf<Member>& record) {
         bool& flag = record.*Member;
-        const char* content = textOf(element);
+        const char* content = element.text();
         if (content != nullptr) flag = !convert::equal(content, literal<Word>.characters);
         return content != nullptr;
     }};
@@ -116,27 +117,24 @@ inline constexpr Getter<RecordOf<Member>> isNot{
 template <auto Member, Literal Name>
 inline constexpr Getter<RecordOf<Member>> attribute{
     {.field = nameOf<Member>(), .conversion = "attribute", .argument = literal<Name>.characters},
-    [](TiXmlElement* element, RecordOf<Member>& record) {
-        auto name = literal<Name>;  // The getter takes names that it could write to.
-        return KVJHelper::GetInt(element, name.characters, record.*Member);
+    [](Element element, RecordOf<Member>& record) {
+        return readAttribute(element, literal<Name>.characters, record.*Member);
     }};
 
-/// Six bytes, as KVJHelper::GetPhysicalAddress reads them.
+/// Six bytes.
 template <auto Member>
 inline constexpr Getter<RecordOf<Member>> hardwareAddress{
-    {nameOf<Member>(), "hardware address"}, [](TiXmlElement* element, RecordOf<Member>& record) {
+    {nameOf<Member>(), "hardware address"}, [](Element element, RecordOf<Member>& record) {
         static_assert(sizeof(ValueOf<Member>) == sizeof(convert::HardwareAddress));
-        return KVJHelper::GetPhysicalAddress(element, record.*Member);
+        return readHardwareAddress(element, record.*Member);
     }};
 
 /// A setting with its range, as KVJConfigParser::getMinMaxVal reads it.
 template <class Setting>
-bool readSetting(TiXmlElement* element, Setting& setting) {
-    char min[] = "min";
-    char max[] = "max";
-    KVJHelper::GetNumberFromAttr(element, min, setting.min);
-    KVJHelper::GetNumberFromAttr(element, max, setting.max);
-    const bool result = KVJHelper::GetNumber(element, setting.value);
+bool readSetting(Element element, Setting& setting) {
+    readAttribute(element, "min", setting.min);
+    readAttribute(element, "max", setting.max);
+    const bool result = readNumber(element, setting.value);
     // Not std::clamp: where the range is the wrong way round, the printer expects its maximum.
     if (setting.value < setting.min) setting.value = setting.min;
     if (setting.value > setting.max) setting.value = setting.max;
@@ -148,13 +146,13 @@ inline constexpr Getter<RecordOf<Member>> setting{
     {nameOf<Member>(), std::is_same_v<ValueOf<Member>, Kavrin::_MinMaxVal>
                            ? "number, brought into the range of `min` and `max`"
                            : "number with a decimal point, brought into the range of `min` and `max`"},
-    [](TiXmlElement* element, RecordOf<Member>& record) { return readSetting(element, record.*Member); }};
+    [](Element element, RecordOf<Member>& record) { return readSetting(element, record.*Member); }};
 
 /// A bit set in hexadecimal behind a literal "0x"; any other text leaves it alone and counts as read.
 template <auto Member>
 inline constexpr Getter<RecordOf<Member>> prefixedHex{{nameOf<Member>(), "hexadecimal behind `0x`"},
-                                                      [](TiXmlElement* element, RecordOf<Member>& record) {
-                                                          const char* content = textOf(element);
+                                                      [](Element element, RecordOf<Member>& record) {
+                                                          const char* content = element.text();
                                                           if (content != nullptr)
                                                               convert::scanPrefixedHex(content, record.*Member);
                                                           return content != nullptr;
@@ -164,19 +162,18 @@ inline constexpr Getter<RecordOf<Member>> prefixedHex{{nameOf<Member>(), "hexade
 template <const auto& Table>
 inline constexpr Getter<RecordOfTable<Table>> group{
     {.field = {}, .conversion = "group", .group = described<Table>},
-    [](TiXmlElement* element, RecordOfTable<Table>& record) { return walk(element, record, Table); }};
+    [](Element element, RecordOfTable<Table>& record) { return walk(element, record, Table); }};
 
 /// A group of elements, walked with a table of its own into a record inside the record.
 template <auto Member, const auto& Table>
 inline constexpr Getter<RecordOf<Member>> part{
     {.field = nameOf<Member>(), .conversion = "group", .group = described<Table>},
-    [](TiXmlElement* element, RecordOf<Member>& record) { return walk(element, record.*Member, Table); }};
+    [](Element element, RecordOf<Member>& record) { return walk(element, record.*Member, Table); }};
 
 /// A number that is all that is read: the record is the number.
 template <class Number>
-inline constexpr Getter<Number> itself{{{}, numberKind<Number>}, [](TiXmlElement* element, Number& number) {
-                                           return KVJHelper::GetNumber(element, number);
-                                       }};
+inline constexpr Getter<Number> itself{{{}, numberKind<Number>},
+                                       [](Element element, Number& number) { return readNumber(element, number); }};
 
 /// A list being filled: entries of the host's, as many as it has room for.
 template <class Entry>
@@ -189,7 +186,7 @@ struct List {
 /// Reads one more entry of a list. When there is no room it is skipped: nothing is written, and the result stays that
 /// of the last entry.
 template <class Entry>
-bool readNext(TiXmlElement* element, List<Entry>& list, const Getter<Entry>& getter) {
+bool readNext(Element element, List<Entry>& list, const Getter<Entry>& getter) {
     if (list.filled < list.entries.size()) list.result = getter.read(element, list.entries[list.filled++]);
     return list.result;
 }
@@ -198,7 +195,7 @@ bool readNext(TiXmlElement* element, List<Entry>& list, const Getter<Entry>& get
 template <const auto& Table>
 inline constexpr Getter<List<RecordOfTable<Table>>> entry{
     {.field = {}, .conversion = "entry of a list", .group = described<Table>},
-    [](TiXmlElement* element, List<RecordOfTable<Table>>& list) { return readNext(element, list, group<Table>); }};
+    [](Element element, List<RecordOfTable<Table>>& list) { return readNext(element, list, group<Table>); }};
 
 template <class Record>
 Record recordOf(const Getter<Record>&);
@@ -206,8 +203,7 @@ Record recordOf(const Getter<Record>&);
 /// An entry that has no elements of its own: the getter reads its text.
 template <const auto& Text>
 inline constexpr Getter<List<RecordOfTable<Text>>> each{
-    Text.description,
-    [](TiXmlElement* element, List<RecordOfTable<Text>>& list) { return readNext(element, list, Text); }};
+    Text.description, [](Element element, List<RecordOfTable<Text>>& list) { return readNext(element, list, Text); }};
 
 }  // namespace kvjxml
 

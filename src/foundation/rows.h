@@ -13,14 +13,13 @@
 #ifndef KVJXML_FOUNDATION_ROWS_H
 #define KVJXML_FOUNDATION_ROWS_H
 
-#include <tinyxml.h>
-
 #include <algorithm>
 #include <array>
 #include <cstddef>
 #include <span>
 #include <string_view>
 
+#include "foundation/element.h"
 #include "foundation/words.h"
 
 namespace kvjxml {
@@ -51,7 +50,7 @@ template <class Record>
 struct Getter {
     Description description;
     /// False when there was nothing to read or it did not fit; the field then has what the conversion says.
-    bool (*read)(TiXmlElement* element, Record& record);
+    bool (*read)(Element element, Record& record);
 };
 
 template <class Record>
@@ -83,13 +82,10 @@ consteval Rows<Record, N> rows(const Row<Record> (&list)[N]) {
 /// exactly, one without a row is skipped, one that comes again is read again.
 /// @return the result of the last child that had a row; false for a null element and one without such a child.
 template <class Record, std::size_t N>
-bool walk(TiXmlElement* element, Record& record, const Rows<Record, N>& table) {
-    if (element == nullptr) return false;
+bool walk(Element element, Record& record, const Rows<Record, N>& table) {
     bool result = false;
-    for (TiXmlNode* node = element->FirstChild(); node != nullptr; node = node->NextSibling()) {
-        TiXmlElement* const child = node->ToElement();
-        if (child == nullptr) continue;
-        const auto row = std::ranges::find(table, std::string_view(child->ValueStr()), &Row<Record>::name);
+    for (const Element child : element.children()) {
+        const auto row = std::ranges::find(table, child.name(), &Row<Record>::name);
         if (row != table.end()) result = row->getter.read(child, record);
     }
     return result;

@@ -7,11 +7,26 @@
 #include <string>
 #include <type_traits>
 
-#include "KVJHelper.h"
+#include "FoundationRecords.h"
 #include "foundation/compose.h"
 #include "foundation/convert.h"
 #include "foundation/getters.h"
 #include "foundation/member.h"
+
+namespace kvjxml {
+
+/// Adds a setting with its range.
+inline bool addSetting(TiXmlElement* parent, const char* name, const Kavrin::_MinMaxVal& setting) {
+    return addSetting(parent, name, convert::fromInt(setting.min).c_str(), convert::fromInt(setting.max).c_str(),
+                      convert::fromInt(setting.value).c_str());
+}
+inline bool addSetting(TiXmlElement* parent, const char* name, const Kavrin::_MinMaxValFloat& setting) {
+    // The printer expects the maximum as the element's text here, not the value.
+    const convert::Digits max = convert::fromDouble(setting.max, 2);
+    return addSetting(parent, name, convert::fromDouble(setting.min, 2).c_str(), max.c_str(), max.c_str());
+}
+
+}  // namespace kvjxml
 
 namespace kvjxml::put {
 
@@ -79,8 +94,7 @@ inline constexpr Writer<RecordOf<Member>> setting{
                            ? "attributes `min` and `max`, and the value"
                            : "attributes `min` and `max`, and the maximum once more, with two decimals"},
     [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
-        std::string tag(name);  // KVJHelper takes names that it could write to.
-        return KVJHelper::AddTagMinMaxVal(parent, tag.data(), record.*Member);
+        return addSetting(parent, name, record.*Member);
     }};
 
 /// Six bytes, "00:1a:2b:3c:4d:5e".

@@ -10,7 +10,7 @@ using kvjxml::walk;
 namespace tables = kvjxml::identity;
 
 bool KVJGetEIN::GetMagneticTracks(const char& reply, int /*ignored*/, __GETTRACK& tracks) {
-    return parseMag(Reply(&reply).root("data"), tracks);
+    return walk(Reply(&reply).root("data"), tracks, tables::magneticTracks);
 }
 
 bool KVJGetEIN::parseMag(TiXmlElement* element, __GETTRACK& tracks) {

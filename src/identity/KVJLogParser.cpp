@@ -8,22 +8,15 @@
 
 namespace Kavrin {
 
+using kvjxml::Element;
 using kvjxml::List;
 using kvjxml::Reply;
 using kvjxml::walk;
 namespace tables = kvjxml::identity;
 
-bool KVJLogParser::ParseLogServiceXML(const wchar_t& reply, unsigned long length, _tagLogServiceXML& log) {
-    return parseServiceHistoryValues(Reply(reply, static_cast<std::int64_t>(length)).root("get_log_service_history"),
-                                     log);
-}
+namespace {
 
-bool KVJLogParser::ParseCleaningLog(const wchar_t& reply, unsigned long length, _tagCleaningLogEntry (&entries)[32]) {
-    return getCleaningLogValues(Reply(reply, static_cast<std::int64_t>(length)).root("get_log_cleaning_history"),
-                                entries);
-}
-
-bool KVJLogParser::parseServiceHistoryValues(TiXmlElement* element, _tagLogServiceXML& log) {
+bool readServiceHistory(Element element, _tagLogServiceXML& log) {
     const std::size_t children = kvjxml::countChildren(element);
     if (children == 0) return false;
     if (log.entries == nullptr) {
@@ -34,13 +27,32 @@ bool KVJLogParser::parseServiceHistoryValues(TiXmlElement* element, _tagLogServi
     return walk(element, list, tables::serviceHistory);
 }
 
+bool readCleaningHistory(Element element, _tagCleaningLogEntry (&entries)[32]) {
+    List<_tagCleaningLogEntry> list{entries};
+    return walk(element, list, tables::cleaningHistory);
+}
+
+}  // namespace
+
+bool KVJLogParser::ParseLogServiceXML(const wchar_t& reply, unsigned long length, _tagLogServiceXML& log) {
+    return readServiceHistory(Reply(reply, static_cast<std::int64_t>(length)).root("get_log_service_history"), log);
+}
+
+bool KVJLogParser::ParseCleaningLog(const wchar_t& reply, unsigned long length, _tagCleaningLogEntry (&entries)[32]) {
+    return readCleaningHistory(Reply(reply, static_cast<std::int64_t>(length)).root("get_log_cleaning_history"),
+                               entries);
+}
+
+bool KVJLogParser::parseServiceHistoryValues(TiXmlElement* element, _tagLogServiceXML& log) {
+    return readServiceHistory(element, log);
+}
+
 bool KVJLogParser::getServiceValues(TiXmlElement* element, _tagLogServiceValues& entry) {
     return walk(element, entry, tables::serviceEntry);
 }
 
 bool KVJLogParser::getCleaningLogValues(TiXmlElement* element, _tagCleaningLogEntry (&entries)[32]) {
-    List<_tagCleaningLogEntry> list{entries};
-    return walk(element, list, tables::cleaningHistory);
+    return readCleaningHistory(element, entries);
 }
 
 bool KVJLogParser::getCleaningLogEntry(TiXmlElement* element, _tagCleaningLogEntry& entry) {

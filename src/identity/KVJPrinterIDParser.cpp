@@ -7,10 +7,9 @@ namespace Kavrin {
 
 bool KVJPrinterIDParser::ParsePrinterInfo(const char* text, int /*length*/, KVPrinterInfo& info) {
     Clear();
-    kvjxml::parse(*this, text);
-    const bool result = parsePrinterInfo(FirstChildElement("printer_id"), info);
-    Clear();
-    return result;
+    const kvjxml::Reply reply(text);
+    kvjxml::tellFault(reply, *this);
+    return kvjxml::walk(reply.root("printer_id"), info, kvjxml::identity::printer);
 }
 
 bool KVJPrinterIDParser::parsePrinterInfo(TiXmlElement* element, KVPrinterInfo& info) {

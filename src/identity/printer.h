@@ -13,22 +13,21 @@ using namespace Kavrin;  // the records
 
 /// A number that a text which is none leaves alone; it counts as read all the same.
 template <auto Member, auto Scan>
-bool scanned(const TiXmlElement* element, RecordOf<Member>& record) {
-    const char* content = textOf(element);
+bool scanned(Element element, RecordOf<Member>& record) {
+    const char* content = element.text();
     if (content != nullptr) Scan(content, record.*Member);
     return content != nullptr;
 }
 
 template <auto Member>
-inline constexpr Getter<RecordOf<Member>> serial{{nameOf<Member>(), "number; any other text leaves it alone"},
-                                                 [](TiXmlElement* element, RecordOf<Member>& record) {
-                                                     return scanned<Member, convert::scanUnsigned>(element, record);
-                                                 }};
+inline constexpr Getter<RecordOf<Member>> serial{
+    {nameOf<Member>(), "number; any other text leaves it alone"},
+    [](Element element, RecordOf<Member>& record) { return scanned<Member, convert::scanUnsigned>(element, record); }};
 
 template <auto Member>
 inline constexpr Getter<RecordOf<Member>> hexByte{
     {nameOf<Member>(), "at most two hexadecimal digits behind `0x`; any other text leaves it alone"},
-    [](TiXmlElement* element, RecordOf<Member>& record) {
+    [](Element element, RecordOf<Member>& record) {
         return scanned<Member, convert::scanPrefixedHexByte>(element, record);
     }};
 

@@ -9,7 +9,7 @@ using kvjxml::walk;
 namespace tables = kvjxml::media;
 
 bool KVJMediaParser::GetMedia(const char& text, int /*length*/, _KVMediaInfo& media) {
-    parseMedia(kvjxml::Reply(&text).root("media"), media);
+    walk(kvjxml::Reply(&text).root("media"), media, tables::catalogue);
     return false;  // Whatever was read: hosts look at the lists.
 }
 

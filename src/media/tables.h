@@ -17,18 +17,17 @@ using namespace Kavrin;  // the records
 
 /// The value of a setting as it stands: the catalogue knows no ranges.
 template <auto Member>
-inline constexpr Getter<RecordOf<Member>> value{{nameOf<Member>(), numberKind<decltype(ValueOf<Member>::value)>},
-                                                [](TiXmlElement* element, RecordOf<Member>& record) {
-                                                    return KVJHelper::GetNumber(element, (record.*Member).value);
-                                                }};
+inline constexpr Getter<RecordOf<Member>> value{
+    {nameOf<Member>(), numberKind<decltype(ValueOf<Member>::value)>},
+    [](Element element, RecordOf<Member>& record) { return readNumber(element, (record.*Member).value); }};
 
 /// A new entry of a list, also for an element with nothing in it.
 template <auto Member, const auto& Table>
 inline constexpr Getter<_KVMediaInfo> append{
     {.field = nameOf<Member>(), .conversion = "a new entry of the list", .group = described<Table>},
-    [](TiXmlElement* element, _KVMediaInfo& catalogue) {
+    [](Element element, _KVMediaInfo& catalogue) {
         auto* const entries = catalogue.*Member;
-        if (element == nullptr || entries == nullptr) return false;
+        if (!element || entries == nullptr) return false;
         auto entry = std::make_unique<RecordOfTable<Table>>();
         const bool result = walk(element, *entry, Table);
         entries->push_back(entry.get());

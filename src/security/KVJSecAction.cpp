@@ -3,12 +3,14 @@
 #include <cstring>
 
 #include "foundation/reply.h"
+#include "foundation/values.h"
 #include "security/tables.h"
 
 namespace Kavrin {
 
+using kvjxml::Element;
+using kvjxml::readText;
 using kvjxml::Reply;
-using kvjxml::textOf;
 using kvjxml::walk;
 namespace tables = kvjxml::security;
 
@@ -23,25 +25,7 @@ const char* actionNameIn(const char* text) {
     return code ? wordOf(tables::actionNames, *code) : nullptr;
 }
 
-}  // namespace
-
-bool KVJSecAction::GetNonceValue(const wchar_t& reply, int length, char* nonce) {
-    constexpr int capacity = 32;
-    if (nonce == nullptr) return false;
-    return KVJHelper::GetString(Reply(reply, length).root("nonce"), *nonce, capacity);
-}
-
-bool KVJSecAction::ParseHostDHKeyValues(const wchar_t& reply, unsigned long length, _tagHostDHKeys& keys) {
-    long printerKey = 0;
-    return ParseDHKeys(Reply(reply, signedLength(length)).root("diffie_hellman"), keys, printerKey);
-}
-
-bool KVJSecAction::ParsePrinterDHKeyValues(const wchar_t& reply, unsigned long length, long& key) {
-    _tagHostDHKeys keys{};
-    return ParseDHKeys(Reply(reply, signedLength(length)).root("diffie_hellman"), keys, key);
-}
-
-bool KVJSecAction::ParseDHKeys(TiXmlElement* element, _tagHostDHKeys& keys, long& printerKey) {
+bool readKeyExchange(Element element, _tagHostDHKeys& keys, long& printerKey) {
     tables::KeyExchange exchange{keys.modulus, keys.base, keys.host_interim_key, static_cast<unsigned long>(printerKey),
                                  false};
     walk(element, exchange, tables::keyExchange);
@@ -50,15 +34,37 @@ bool KVJSecAction::ParseDHKeys(TiXmlElement* element, _tagHostDHKeys& keys, long
     return exchange.any;
 }
 
+}  // namespace
+
+bool KVJSecAction::GetNonceValue(const wchar_t& reply, int length, char* nonce) {
+    constexpr int capacity = 32;
+    if (nonce == nullptr) return false;
+    return readText(Reply(reply, length).root("nonce"), nonce, capacity);
+}
+
+bool KVJSecAction::ParseHostDHKeyValues(const wchar_t& reply, unsigned long length, _tagHostDHKeys& keys) {
+    long printerKey = 0;
+    return readKeyExchange(Reply(reply, signedLength(length)).root("diffie_hellman"), keys, printerKey);
+}
+
+bool KVJSecAction::ParsePrinterDHKeyValues(const wchar_t& reply, unsigned long length, long& key) {
+    _tagHostDHKeys keys{};
+    return readKeyExchange(Reply(reply, signedLength(length)).root("diffie_hellman"), keys, key);
+}
+
+bool KVJSecAction::ParseDHKeys(TiXmlElement* element, _tagHostDHKeys& keys, long& printerKey) {
+    return readKeyExchange(element, keys, printerKey);
+}
+
 bool KVJSecAction::ParseSecureDirectiveValues(const wchar_t& reply, unsigned long length, _tagSecDirecXML& directive) {
-    Reply message(reply, signedLength(length));
-    TiXmlElement* action = message.root("action");
-    if (const char* text = textOf(action)) {
+    const Reply message(reply, signedLength(length));
+    const Element action = message.root("action");
+    if (const char* text = action.text()) {
         // The name is looked for in the whole text: in what fits of it, an unlocking could become a locking.
         const char* name = actionNameIn(text);
         kvjxml::convert::copy(name != nullptr ? name : text, directive.action, sizeof directive.action);
     }
-    return ParseDirectiveValues(action, directive);
+    return walk(action, directive, tables::directive);
 }
 
 bool KVJSecAction::ParseDirectiveValues(TiXmlElement* element, _tagSecDirecXML& directive) {
@@ -67,7 +73,7 @@ bool KVJSecAction::ParseDirectiveValues(TiXmlElement* element, _tagSecDirecXML& 
 
 bool KVJSecAction::ParseSecureRequestValues(wchar_t* reply, unsigned long length, _tagSecReqXML& request) {
     if (reply == nullptr) return false;
-    return ParseReqValues(Reply(*reply, signedLength(length)).root("secure_action_request"), request);
+    return walk(Reply(*reply, signedLength(length)).root("secure_action_request"), request, tables::request);
 }
 
 bool KVJSecAction::ParseReqValues(TiXmlElement* element, _tagSecReqXML& request) {
@@ -75,7 +81,7 @@ bool KVJSecAction::ParseReqValues(TiXmlElement* element, _tagSecReqXML& request)
 }
 
 bool KVJSecAction::ParseSecurityKeys(const wchar_t& reply, unsigned long length, _tagSecKeys& keys) {
-    return ParseHostNEncryptKey(Reply(reply, signedLength(length)).root("keys"), keys);
+    return walk(Reply(reply, signedLength(length)).root("keys"), keys, tables::keys);
 }
 
 bool KVJSecAction::ParseHostNEncryptKey(TiXmlElement* element, _tagSecKeys& keys) {
@@ -83,7 +89,7 @@ bool KVJSecAction::ParseHostNEncryptKey(TiXmlElement* element, _tagSecKeys& keys
 }
 
 bool KVJSecAction::ParseSetSecurityKeys(const wchar_t& reply, unsigned long length, _tagSecSetKeys& keys) {
-    return ParsePassKey(Reply(reply, signedLength(length)).root("keys"), keys);
+    return walk(Reply(reply, signedLength(length)).root("keys"), keys, tables::keyChanges);
 }
 
 bool KVJSecAction::ParsePassKey(TiXmlElement* element, _tagSecSetKeys& keys) {
@@ -95,8 +101,8 @@ bool KVJSecAction::ParsePassKey1(TiXmlElement* element, _tagSecSetKeys& keys) {
 }
 
 bool KVJSecAction::ParseGetSecureActionRequest(const wchar_t& reply, unsigned long length, _tagSecSetKeys& keys) {
-    return KVJHelper::GetString(Reply(reply, signedLength(length)).root("passkey"), keys.current_passkey[0],
-                                sizeof keys.current_passkey);
+    return readText(Reply(reply, signedLength(length)).root("passkey"), keys.current_passkey,
+                    sizeof keys.current_passkey);
 }
 
 bool KVJSecAction::GetActionName(char* name) {

@@ -9,7 +9,6 @@
 #include "SecurityRecords.h"
 #include "foundation/getters.h"
 #include "foundation/rows.h"
-#include "foundation/tags.h"
 #include "foundation/words.h"
 
 namespace kvjxml::security {
@@ -29,8 +28,8 @@ struct KeyExchange {
 /// element without text does not take back what came before it.
 template <auto Member>
 inline constexpr Getter<KeyExchange> keyNumber{{nameOf<Member>(), "number, hexadecimal behind `0x`"},
-                                               [](TiXmlElement* element, KeyExchange& exchange) {
-                                                   if (const char* content = textOf(element)) {
+                                               [](Element element, KeyExchange& exchange) {
+                                                   if (const char* content = element.text()) {
                                                        convert::scanKeyNumber(content, exchange.*Member);
                                                        exchange.any = true;
                                                    }
@@ -39,9 +38,9 @@ inline constexpr Getter<KeyExchange> keyNumber{{nameOf<Member>(), "number, hexad
 
 /// Sets an attribute of the received element from a field that need not be terminated.
 template <std::size_t N>
-void setFromField(TiXmlElement* element, const char* name, const char (&field)[N]) {
+void setFromField(Element element, const char* name, const char (&field)[N]) {
     const std::string value(field, strnlen(field, N));
-    kvjxml::setAttribute(element, name, value.c_str());
+    element.setAttribute(name, value.c_str());
 }
 
 /// The printer's identity is the host's to know: the received element is given what the record holds, and the record is
@@ -49,7 +48,7 @@ void setFromField(TiXmlElement* element, const char* name, const char (&field)[N
 template <class Record>
 inline constexpr Getter<Record> printerIdentity{
     {.field = {}, .conversion = "nothing: its attributes `model`, `serial` and `nonce` are set from the record"},
-    [](TiXmlElement* element, Record& record) {
+    [](Element element, Record& record) {
         setFromField(element, "model", record.model);
         setFromField(element, "serial", record.serial);
         setFromField(element, "nonce", record.nonce);
@@ -58,7 +57,7 @@ inline constexpr Getter<Record> printerIdentity{
 
 inline constexpr Getter<_tagSecReqXML> actionIdentity{
     {.field = {}, .conversion = "nothing: its attribute `name` is set from the record"},
-    [](TiXmlElement* element, _tagSecReqXML& request) {
+    [](Element element, _tagSecReqXML& request) {
         setFromField(element, "name", request.action);
         return true;
     }};

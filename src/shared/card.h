@@ -33,10 +33,9 @@ struct NonContactEncode {
 
 /// A truth word into one bit; the bits beside it stay as they are. Without text the bit is cleared.
 template <class Card, class Bit>
-inline constexpr Getter<Card> bit{{Bit::name, "true for exactly `enabled` and `yes`"},
-                                  [](TiXmlElement* element, Card& card) {
+inline constexpr Getter<Card> bit{{Bit::name, "true for exactly `enabled` and `yes`"}, [](Element element, Card& card) {
                                       bool flag = false;
-                                      const bool result = KVJHelper::GetBool(element, flag);
+                                      const bool result = readTruth(element, flag);
                                       Bit::set(card, flag);
                                       return result;
                                   }};

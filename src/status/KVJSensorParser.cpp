@@ -10,11 +10,11 @@ using kvjxml::walk;
 namespace tables = kvjxml::status;
 
 bool KVJSensorParser::ParseSensorInfo(const wchar_t& reply, int length, KVSensorInfo& sensors) {
-    return parseSensorInfo(Reply(reply, length).root("get_sensor_status"), sensors);
+    return walk(Reply(reply, length).root("get_sensor_status"), sensors, tables::sensorInfo);
 }
 
 bool KVJSensorParser::ParseSensorStates(const char* reply, int /*ignored*/, _KVPrinterSensorInfo& states) {
-    return getSensorStates(Reply(reply).root("get_sensor_status"), states);
+    return walk(Reply(reply).root("get_sensor_status"), states, tables::sensorStates);
 }
 
 bool KVJSensorParser::parseSensorInfo(TiXmlElement* element, KVSensorInfo& sensors) {

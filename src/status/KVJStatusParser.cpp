@@ -12,15 +12,40 @@
 namespace Kavrin {
 
 using kvjxml::anyCodeOf;
+using kvjxml::Element;
 using kvjxml::List;
 using kvjxml::Reply;
 using kvjxml::walk;
 namespace tables = kvjxml::status;
 
+namespace {
+
+bool readJobList(Element element, KVJobList& list) {
+    if (!element) return false;
+    const int capacity = std::clamp(list.count, 0, KVJOBLIST_CAPACITY);
+    List<_KVJobInfo> jobs{{list.jobs, static_cast<std::size_t>(capacity)}};
+    const bool result = walk(element, jobs, tables::jobList);
+    list.count = static_cast<int>(jobs.filled);
+    return result;
+}
+
+bool readAccessPoints(Element element, _tagAccessPoints& list) {
+    if (!element) return false;
+    const std::size_t children = kvjxml::countChildren(element);
+    // Of a host that passes no count the array is as large as the reply needs it.
+    const bool isShort = list.accessPoints != nullptr && list.count > 0 && list.count < children;
+    if (!isShort) list.count = static_cast<unsigned int>(children);
+    if (list.accessPoints == nullptr) return true;
+    List<_tagAccessPoint> accessPoints{{list.accessPoints, list.count}};
+    return walk(element, accessPoints, tables::accessPoints);
+}
+
+}  // namespace
+
 // ---- General status and jobs ----
 
 bool KVJStatusParser::ParseStatus(const wchar_t& reply, int length, KVGeneralStatus& status) {
-    return parseStatus(Reply(reply, length).root("get_general_status"), status);
+    return walk(Reply(reply, length).root("get_general_status"), status, tables::generalStatus);
 }
 
 bool KVJStatusParser::parseStatus(TiXmlElement* element, KVGeneralStatus& status) {
@@ -28,7 +53,7 @@ bool KVJStatusParser::parseStatus(TiXmlElement* element, KVGeneralStatus& status
 }
 
 bool KVJStatusParser::ParseJobStatus(const wchar_t& reply, int length, KVJobStatus& status) {
-    return parseJobStatus(Reply(reply, length).root("get_job_status"), status);
+    return walk(Reply(reply, length).root("get_job_status"), status, tables::jobStatus);
 }
 
 bool KVJStatusParser::parseJobStatus(TiXmlElement* element, KVJobStatus& status) {
@@ -44,17 +69,10 @@ bool KVJStatusParser::getStatus(TiXmlElement* element, KVJobStatus& status) {
 }
 
 bool KVJStatusParser::ParseJobList(const wchar_t& reply, int length, KVJobList& list) {
-    return parseJobList(Reply(reply, length).root("get_job_list"), list);
+    return readJobList(Reply(reply, length).root("get_job_list"), list);
 }
 
-bool KVJStatusParser::parseJobList(TiXmlElement* element, KVJobList& list) {
-    if (element == nullptr) return false;
-    const int capacity = std::clamp(list.count, 0, KVJOBLIST_CAPACITY);
-    List<_KVJobInfo> jobs{{list.jobs, static_cast<std::size_t>(capacity)}};
-    const bool result = walk(element, jobs, tables::jobList);
-    list.count = static_cast<int>(jobs.filled);
-    return result;
-}
+bool KVJStatusParser::parseJobList(TiXmlElement* element, KVJobList& list) { return readJobList(element, list); }
 
 bool KVJStatusParser::parseJobInfo(TiXmlElement* element, _KVJobInfo& job) {
     return walk(element, job, tables::jobInfo);
@@ -63,7 +81,7 @@ bool KVJStatusParser::parseJobInfo(TiXmlElement* element, _KVJobInfo& job) {
 // ---- Media ----
 
 bool KVJStatusParser::ParseMediaStatus(const wchar_t& reply, int length, MediaStatus& status) {
-    return parseMediaStatus(Reply(reply, length).root("get_media_status"), status);
+    return walk(Reply(reply, length).root("get_media_status"), status, tables::mediaStatus);
 }
 
 bool KVJStatusParser::parseMediaStatus(TiXmlElement* element, MediaStatus& status) {
@@ -90,7 +108,7 @@ bool KVJStatusParser::getRibbonDescription(TiXmlElement* element, char* descript
 // ---- Counters, memory and cleaning ----
 
 bool KVJStatusParser::ParseCardCount(const wchar_t& reply, int length, KVCardCount& counts) {
-    return parseCardCount(Reply(reply, length).root("get_count"), counts);
+    return walk(Reply(reply, length).root("get_count"), counts, tables::cardCount);
 }
 
 bool KVJStatusParser::parseCardCount(TiXmlElement* element, KVCardCount& counts) {
@@ -98,7 +116,7 @@ bool KVJStatusParser::parseCardCount(TiXmlElement* element, KVCardCount& counts)
 }
 
 bool KVJStatusParser::ParseCleanLogCount(const wchar_t& reply, int length, int& cards) {
-    return parseCleanLog(Reply(reply, length).root("get_count"), cards);
+    return walk(Reply(reply, length).root("get_count"), cards, tables::cardsUntilCleaning);
 }
 
 bool KVJStatusParser::parseCleanLog(TiXmlElement* element, int& cards) {
@@ -106,7 +124,7 @@ bool KVJStatusParser::parseCleanLog(TiXmlElement* element, int& cards) {
 }
 
 bool KVJStatusParser::ParseUpTime(const wchar_t& reply, int length, KVUpTimes& times) {
-    return parseUpTime(Reply(reply, length).root("get_laminator_up_times"), times);
+    return walk(Reply(reply, length).root("get_laminator_up_times"), times, tables::upTimes);
 }
 
 bool KVJStatusParser::parseUpTime(TiXmlElement* element, KVUpTimes& times) {
@@ -114,11 +132,11 @@ bool KVJStatusParser::parseUpTime(TiXmlElement* element, KVUpTimes& times) {
 }
 
 bool KVJStatusParser::GetPrinterFreeSpace(const wchar_t& reply, int length, __MEMORY& memory) {
-    return getFreeSpace(Reply(reply, length).root("get_free_ram"), memory);
+    return walk(Reply(reply, length).root("get_free_ram"), memory, tables::freeSpace);
 }
 
 bool KVJStatusParser::GetFlashFreeSpace(const wchar_t& reply, int length, __MEMORY& memory) {
-    return getFreeSpace(Reply(reply, length).root("get_free_flash"), memory);
+    return walk(Reply(reply, length).root("get_free_flash"), memory, tables::freeSpace);
 }
 
 bool KVJStatusParser::getFreeSpace(TiXmlElement* element, __MEMORY& memory) {
@@ -132,7 +150,7 @@ bool KVJStatusParser::ParseCleaningStatus(const wchar_t& reply, int length, KVCl
 // ---- Sensors ----
 
 bool KVJStatusParser::ParseSensorStatus(const wchar_t& reply, int length, _SENSOR& sensors) {
-    return parseSensorStatus(Reply(reply, length).root("get_sensor_status"), sensors);
+    return walk(Reply(reply, length).root("get_sensor_status"), sensors, tables::sensorStatus);
 }
 
 bool KVJStatusParser::parseSensorStatus(TiXmlElement* element, _SENSOR& sensors) {
@@ -150,7 +168,7 @@ bool KVJStatusParser::parseSensorValue(TiXmlElement* element, _SENSOR& sensors) 
 // ---- Wireless ----
 
 bool KVJStatusParser::ParseWirelessStatusXML(const wchar_t& reply, int length, _tagWirelessStatus& status) {
-    return parseWirelessStatus(Reply(reply, length).root("get_wireless_status"), status);
+    return walk(Reply(reply, length).root("get_wireless_status"), status, tables::wirelessStatus);
 }
 
 bool KVJStatusParser::parseWirelessStatus(TiXmlElement* element, _tagWirelessStatus& status) {
@@ -162,7 +180,7 @@ bool KVJStatusParser::ParsePacketsInfo(TiXmlElement* element, _tagPackets& packe
 }
 
 bool KVJStatusParser::ParseWirlessRadioXML(const wchar_t& reply, int length, _tagWirelessRadioStatus& status) {
-    return parseWirelessRadioStatus(Reply(reply, length).root("get_wireless_radio_status"), status);
+    return walk(Reply(reply, length).root("get_wireless_radio_status"), status, tables::wirelessRadioStatus);
 }
 
 bool KVJStatusParser::parseWirelessRadioStatus(TiXmlElement* element, _tagWirelessRadioStatus& status) {
@@ -170,18 +188,11 @@ bool KVJStatusParser::parseWirelessRadioStatus(TiXmlElement* element, _tagWirele
 }
 
 bool KVJStatusParser::ParseAccessPoints(const wchar_t& reply, int length, _tagAccessPoints& list) {
-    return parseAllWirelessAccessPoint(Reply(reply, length).root("AccessPoints"), list);
+    return readAccessPoints(Reply(reply, length).root("AccessPoints"), list);
 }
 
 bool KVJStatusParser::parseAllWirelessAccessPoint(TiXmlElement* element, _tagAccessPoints& list) {
-    if (element == nullptr) return false;
-    const std::size_t children = kvjxml::countChildren(element);
-    // Of a host that passes no count the array is as large as the reply needs it.
-    const bool isShort = list.accessPoints != nullptr && list.count > 0 && list.count < children;
-    if (!isShort) list.count = static_cast<unsigned int>(children);
-    if (list.accessPoints == nullptr) return true;
-    List<_tagAccessPoint> accessPoints{{list.accessPoints, list.count}};
-    return walk(element, accessPoints, tables::accessPoints);
+    return readAccessPoints(element, list);
 }
 
 bool KVJStatusParser::parseWirelessAccessPoints(TiXmlElement* element, _tagAccessPoint& accessPoint) {

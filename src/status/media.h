@@ -21,10 +21,9 @@ inline constexpr int descriptionCapacity = sizeof(_MediaStatusInfo::description)
 
 /// The word of one panel, appended without a separator: the panels Y, M and C make "YMC". What does not fit is cut.
 inline constexpr Getter<PanelSequence> panel{
-    {"description", "text, appended"}, [](TiXmlElement* element, PanelSequence& sequence) {
+    {"description", "text, appended"}, [](Element element, PanelSequence& sequence) {
         const auto used = static_cast<int>(strnlen(sequence.description, descriptionCapacity));
-        return used < descriptionCapacity &&
-               KVJHelper::GetString(element, sequence.description[used], descriptionCapacity - used);
+        return used < descriptionCapacity && readText(element, sequence.description + used, descriptionCapacity - used);
     }};
 
 // clang-format off
@@ -38,7 +37,7 @@ inline constexpr auto panelSequence = rows<PanelSequence>({
 inline constexpr Getter<_MediaStatusInfo> sequence{
     {.field = "code", .conversion = "code of the description with the panels behind it",
      .tableName = "ribbonDescriptions", .table = ribbonDescriptions, .group = described<panelSequence>},
-    [](TiXmlElement* element, _MediaStatusInfo& ribbon) {
+    [](Element element, _MediaStatusInfo& ribbon) {
         PanelSequence panels{ribbon.description};
         if (!walk(element, panels, panelSequence)) return false;
         ribbon.code = anyCodeOf(ribbonDescriptions, ribbon.description);
@@ -49,7 +48,7 @@ inline constexpr Getter<_MediaStatusInfo> sequence{
 inline constexpr Getter<_MediaStatusInfo> description{
     {.field = "description", .conversion = "text, and its code to `code`", .capacity = descriptionCapacity,
      .tableName = "ribbonNames", .table = ribbonNames},
-    [](TiXmlElement* element, _MediaStatusInfo& medium) {
+    [](Element element, _MediaStatusInfo& medium) {
         if (!text<&_MediaStatusInfo::description>.read(element, medium)) return false;
         medium.code = anyCodeOf(ribbonNames, medium.description);
         return true;

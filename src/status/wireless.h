@@ -55,8 +55,8 @@ inline constexpr WordTable cipherWords({{"none", 0},
 
 /// ORs the code of an element's word into `codes`; an unknown word adds nothing. Hosts read a reply a second time into
 /// the same record to combine the codes, so nothing is cleared.
-inline bool combine(TiXmlElement* element, unsigned int& codes, Words table) {
-    const char* content = textOf(element);
+inline bool combine(Element element, unsigned int& codes, Words table) {
+    const char* content = element.text();
     if (content != nullptr) codes |= static_cast<unsigned int>(codeOf(table, content).value_or(0));
     return content != nullptr;
 }
@@ -67,7 +67,7 @@ inline constexpr Getter<RecordOf<Member>> combined{
      .conversion = "code of the word, OR-ed in",
      .tableName = nameOfTable<Table>(),
      .table = Table},
-    [](TiXmlElement* element, RecordOf<Member>& record) { return combine(element, record.*Member, Table); }};
+    [](Element element, RecordOf<Member>& record) { return combine(element, record.*Member, Table); }};
 
 // clang-format off
 

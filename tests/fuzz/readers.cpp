@@ -47,8 +47,10 @@ void check(const Reader& reader, const Text& text) {
     };
     const Outcome outcome = read(reader, text);
     require(reads(text, outcome), "the same reply reads the same again");
-    Reply reply = reader.takesWide ? Reply(*text.wide, static_cast<std::int64_t>(text.length)) : Reply(text.narrow);
-    if (reply.root(reader.root) == nullptr) {
+    const auto length = static_cast<std::int64_t>(text.length);
+    const bool hasMessage = reader.takesWide ? static_cast<bool>(Reply(*text.wide, length).root(reader.root))
+                                             : static_cast<bool>(Reply(text.narrow).root(reader.root));
+    if (!hasMessage) {
         require(!outcome.result && reads({"", L"", 0}, outcome), "without the message nothing is read");
     }
 }

@@ -1,4 +1,4 @@
-// error: no matching function for call to 'GetNumber
+// error: no matching function for call to 'readNumber
 #include "StatusRecords.h"
 #include "foundation/getters.h"
 

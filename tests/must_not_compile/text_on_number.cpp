@@ -1,4 +1,4 @@
-// error: subscripted value is (neither|not an) array
+// error: (invalid conversion from 'int' to 'char\*'|no matching function for call to 'readText')
 #include "StatusRecords.h"
 #include "foundation/getters.h"
 

@@ -323,11 +323,6 @@ constexpr Reader alone(Reader reader) {
     return reader;
 }
 
-constexpr Reader allocating(std::size_t count, Reader reader) {
-    reader.ownAllocations = count;
-    return reader;
-}
-
 constexpr auto parseJobList = &KVJStatusParser::ParseJobList;
 constexpr auto parseAccessPoints = &KVJStatusParser::ParseAccessPoints;
 constexpr auto parseServiceHistory = &KVJLogParser::ParseLogServiceXML;
@@ -368,7 +363,7 @@ constexpr Reader table[] = {
     reader<&KVJSecAction::ParseGetSecureActionRequest>("passkey"),
     reader<getCapabilities, Capabilities, readCapabilities<getCapabilities>>("capabilities"),
     alone(reader<&KVJConfigParser::GetConfiguration>("configuration")),
-    allocating(5, reader<getMedia, Media, readMedia<getMedia>>("media")),  // the catalogue and its four lists
+    reader<getMedia, Media, readMedia<getMedia>>("media"),
     reader<&KVJPrinterIDParser::ParsePrinterInfo>("printer_id"),
 };
 

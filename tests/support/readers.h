@@ -27,8 +27,7 @@ struct Reader {
     bool (*read)(const Text& text, void* record);
     /// Whether the record's texts are terminated within their fields, and its counts within their bounds.
     bool (*isValid)(const void* record);
-    bool isAlone = false;            ///< Not to be called in two threads at once.
-    std::size_t ownAllocations = 0;  ///< What `read` itself allocates, before it calls the reader.
+    bool isAlone = false;  ///< Not to be called in two threads at once.
 };
 
 std::span<const Reader> readers();

@@ -113,8 +113,7 @@ TEST_P(Peak, GrowsByAFewBytesForEachByteOfTheReply) {
     constexpr std::size_t large = 256 << 10;
     const std::size_t least = peakOf(replyOf(before, element, behind, small));
     const std::size_t most = peakOf(replyOf(before, element, behind, large));
-    // TinyXML's tree takes up to 81 bytes for a byte, and stands beside the reply and its copies.
-    EXPECT_LE(most, least + 100 * (large - small));
+    EXPECT_LE(most, least + 64 * (large - small));
 }
 
 INSTANTIATE_TEST_SUITE_P(

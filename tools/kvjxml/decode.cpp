@@ -1,13 +1,11 @@
 #include "decode.h"
 
 #include <algorithm>
-#include <cstring>
 #include <iostream>
 #include <vector>
 
 #include "failure.h"
 #include "foundation/reply.h"
-#include "foundation/shape.h"
 #include "messages.h"
 
 namespace kvjxml::tool {
@@ -22,52 +20,46 @@ std::vector<Message> messagesOf(std::string_view root) {
     return found;
 }
 
-/// What TinyXML found wrong, and where; empty when it found nothing.
-std::string errorIn(const TiXmlDocument& document) {
-    if (!document.Error()) return {};
-    const std::string place = document.ErrorRow() == 0 ? "at its end"
-                                                       : "line " + std::to_string(document.ErrorRow()) + ", column " +
-                                                             std::to_string(document.ErrorCol());
-    return place + ": " + document.ErrorDesc();
+/// A place in a text for people: its line, and the character in that line.
+std::string placeOf(std::string_view text, std::size_t offset) {
+    const std::string_view before = text.substr(0, offset);
+    if (before.size() == text.size()) return "at its end";
+    const auto line = std::ranges::count(before, '\n') + 1;
+    const std::string_view inLine = before.substr(before.find_last_of('\n') + 1);
+    const auto isContinuation = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; };
+    const auto column = std::ssize(inLine) - std::ranges::count_if(inLine, isContinuation) + 1;
+    return "line " + std::to_string(line) + ", column " + std::to_string(column);
+}
+
+/// What is wrong with a reply, and where; empty when nothing is.
+std::string faultIn(const Document& reply, std::string_view text) {
+    if (!reply.fault()) return {};
+    TiXmlDocument words;
+    tellFault(reply, words);
+    return placeOf(text, reply.fault().offset) + ": " + words.ErrorDesc();
 }
 
 /// The readers of the first element at the top level that is a known message's root.
-std::vector<Message> messagesIn(const TiXmlDocument& document, const std::string& name) {
-    for (const auto* root = document.FirstChildElement(); root != nullptr; root = root->NextSiblingElement()) {
-        if (auto found = messagesOf(root->Value()); !found.empty()) return found;
+std::vector<Message> messagesIn(const Document& reply, const Input& input) {
+    std::string reason = faultIn(reply, input.bytes);
+    if (reason.empty()) reason = "there is no XML element in it";
+    bool isFirst = true;
+    for (const Element root : reply.top().children()) {
+        if (auto found = messagesOf(root.name()); !found.empty()) return found;
+        if (isFirst) {
+            reason = "the root element \"" + std::string(root.name()) + "\" is not that of a known message";
+        }
+        isFirst = false;
     }
-    std::string reason = errorIn(document);
-    if (const auto* root = document.RootElement(); root != nullptr) {
-        reason = "the root element \"" + root->ValueStr() + "\" is not that of a known message";
-    } else if (reason.empty()) {
-        reason = "there is no XML element in it";
-    }
-    throw Failure(ExitCode::unknownMessage, name + ": " + reason);
-}
-
-/// Why the library does not look into a reply at all; empty when it does.
-std::string refusalOf(const std::string& bytes) {
-    const std::string padded = bytes + std::string(4, '\0');
-    const Shape shape = shapeOf(padded.c_str(), std::strlen(padded.c_str()));
-    if (shape.depth > largestShape.depth) {
-        return "is refused: its elements nest deeper than " + std::to_string(largestShape.depth) + " levels";
-    }
-    if (shape.attributes > largestShape.attributes) {
-        return "is refused: an element has more than " + std::to_string(largestShape.attributes) + " attributes";
-    }
-    return {};
+    throw Failure(ExitCode::unknownMessage, input.name + ": " + reason);
 }
 
 /// The readers of a reply: those of the `message`, or those that go by its root when that is empty. Says what is wrong
 /// with the reply.
 std::vector<Message> readersOf(const Input& input, const std::string& message) {
-    if (const auto refusal = refusalOf(input.bytes); !refusal.empty()) {
-        throw Failure(ExitCode::unknownMessage, input.name + ": " + refusal);
-    }
-    constexpr int tabSize = 1;  // Errors are shown by line and column.
-    const Reply reply(input.bytes.c_str(), tabSize);
-    auto readers = message.empty() ? messagesIn(reply.document(), input.name) : messagesOf(message);
-    if (const auto error = errorIn(reply.document()); !error.empty()) {
+    const Reply reply(input.bytes.c_str());
+    auto readers = message.empty() ? messagesIn(reply, input) : messagesOf(message);
+    if (const auto error = faultIn(reply, input.bytes); !error.empty()) {
         std::cerr << "kvjxml: " << input.name << ": read as far as it goes: " << error << '\n';
     }
     return readers;

@@ -123,13 +123,9 @@ std::size_t filled(const Entry* entries, std::size_t count) {
 
 /// How many children of that name the root of a reply has.
 std::size_t countNamed(const Input& input, const char* root, const char* name) {
-    Reply reply(input.bytes.c_str());
-    const auto* const list = reply.root(root);
+    const Reply reply(input.bytes.c_str());
     std::size_t count = 0;
-    for (const auto* entry = list == nullptr ? nullptr : list->FirstChildElement(name); entry != nullptr;
-         entry = entry->NextSiblingElement(name)) {
-        ++count;
-    }
+    for (const Element entry : reply.root(root).children()) count += entry.name() == name ? 1 : 0;
     return count;
 }
 
@@ -190,16 +186,11 @@ bool decodeNonce(const Input& input, JsonPrinter& json) {
 // ---- Readers that do not say whether they read anything: a reply with an element in its root had something to read
 // ----
 
-TiXmlElement* rootOf(Reply& reply, const char* root, const char* otherRoot) {
-    TiXmlElement* element = reply.root(root);
-    return element == nullptr ? reply.root(otherRoot) : element;
-}
-
-bool hasContent(const TiXmlElement* root) { return root != nullptr && root->FirstChildElement() != nullptr; }
+bool hasContent(Element root) { return !root.children().empty(); }
 
 bool hasContent(const Input& input, const char* root, const char* otherRoot = "") {
-    Reply reply(input.bytes.c_str());
-    return hasContent(rootOf(reply, root, otherRoot));
+    const Reply reply(input.bytes.c_str());
+    return hasContent(reply.root(root, otherRoot));
 }
 
 bool decodeConfiguration(const Input& input, JsonPrinter& json) {
@@ -248,9 +239,9 @@ template <>
 inline constexpr bool hasOneEntry<&Kavrin::_Capabilities::devicePorts> = true;
 
 /// The name of the element that fills a field of the capabilities.
-std::string elementOf(std::string_view field) {
+std::string_view elementOf(std::string_view field) {
     const auto& rows = described<capabilities::whole>;
-    return std::string(std::ranges::find(rows, field, [](const auto& row) { return row.description.field; })->name);
+    return std::ranges::find(rows, field, [](const auto& row) { return row.description.field; })->name;
 }
 
 /// Whether reading changes anything in an entry.
@@ -264,54 +255,71 @@ bool isWritten(Read readInto) {
     return !std::all_of(bytes, bytes + sizeof entry, [](char byte) { return byte == mark; });
 }
 
-using Elements = std::vector<TiXmlElement*>;
-
-/// The elements that are read into the first entry of a list: the first of each of its sections, or all of them.
-Elements firstElements(TiXmlElement* root, const std::string& section, const std::string& name, bool all) {
-    Elements elements;
-    if (root == nullptr) return elements;
-    for (auto* list = root->FirstChildElement(section); list != nullptr; list = list->NextSiblingElement(section)) {
-        for (auto* element = list->FirstChildElement(name); element != nullptr;
-             element = all ? element->NextSiblingElement(name) : nullptr) {
-            elements.push_back(element);
-        }
+/// One section of a list, and how far its entries have been read.
+class Section {
+public:
+    Section(Element section, std::string_view entryName)
+        : at_(section.children().begin()), end_(section.children().end()), name_(entryName) {
+        skipOthers();
     }
-    return elements;
-}
+    explicit operator bool() const { return at_ != end_; }
+    [[nodiscard]] Element entry() const { return *at_; }
+    void goOn() {
+        ++at_;
+        skipOthers();
+    }
 
-/// Goes on to those of the next entry; none are left at the end.
-void goOn(Elements& elements) {
-    const auto next = [](TiXmlElement* element) { return element->NextSiblingElement(element->ValueStr()); };
-    std::ranges::transform(elements, elements.begin(), next);
-    std::erase(elements, nullptr);
+private:
+    void skipOthers() {
+        while (at_ != end_ && (*at_).name() != name_) ++at_;
+    }
+
+    Element::Iterator at_;
+    Element::Iterator end_;
+    std::string_view name_;
+};
+
+/// All sections of a list that have an entry.
+std::vector<Section> sectionsOf(Element root, std::string_view name, std::string_view entryName) {
+    std::vector<Section> sections;
+    for (const Element child : root.children()) {
+        if (child.name() != name) continue;
+        if (const Section section(child, entryName); section) sections.push_back(section);
+    }
+    return sections;
 }
 
 /// The entries of a list, as an array that is large enough would have them after reading: those of a section that
 /// stands again go over those of the first, and what is behind the last that was written is none.
 template <auto Count, auto Array>
-void printFieldOf(JsonPrinter& json, TiXmlElement* root, ListField<Count, Array> /*list*/) {
+void printFieldOf(JsonPrinter& json, Element root, ListField<Count, Array> /*list*/) {
     using Entry = typename ListField<Count, Array>::Entry;
     constexpr bool all = hasOneEntry<Array>;
     constexpr auto row = entriesOf<Array>.front();
     constexpr auto readElement = row.getter.read;
-    Elements elements = firstElements(root, elementOf(nameOf<Array>()), std::string(row.name), all);
+    auto sections = sectionsOf(root, elementOf(nameOf<Array>()), row.name);
     const auto readInto = [&](Entry& entry) {
-        for (auto* element : elements) {
-            List<Entry> one{{&entry, 1}};
-            readElement(element, one);
+        for (Section section : sections) {
+            do {
+                List<Entry> one{{&entry, 1}};
+                readElement(section.entry(), one);
+                section.goOn();
+            } while (all && section);
         }
     };
     json.list([&] {
         std::size_t unwritten = 0;
-        for (; !elements.empty(); all ? elements.clear() : goOn(elements)) {
-            if (!isWritten<Entry>(readInto)) {
+        while (!sections.empty()) {
+            if (isWritten<Entry>(readInto)) {
+                for (; unwritten > 0; --unwritten) printEntry(json, Entry{});
+                Entry entry{};
+                readInto(entry);
+                printEntry(json, entry);
+            } else {
                 ++unwritten;
-                continue;
             }
-            for (; unwritten > 0; --unwritten) printEntry(json, Entry{});
-            Entry entry{};
-            readInto(entry);
-            printEntry(json, entry);
+            for (Section& section : sections) section.goOn();
+            std::erase_if(sections, [](const Section& section) { return all || !section; });
         }
     });
 }
@@ -319,8 +327,8 @@ void printFieldOf(JsonPrinter& json, TiXmlElement* root, ListField<Count, Array>
 bool decodeCapabilities(const Input& input, JsonPrinter& json) {
     Kavrin::_Capabilities caps{};
     read(&KVJCapsParser::GetCapabilities, input, caps);  // All but the lists, which have no room.
-    Reply reply(input.bytes.c_str());
-    TiXmlElement* const root = rootOf(reply, "capabilities", "get_capabilities");
+    const Reply reply(input.bytes.c_str());
+    const Element root = reply.root("capabilities", "get_capabilities");
     printFields<Kavrin::_Capabilities>(json, fields<Kavrin::_Capabilities>, [&](auto field) {
         if constexpr (requires { field.array; }) {
             printFieldOf(json, root, field);

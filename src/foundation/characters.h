@@ -1,0 +1,72 @@
+/// @file characters.h
+/// What each byte of a reply can be, as TinyXML tells them apart. Bytes from 7F on count as letters; of the control
+/// characters the process's locale says whether they do.
+#ifndef KVJXML_FOUNDATION_CHARACTERS_H
+#define KVJXML_FOUNDATION_CHARACTERS_H
+
+#include <array>
+#include <cctype>
+#include <cstddef>
+#include <cstdint>
+
+namespace kvjxml::characters {
+
+/// Kinds of bytes, to be combined.
+enum Kind : std::uint8_t {
+    blank = 1,
+    letter = 2,      ///< may begin a name
+    inName = 4,      ///< may stand in a name behind its first character
+    control = 8,     ///< up to the locale
+    lead = 16,       ///< begins a character of several bytes in UTF-8
+    ampersand = 32,  ///< begins a reference
+    end = 64,        ///< NUL and "<", where a text ends
+    quote = 128,     ///< NUL and both quotation marks, where a value can end
+};
+
+inline constexpr auto kinds = [] {
+    std::array<std::uint8_t, 256> table{};
+    for (unsigned byte = 0; byte < table.size(); ++byte) {
+        unsigned kind = 0;
+        const unsigned lower = byte | 0x20U;
+        if (byte == ' ' || (byte >= '\t' && byte <= '\r')) kind |= blank;
+        if (byte > 0 && byte < ' ' && kind == 0) kind |= control;
+        if ((lower >= 'a' && lower <= 'z') || byte == '_' || byte >= 0x7F) kind |= letter | inName;
+        if ((byte >= '0' && byte <= '9') || byte == '-' || byte == '.' || byte == ':') kind |= inName;
+        if (byte >= 0xC2 && byte <= 0xF4) kind |= lead;
+        if (byte == '&') kind |= ampersand;
+        if (byte == '\0' || byte == '<') kind |= end;
+        if (byte == '\0' || byte == '"' || byte == '\'') kind |= quote;
+        table[byte] = static_cast<std::uint8_t>(kind);
+    }
+    return table;
+}();
+
+inline bool is(char c, unsigned anyOf) noexcept { return (kinds[static_cast<unsigned char>(c)] & anyOf) != 0; }
+
+inline bool beginsName(char c) noexcept {
+    return is(c, letter) || (is(c, control) && std::isalpha(static_cast<unsigned char>(c)) != 0);
+}
+
+inline bool continuesName(char c) noexcept {
+    return is(c, inName) || (is(c, control) && std::isalnum(static_cast<unsigned char>(c)) != 0);
+}
+
+/// How many bytes the character takes in UTF-8 that begins with this byte.
+inline std::size_t lengthInUtf8(char first) noexcept {
+    const auto byte = static_cast<unsigned char>(first);
+    if (!is(first, lead)) return 1;
+    if (byte < 0xE0) return 2;
+    return byte < 0xF0 ? 3 : 4;
+}
+
+/// Whether a text begins with a byte-order mark, or with one of the two characters that are none: in UTF-8 they count
+/// as blanks.
+inline bool beginsWithMark(const char* text) noexcept {
+    if (text[0] != '\xEF') return false;
+    return (text[1] == '\xBB' && text[2] == '\xBF') || (text[1] == '\xBF' && (text[2] == '\xBE' || text[2] == '\xBF'));
+}
+inline constexpr std::size_t markLength = 3;
+
+}  // namespace kvjxml::characters
+
+#endif

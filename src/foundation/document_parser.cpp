@@ -1,0 +1,377 @@
+#include <tinyxml.h>
+
+#include <algorithm>
+#include <cctype>
+#include <cstring>
+#include <span>
+#include <string_view>
+#include <utility>
+
+#include "foundation/characters.h"
+#include "foundation/document.h"
+#include "foundation/references.h"
+#include "foundation/repeated.h"
+
+namespace kvjxml {
+
+namespace {
+
+using namespace characters;
+
+/// Whether a text begins with these words, which are in small letters, in whatever case the locale has for them.
+bool beginsInAnyCase(const char* text, std::string_view words) noexcept {
+    return std::ranges::all_of(words, [&](char c) { return std::tolower(static_cast<unsigned char>(*text++)) == c; });
+}
+
+bool begins(const char* text, std::string_view words) noexcept {
+    return std::strncmp(text, words.data(), words.size()) == 0;
+}
+
+/// How many elements and attributes a text has at most: an element needs a "<" with a letter behind it, an attribute
+/// an equals sign.
+struct Bounds {
+    std::size_t elements = 0;
+    std::size_t attributes = 0;
+};
+Bounds boundsOf(const char* text, std::size_t length) noexcept {
+    constexpr std::size_t block = 128;  // As far as a byte counts: compilers make vector instructions of that.
+    Bounds bounds;
+    for (std::size_t i = 0; i < length; i += block) {
+        const std::size_t behind = std::min(length, i + block);
+        unsigned char elements = 0;
+        unsigned char attributes = 0;
+        for (std::size_t k = i; k < behind; ++k) {
+            const auto next = static_cast<unsigned char>(text[k + 1]);
+            const bool begins = (text[k] == '<') & ((next >= 'A') | (next < ' '));
+            elements = static_cast<unsigned char>(elements + begins);
+            attributes = static_cast<unsigned char>(attributes + (text[k] == '='));
+        }
+        bounds.elements += elements;
+        bounds.attributes += attributes;
+    }
+    return bounds;
+}
+
+}  // namespace
+
+/// Goes through a text once, token by token, without calling itself. What it says of places is said in the text as it
+/// came: a token is overwritten, by the decoded text or the NUL behind it, only when it has been read.
+class DocumentParser {
+public:
+    explicit DocumentParser(Document& document) noexcept
+        : document_(document),
+          nodes_(document.nodes_),
+          text_(document.text_.bytes()),
+          end_(text_ + document.text_.length()),
+          at_(text_) {}
+
+    void parse() {
+        nodes_[0] = {};
+        if (begins(text_, "\xEF\xBB\xBF")) {
+            document_.hasByteOrderMark_ = true;
+            encoding_ = Encoding::utf8;
+        }
+        while (content() && markup()) {
+        }
+        if (nodes_[0].value == 0) fail(TiXmlBase::TIXML_ERROR_DOCUMENT_EMPTY, at_);
+        while (open_ != 0) close();
+        nodes_[0].end = count_;
+        nodes_[count_].attributes = attributeCount_;
+    }
+
+private:
+    using Node = Document::Node;
+
+    /// Until the first declaration at the top level says, each byte is a character.
+    enum class Encoding { unknown, utf8, bytes };
+
+    /// An attribute where it stands in the text.
+    struct RawAttribute {
+        char* name;
+        char* nameEnd;
+        char* value;
+        char* valueEnd;
+    };
+
+    [[nodiscard]] bool utf8() const noexcept { return encoding_ == Encoding::utf8; }
+    [[nodiscard]] bool atTop() const noexcept { return open_ == 0; }
+
+    [[nodiscard]] std::uint32_t offsetOf(const char* place) const noexcept {
+        return static_cast<std::uint32_t>(place - text_);
+    }
+
+    /// Ends the parsing. What is there stays as it is.
+    bool fail(int id, const char* where) noexcept {
+        document_.fault_ = {id, offsetOf(where)};
+        return false;
+    }
+
+    void skipBlanks() noexcept {
+        for (;;) {
+            while (is(*at_, blank)) ++at_;
+            if (!utf8() || !beginsWithMark(at_)) return;
+            at_ += markLength;
+        }
+    }
+
+    /// The open element gets one more child. Only the first one's value counts.
+    void append(const char* value) noexcept {
+        Node& parent = nodes_[open_];
+        if (parent.value == 0) parent.value = offsetOf(value);
+    }
+
+    /// The open element ends here.
+    void close() noexcept { open_ = std::exchange(nodes_[open_].end, count_); }
+
+    // What follows reads one token each, and says whether there is more to parse.
+
+    /// Up to the next "<". Between elements there are only blanks; within one there may be text.
+    bool content() noexcept {
+        if (atTop()) {
+            skipBlanks();
+            return *at_ == '<';
+        }
+        if (*at_ == '\0') return fail(TiXmlBase::TIXML_ERROR_READING_ELEMENT_VALUE, at_);
+        char* const beginning = at_;
+        skipBlanks();
+        if (*at_ == '<') return true;
+        if (*at_ == '\0') return fail(TiXmlBase::TIXML_ERROR_READING_END_TAG, at_);
+        if (!condense_) at_ = beginning;
+        return text();
+    }
+
+    bool text() noexcept {
+        char* const value = at_;
+        char* const valueEnd = decodeTo('<');
+        if (!std::all_of(value, valueEnd, [](char c) { return is(c, blank); })) append(value);
+        // A "<" as the very last character is not seen any more.
+        const bool more = *at_ == '<' && at_[1] != '\0';
+        *valueEnd = '\0';
+        return more || fail(TiXmlBase::TIXML_ERROR_READING_ELEMENT_VALUE, at_);
+    }
+
+    bool markup() {
+        ++at_;
+        if (beginsName(*at_)) return openElement();
+        if (*at_ == '/' && !atTop()) return closeElement();
+        if (beginsInAnyCase(at_, "?xml")) return declaration();
+        if (begins(at_, "!--")) return verbatim("!--", "-->");
+        if (begins(at_, "![CDATA[")) return verbatim("![CDATA[", "]]>");
+        return verbatim("", ">");
+    }
+
+    /// A node that has its text as it stands, between these words; without the latter it takes all that is left.
+    bool verbatim(std::string_view first, std::string_view last) noexcept {
+        char* const value = at_ + first.size();
+        append(value);
+        char* const found = std::strstr(value, last.data());
+        if (found == nullptr) {
+            at_ = end_;
+        } else {
+            *found = '\0';
+            at_ = found + last.size();
+        }
+        return true;
+    }
+
+    bool openElement() {
+        if (utf8() && beginsWithMark(at_)) skipBlanks();
+        char* const name = at_;
+        if (beginsName(*at_)) {
+            do ++at_;
+            while (continuesName(*at_));
+        }
+        char* const nameEnd = at_;
+        append(name);
+        Node& node = nodes_[count_];
+        node = {offsetOf(name), offsetOf(nameEnd) - offsetOf(name), 0, attributeCount_, open_};
+        open_ = count_++;
+        if (name == nameEnd || *at_ == '\0') return fail(TiXmlBase::TIXML_ERROR_FAILED_TO_READ_ELEMENT_NAME, name);
+        const bool more = tag();
+        *nameEnd = '\0';
+        return attributeCount_ - node.attributes < 2 ? more : isWithoutRepeated(node) && more;
+    }
+
+    /// From behind its name to its ">".
+    bool tag() noexcept {
+        for (;;) {
+            skipBlanks();
+            switch (*at_) {
+                case '\0':
+                    return fail(TiXmlBase::TIXML_ERROR_READING_ATTRIBUTES, at_);
+                case '>':
+                    *at_++ = '\0';
+                    return true;
+                case '/':
+                    *at_++ = '\0';
+                    if (*at_ != '>') return fail(TiXmlBase::TIXML_ERROR_PARSING_EMPTY, at_);
+                    ++at_;
+                    close();
+                    return true;
+                default:
+                    if (!appendAttribute()) return false;
+            }
+        }
+    }
+
+    bool appendAttribute() noexcept {
+        RawAttribute found;
+        if (const Fault fault = attribute(found)) return fail(fault.id, text_ + fault.offset);
+        *found.nameEnd = '\0';
+        // Right behind a value without quotes the tag may end, which becomes a NUL when it has been read.
+        if (found.valueEnd == at_ && is(*at_, blank)) ++at_;
+        if (found.valueEnd != at_) *found.valueEnd = '\0';
+        document_.attributes_[attributeCount_++] = {offsetOf(found.name), offsetOf(found.value)};
+        return true;
+    }
+
+    /// An element with the same attribute twice has those before, and ends the parsing.
+    bool isWithoutRepeated(const Node& node) {
+        const std::span all(document_.attributes_ + node.attributes, attributeCount_ - node.attributes);
+        const std::size_t repeated = firstRepeated(all, text_);
+        if (repeated == all.size()) return true;
+        attributeCount_ = node.attributes + static_cast<std::uint32_t>(repeated);
+        return fail(TiXmlBase::TIXML_ERROR_PARSING_ELEMENT, text_ + all[repeated].name);
+    }
+
+    bool closeElement() noexcept {
+        const Node& node = nodes_[open_];
+        char* const name = at_ + 1;
+        if (end_ - name < node.nameLength || std::memcmp(name, text_ + node.name, node.nameLength) != 0) {
+            return fail(TiXmlBase::TIXML_ERROR_READING_END_TAG, at_ - 1);
+        }
+        at_ = name + node.nameLength;
+        skipBlanks();
+        if (*at_ != '>') return fail(TiXmlBase::TIXML_ERROR_READING_END_TAG, at_);
+        ++at_;
+        close();
+        return true;
+    }
+
+    /// What is no attribute that a declaration has is skipped. One that is cut or wrong ends the parsing, and is no
+    /// fault at the top level.
+    bool declaration() noexcept {
+        char* const value = at_;
+        append(value);
+        at_ += std::strlen("?xml");
+        std::string_view encoding;
+        while (*at_ != '>') {
+            skipBlanks();
+            const bool isEncoding = beginsInAnyCase(at_, "encoding");
+            bool more = true;
+            if (isEncoding || beginsInAnyCase(at_, "version") || beginsInAnyCase(at_, "standalone")) {
+                RawAttribute found;
+                more = !attribute(found);
+                if (isEncoding) encoding = {found.value, found.valueEnd};
+            } else {
+                while (*at_ != '\0' && *at_ != '>' && !is(*at_, blank)) ++at_;
+            }
+            if (!more || *at_ == '\0') {
+                *value = '\0';
+                return !atTop() && fail(TiXmlBase::TIXML_ERROR_READING_ELEMENT_VALUE, at_);
+            }
+        }
+        *value = '\0';
+        ++at_;
+        if (atTop() && encoding_ == Encoding::unknown) encoding_ = encodingOf(encoding);
+        return true;
+    }
+
+    static Encoding encodingOf(std::string_view name) noexcept {
+        name = name.substr(0, name.find('\0'));
+        const auto beginsWith = [&](std::string_view words) {
+            return name.size() >= words.size() && beginsInAnyCase(name.data(), words);
+        };
+        return name.empty() || beginsWith("utf-8") || beginsWith("utf8") ? Encoding::utf8 : Encoding::bytes;
+    }
+
+    /// From an attribute's name to what follows its value.
+    /// @return what is wrong with it; nothing else is said then.
+    Fault attribute(RawAttribute& found) noexcept {
+        const auto wrong = [&](int id, const char* where) { return Fault{id, offsetOf(where)}; };
+        found = {at_, at_, at_, at_};
+        if (!beginsName(*at_)) return wrong(TiXmlBase::TIXML_ERROR_READING_ATTRIBUTES, at_);
+        do ++at_;
+        while (continuesName(*at_));
+        found.nameEnd = at_;
+        skipBlanks();
+        if (*at_ != '=') return wrong(TiXmlBase::TIXML_ERROR_READING_ATTRIBUTES, at_);
+        ++at_;
+        skipBlanks();
+        if (*at_ == '\0') return wrong(TiXmlBase::TIXML_ERROR_READING_ATTRIBUTES, at_);
+
+        if (const char mark = *at_; mark == '"' || mark == '\'') {
+            found.value = ++at_;
+            found.valueEnd = decodeTo(mark);
+            if (*at_ != mark) return wrong(TiXmlBase::TIXML_ERROR_PARSING_ELEMENT, found.name);
+            ++at_;
+        } else {
+            found.value = at_;
+            while (*at_ != '\0' && *at_ != '/' && *at_ != '>' && !is(*at_, blank)) {
+                if (is(*at_, quote)) return wrong(TiXmlBase::TIXML_ERROR_READING_ATTRIBUTES, at_);
+                ++at_;
+            }
+            found.valueEnd = at_;
+        }
+        // With nothing behind it, it does not count.
+        return *at_ == '\0' ? wrong(TiXmlBase::TIXML_ERROR_PARSING_ELEMENT, found.name) : Fault{};
+    }
+
+    /// Decodes the text from here to the next `delimiter`, and stands there then; or at the end of the text, or at a
+    /// reference that cannot be decoded.
+    /// @return the end of the decoded text, which is not terminated yet.
+    char* decodeTo(char delimiter) noexcept {
+        const bool isText = delimiter == '<';
+        const bool condense = isText && condense_;
+        unsigned special = ampersand;
+        special |= isText ? end : quote;
+        if (condense) special |= blank;
+        if (utf8()) special |= lead;
+        // Most texts stand for themselves.
+        char* from = at_;
+        while (!is(*from, special)) ++from;
+        char* to = from;
+        bool gap = false;
+        while (*from != delimiter && *from != '\0') {
+            if (condense && is(*from, blank)) {
+                gap = true;
+                ++from;
+                continue;
+            }
+            if (gap) *to++ = ' ';
+            gap = false;
+            if (*from == '&') {
+                char* const behind = decodeReference(from, to, utf8());
+                if (behind == nullptr) break;
+                from = behind;
+            } else {
+                // A character of several bytes takes them along, markup or not.
+                for (std::size_t left = utf8() ? lengthInUtf8(*from) : 1; left > 0 && *from != '\0'; --left) {
+                    *to++ = *from++;
+                }
+                while (!is(*from, special)) *to++ = *from++;
+            }
+        }
+        at_ = from;
+        return to;
+    }
+
+    Document& document_;
+    Node* const nodes_;
+    char* const text_;
+    char* const end_;
+    char* at_;
+    Encoding encoding_ = Encoding::unknown;
+    const bool condense_ = TiXmlBase::IsWhiteSpaceCondensed();
+    std::uint32_t open_ = 0;   ///< the element that what follows is in; the end of its node is its parent meanwhile
+    std::uint32_t count_ = 1;  ///< of nodes
+    std::uint32_t attributeCount_ = 0;
+};
+
+void Document::parse() {
+    const Bounds bounds = boundsOf(text_.bytes(), text_.length());
+    allocate(bounds.elements, bounds.attributes);
+    DocumentParser(*this).parse();
+}
+
+}  // namespace kvjxml

@@ -1,0 +1,109 @@
+#include "foundation/repeated.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <cstring>
+#include <utility>
+#include <vector>
+
+namespace kvjxml {
+
+namespace {
+
+using Attributes = std::span<const Document::Attribute>;
+
+/// Up to here comparing each with all before it costs less than sorting.
+constexpr std::size_t few = 8;
+
+std::size_t firstRepeatedOfFew(Attributes attributes, const char* text) noexcept {
+    for (std::size_t i = 1; i < attributes.size(); ++i) {
+        for (std::size_t k = 0; k < i; ++k) {
+            if (std::strcmp(text + attributes[i].name, text + attributes[k].name) == 0) return i;
+        }
+    }
+    return attributes.size();
+}
+
+/// Eight bytes of a name, and whose they are.
+struct Part {
+    std::uint64_t bytes;
+    std::uint32_t attribute;
+};
+using Parts = std::span<Part>;
+
+/// Eight bytes of a name as a number; behind its end there are zeros.
+std::uint64_t bytesOf(const char* name) noexcept {
+    std::uint64_t bytes = 0;
+    for (int i = 0; i < 8; ++i) {
+        bytes = bytes << 8 | static_cast<unsigned char>(*name);
+        if (*name != '\0') ++name;
+    }
+    return bytes;
+}
+
+/// Whether the name ends within its eight bytes.
+bool isLast(const Part& part) noexcept { return (part.bytes & 0xFF) == 0; }
+
+/// Sorts by the bytes and keeps the order of equal ones: byte by byte, the last first, so that it takes the same time
+/// whatever the names are. `scratch` has as many elements.
+void sort(Parts parts, Parts scratch) noexcept {
+    for (unsigned shift = 0; shift < 64; shift += 8) {
+        const auto byteOf = [=](const Part& part) { return (part.bytes >> shift) & 0xFF; };
+        std::array<std::uint32_t, 256> places{};
+        for (const Part& part : parts) ++places[byteOf(part)];
+        if (places[byteOf(parts[0])] == parts.size()) continue;
+        std::uint32_t place = 0;
+        for (std::uint32_t& count : places) place += std::exchange(count, place);
+        for (const Part& part : parts) scratch[places[byteOf(part)]++] = part;
+        std::ranges::copy(scratch.first(parts.size()), parts.begin());
+    }
+}
+
+void sortFew(Parts parts) noexcept {
+    std::ranges::sort(parts, [](const Part& left, const Part& right) {
+        return left.bytes != right.bytes ? left.bytes < right.bytes : left.attribute < right.attribute;
+    });
+}
+
+}  // namespace
+
+std::size_t firstRepeated(Attributes attributes, const char* text) {
+    if (attributes.size() <= few) return firstRepeatedOfFew(attributes, text);
+
+    std::vector<Part> parts(attributes.size());
+    std::vector<Part> scratch(attributes.size());
+    for (std::uint32_t i = 0; i < parts.size(); ++i) parts[i].attribute = i;
+
+    // Names that are equal so far stand together; from part to part they fall apart, or turn out to be the same.
+    constexpr std::size_t worthTheTable = 256;
+    std::size_t first = attributes.size();
+    std::vector<Parts> equalSoFar{Parts(parts)};
+    for (std::size_t done = 0; !equalSoFar.empty(); done += 8) {
+        std::vector<Parts> stillEqual;
+        for (const Parts group : equalSoFar) {
+            for (Part& part : group) part.bytes = bytesOf(text + attributes[part.attribute].name + done);
+            if (group.size() < worthTheTable) {
+                sortFew(group);
+            } else {
+                sort(group, scratch);
+            }
+            for (std::size_t begin = 0; begin < group.size();) {
+                std::size_t end = begin + 1;
+                while (end < group.size() && group[end].bytes == group[begin].bytes) ++end;
+                if (end - begin > 1) {
+                    if (isLast(group[begin])) {
+                        first = std::min<std::size_t>(first, group[begin + 1].attribute);
+                    } else {
+                        stillEqual.push_back(group.subspan(begin, end - begin));
+                    }
+                }
+                begin = end;
+            }
+        }
+        equalSoFar = std::move(stillEqual);
+    }
+    return first;
+}
+
+}  // namespace kvjxml

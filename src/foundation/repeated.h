@@ -1,0 +1,20 @@
+/// @file repeated.h
+/// Which attribute of an element has a name that another before it has.
+#ifndef KVJXML_FOUNDATION_REPEATED_H
+#define KVJXML_FOUNDATION_REPEATED_H
+
+#include <cstddef>
+#include <span>
+
+#include "foundation/document.h"
+
+namespace kvjxml {
+
+/// The index of the first attribute whose name stands before it; how many there are when there is none. The names are
+/// offsets into `text`, and terminated. Takes time in proportion to the names' lengths, whatever they are.
+/// @throws std::bad_alloc  when there are many.
+std::size_t firstRepeated(std::span<const Document::Attribute> attributes, const char* text);
+
+}  // namespace kvjxml
+
+#endif
