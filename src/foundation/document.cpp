@@ -55,7 +55,7 @@ Element Document::root(const char* name, const char* other) const noexcept {
 }
 
 std::size_t Element::offset() const noexcept {
-    if (document_ == nullptr || at_ == nullptr) return 0;
+    if (document_ == nullptr || at_ == nullptr || at_ == document_->nodes_) return 0;
     // Blanks may stand between the "<" and the name. The "<" itself can have become the end of a text.
     std::uint32_t at = node()->name - 1;
     while (*text(at) != '<' && *text(at) != '\0') --at;

@@ -186,7 +186,10 @@ private:
         Node& node = nodes_[count_];
         node = {offsetOf(name), offsetOf(nameEnd) - offsetOf(name), 0, attributeCount_, open_};
         open_ = count_++;
-        if (name == nameEnd || *at_ == '\0') return fail(TiXmlBase::TIXML_ERROR_FAILED_TO_READ_ELEMENT_NAME, name);
+        if (name == nameEnd || *at_ == '\0') {
+            *nameEnd = '\0';
+            return fail(TiXmlBase::TIXML_ERROR_FAILED_TO_READ_ELEMENT_NAME, name);
+        }
         const bool more = tag();
         *nameEnd = '\0';
         return attributeCount_ - node.attributes < 2 ? more : isWithoutRepeated(node) && more;

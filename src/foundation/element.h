@@ -67,7 +67,8 @@ public:
         return all;
     }
 
-    /// Where the element's tag begins in the text that the document was made of; 0 for an element of a host's.
+    /// Where the element's tag begins in the text that the document was made of; 0 for the document itself, and for an
+    /// element of a host's.
     [[nodiscard]] std::size_t offset() const noexcept;
 
     /// The child elements, in document order.
