@@ -175,7 +175,7 @@ private:
     }
 
     bool openElement() {
-        if (utf8() && beginsWithMark(at_)) skipBlanks();
+        skipBlanks();  // A mark is one in UTF-8.
         char* const name = at_;
         if (beginsName(*at_)) {
             do ++at_;

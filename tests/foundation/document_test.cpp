@@ -43,6 +43,24 @@ TEST(Document, ADeepOneIsReadToItsBottom) {
     expectReadings({{text, tree}});
 }
 
+TEST(Document, ADeepOneThatBreaksOffIsReadToItsBottom) {
+    std::string text;
+    std::string tree;
+    for (int i = 0; i < 1000; ++i) text += "<a>";
+    for (int i = 0; i < 999; ++i) tree += "a \"a\"{";
+    expectReadings({{text, tree + "a{}" + std::string(999, '}'), wrongValue}});
+}
+
+TEST(Document, OneElementMayHaveManyAttributes) {
+    std::string text = "<a";
+    std::string tree = "a";
+    for (int i = 0; i < 1000; ++i) {
+        text += " b" + std::to_string(i) + "=1";
+        tree += " b" + std::to_string(i) + "=\"1\"";
+    }
+    expectReadings({{text + "/>", tree + "{}"}});
+}
+
 TEST(Document, OneOfManyElementsAndAttributesIsReadWhole) {
     std::string text = "<a>";
     std::string tree = "a \"b\"{";
