@@ -128,6 +128,7 @@ TEST(Reply, WithoutALengthIsNotTouched) {
     const auto nothing = std::make_unique<wchar_t[]>(0);
     for (const std::int64_t length : {std::int64_t{0}, std::int64_t{-1}, std::int64_t{INT32_MIN}, INT64_MIN}) {
         EXPECT_FALSE(Reply(nothing[0], length).root("r")) << length;
+        EXPECT_FALSE(Reply(nothing[0], length).hasText()) << length;
     }
 }
 
