@@ -3,11 +3,14 @@
 #include <arpa/inet.h>
 #include <strings.h>
 
+#include <algorithm>
 #include <charconv>
 #include <clocale>
+#include <cstddef>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <limits>
 
 namespace kvjxml::convert {
 
@@ -44,6 +47,74 @@ bool isPlainDecimal(const char* text) noexcept {
     return *text == '\0' || *text == ' ';
 }
 
+/// So many decimal digits are exact in a long and in a double.
+constexpr std::ptrdiff_t exactDigits =
+    std::min(std::numeric_limits<long>::digits10, std::numeric_limits<double>::digits10);
+
+/// Appends the digits that a text begins with to a number, which wraps.
+/// @return the first character that is none.
+const char* appendDigits(const char* text, unsigned long& number) noexcept {
+    while (isDigit(*text)) number = 10 * number + static_cast<unsigned long>(*text++ - '0');
+    return text;
+}
+
+/// "%ld". Printers write few digits and nothing else; the C function has all other forms of numbers.
+bool scanLong(const char* text, long& value) noexcept {
+    const bool isNegative = *text == '-';
+    const char* const first = isNegative ? text + 1 : text;
+    unsigned long number = 0;
+    const char* const behind = appendDigits(first, number);
+    if (behind != first && behind - first <= exactDigits) {
+        value = isNegative ? -static_cast<long>(number) : static_cast<long>(number);
+        return true;
+    }
+    char* end = nullptr;
+    value = strtol_l(text, &end, 10, cLocale());
+    return end != text;
+}
+
+/// A number with or without a point that is all of a text and has so few digits that one division, which rounds as
+/// strtod does, makes it.
+bool scanExact(const char* text, double& value) noexcept {
+    static constexpr double powersOfTen[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6, 1e7,
+                                             1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14};
+    const bool isNegative = *text == '-';
+    const char* const first = isNegative ? text + 1 : text;
+    unsigned long digits = 0;
+    const char* behind = appendDigits(first, digits);
+    if (behind == first) return false;
+    std::ptrdiff_t decimals = 0;
+    if (*behind == '.') {
+        const char* const decimal = behind + 1;
+        behind = appendDigits(decimal, digits);
+        decimals = behind - decimal;
+    }
+    if (*behind != '\0' || behind - first > exactDigits) return false;
+    const auto number = static_cast<double>(digits);
+    value = (isNegative ? -number : number) / powersOfTen[decimals];
+    return true;
+}
+
+/// The value of a hexadecimal digit; -1 for any other character.
+int hexDigit(char c) noexcept {
+    if (isDigit(c)) return c - '0';
+    const int letter = c | 0x20;
+    return letter >= 'a' && letter <= 'f' ? letter - 'a' + 10 : -1;
+}
+
+/// Reads an address of six times two digits, which is how printers write it.
+bool scanFullAddress(const char* text, HardwareAddress& address) noexcept {
+    for (std::size_t i = 0; i < address.size(); ++i) {
+        if (i > 0 && *text++ != ':') return false;
+        const int high = hexDigit(text[0]);
+        const int low = high < 0 ? high : hexDigit(text[1]);
+        if (low < 0) return false;
+        address[i] = static_cast<unsigned char>(16 * high + low);
+        text += 2;
+    }
+    return true;
+}
+
 template <class Unsigned>
 bool scanNumber(const char* text, int base, Unsigned& value) noexcept {
     char* end = nullptr;
@@ -63,16 +134,22 @@ Digits digitsOf(Arguments... arguments) noexcept {
 
 }  // namespace
 
-long toLong(const char* text) noexcept { return strtol_l(text, nullptr, 10, cLocale()); }
+long toLong(const char* text) noexcept {
+    long number = 0;
+    scanLong(text, number);
+    return number;
+}
 
 int toInt(const char* text) noexcept { return static_cast<int>(toLong(text)); }
 
-float toFloat(const char* text) noexcept { return static_cast<float>(strtod_l(text, nullptr, cLocale())); }
+float toFloat(const char* text) noexcept {
+    double number = 0;
+    return static_cast<float>(scanExact(text, number) ? number : strtod_l(text, nullptr, cLocale()));
+}
 
 bool scanInt(const char* text, int& value) noexcept {
-    char* end = nullptr;
-    const long number = strtol_l(text, &end, 10, cLocale());
-    if (end == text) return false;
+    long number = 0;
+    if (!scanLong(text, number)) return false;
     value = static_cast<int>(number);
     return true;
 }
@@ -95,18 +172,23 @@ bool scanKeyNumber(const char* text, unsigned long& value) noexcept {
 }
 
 bool scanFloat(const char* text, float& value) noexcept {
+    double number = 0;
+    if (scanExact(text, number)) {
+        value = static_cast<float>(number);
+        return true;
+    }
     if (isPlainDecimal(text)) {
         value = toFloat(text);
         return true;
     }
     const NumbersInCLocale scope;
-    double number = 0;
     if (std::sscanf(text, "%lf", &number) != 1) return false;
     value = static_cast<float>(number);
     return true;
 }
 
 HardwareAddress toHardwareAddress(const char* text) noexcept {
+    if (HardwareAddress address{}; scanFullAddress(text, address)) return address;
     std::array<unsigned int, 6> bytes{};
     const int matched = std::sscanf(text, "%02x:%02x:%02x:%02x:%02x:%02x", bytes.data(), &bytes[1], &bytes[2],
                                     &bytes[3], &bytes[4], &bytes[5]);
