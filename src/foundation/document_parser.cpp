@@ -24,7 +24,7 @@ bool beginsInAnyCase(const char* text, std::string_view words) noexcept {
 }
 
 bool begins(const char* text, std::string_view words) noexcept {
-    return std::strncmp(text, words.data(), words.size()) == 0;
+    return std::ranges::all_of(words, [&](char c) { return *text++ == c; });
 }
 
 /// How many elements and attributes a text has at most: an element needs a "<" with a letter behind it, an attribute
@@ -34,21 +34,26 @@ struct Bounds {
     std::size_t attributes = 0;
 };
 Bounds boundsOf(const char* text, std::size_t length) noexcept {
-    constexpr std::size_t block = 128;  // As far as a byte counts: compilers make vector instructions of that.
     Bounds bounds;
-    for (std::size_t i = 0; i < length; i += block) {
-        const std::size_t behind = std::min(length, i + block);
+    const auto count = [&](const char* block, std::size_t size) {
         unsigned char elements = 0;
         unsigned char attributes = 0;
-        for (std::size_t k = i; k < behind; ++k) {
-            const auto next = static_cast<unsigned char>(text[k + 1]);
-            const bool begins = (text[k] == '<') & ((next >= 'A') | (next < ' '));
+        for (std::size_t i = 0; i < size; ++i) {
+            const auto next = static_cast<unsigned char>(block[i + 1]);
+            const bool begins = (block[i] == '<') & ((next >= 'A') | (next < ' '));
             elements = static_cast<unsigned char>(elements + begins);
-            attributes = static_cast<unsigned char>(attributes + (text[k] == '='));
+            attributes = static_cast<unsigned char>(attributes + (block[i] == '='));
         }
         bounds.elements += elements;
         bounds.attributes += attributes;
+    };
+    // As far as a byte counts: compilers make vector instructions of that.
+    constexpr std::size_t whole = 128;
+    for (; length >= whole; length -= whole) {
+        count(text, whole);
+        text += whole;
     }
+    count(text, length);
     return bounds;
 }
 
@@ -108,7 +113,11 @@ private:
 
     void skipBlanks() noexcept {
         for (;;) {
-            while (is(*at_, blank)) ++at_;
+            while (is(*at_, blank)) {
+                ++at_;
+                // Most blanks indent a line, by fours.
+                while (std::memcmp(at_, "    ", 4) == 0) at_ += 4;
+            }
             if (!utf8() || !beginsWithMark(at_)) return;
             at_ += markLength;
         }
@@ -164,7 +173,7 @@ private:
     bool verbatim(std::string_view first, std::string_view last) noexcept {
         char* const value = at_ + first.size();
         append(value);
-        char* const found = std::strstr(value, last.data());
+        char* const found = last.size() == 1 ? std::strchr(value, last[0]) : std::strstr(value, last.data());
         if (found == nullptr) {
             at_ = end_;
         } else {
