@@ -12,7 +12,7 @@ struct Name {
     std::string_view text;
     char character;
 };
-constexpr Name names[] = {{"&amp;", '&'}, {"&lt;", '<'}, {"&gt;", '>'}, {"&quot;", '"'}, {"&apos;", '\''}};
+constexpr Name names[] = {{"amp;", '&'}, {"lt;", '<'}, {"gt;", '>'}, {"quot;", '"'}, {"apos;", '\''}};
 
 /// The value of a digit; -1 for any other character.
 int valueOf(char digit, bool hexadecimal) noexcept {
@@ -71,9 +71,10 @@ char* decodeNumber(char* from, char*& to, bool utf8) noexcept {
 char* decodeReference(char* from, char*& to, bool utf8) noexcept {
     if (from[1] == '#' && from[2] != '\0') return decodeNumber(from, to, utf8);
     for (const auto& [text, character] : names) {
-        if (std::strncmp(from, text.data(), text.size()) == 0) {
+        // The first character alone tells most apart: a reply may be full of ampersands.
+        if (from[1] == text[0] && std::strncmp(from + 1, text.data(), text.size()) == 0) {
             *to++ = character;
-            return from + text.size();
+            return from + 1 + text.size();
         }
     }
     return from + 1;  // The ampersand alone is lost.
