@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <cstring>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -32,31 +34,33 @@ struct Part {
 };
 using Parts = std::span<Part>;
 
-/// Eight bytes of a name as a number; behind its end there are zeros.
+/// Eight bytes of a name as a number, the first as the lowest; behind its end there are zeros.
 std::uint64_t bytesOf(const char* name) noexcept {
     std::uint64_t bytes = 0;
-    for (int i = 0; i < 8; ++i) {
-        bytes = bytes << 8 | static_cast<unsigned char>(*name);
-        if (*name != '\0') ++name;
-    }
-    return bytes;
+    std::memcpy(&bytes, name, sizeof bytes);  // There is padding behind the text.
+    if constexpr (std::endian::native == std::endian::big) bytes = __builtin_bswap64(bytes);
+    // The lowest bit that is set is that of the first byte that is zero.
+    const std::uint64_t zeros = (bytes - 0x0101010101010101) & ~bytes & 0x8080808080808080;
+    return zeros == 0 ? bytes : bytes & ((zeros & -zeros) - 1);
 }
 
 /// Whether the name ends within its eight bytes.
-bool isLast(const Part& part) noexcept { return (part.bytes & 0xFF) == 0; }
+bool isLast(const Part& part) noexcept { return part.bytes >> 56 == 0; }
 
 /// Sorts by the bytes and keeps the order of equal ones: byte by byte, the last first, so that it takes the same time
 /// whatever the names are. `scratch` has as many elements.
 void sort(Parts parts, Parts scratch) noexcept {
+    std::uint64_t different = 0;
+    for (const Part& part : parts) different |= part.bytes ^ parts[0].bytes;
     for (unsigned shift = 0; shift < 64; shift += 8) {
         const auto byteOf = [=](const Part& part) { return (part.bytes >> shift) & 0xFF; };
+        if (byteOf({different, 0}) == 0) continue;
         std::array<std::uint32_t, 256> places{};
         for (const Part& part : parts) ++places[byteOf(part)];
-        if (places[byteOf(parts[0])] == parts.size()) continue;
         std::uint32_t place = 0;
         for (std::uint32_t& count : places) place += std::exchange(count, place);
         for (const Part& part : parts) scratch[places[byteOf(part)]++] = part;
-        std::ranges::copy(scratch.first(parts.size()), parts.begin());
+        std::ranges::copy(scratch, parts.begin());
     }
 }
 
@@ -72,11 +76,11 @@ std::size_t firstRepeated(Attributes attributes, const char* text) {
     if (attributes.size() <= few) return firstRepeatedOfFew(attributes, text);
 
     std::vector<Part> parts(attributes.size());
-    std::vector<Part> scratch(attributes.size());
+    const auto scratch = std::make_unique_for_overwrite<Part[]>(attributes.size());
     for (std::uint32_t i = 0; i < parts.size(); ++i) parts[i].attribute = i;
 
     // Names that are equal so far stand together; from part to part they fall apart, or turn out to be the same.
-    constexpr std::size_t worthTheTable = 256;
+    constexpr std::size_t worthTheTable = 128;
     std::size_t first = attributes.size();
     std::vector<Parts> equalSoFar{Parts(parts)};
     for (std::size_t done = 0; !equalSoFar.empty(); done += 8) {
@@ -86,7 +90,7 @@ std::size_t firstRepeated(Attributes attributes, const char* text) {
             if (group.size() < worthTheTable) {
                 sortFew(group);
             } else {
-                sort(group, scratch);
+                sort(group, {scratch.get(), group.size()});
             }
             for (std::size_t begin = 0; begin < group.size();) {
                 std::size_t end = begin + 1;
