@@ -83,6 +83,12 @@ public:
     }
 
 private:
+    /// This node of a host's, or the first of its siblings that is an element. TinyXML's own function for that makes
+    /// two calls for each.
+    static const TiXmlElement* hostElement(const TiXmlNode* node) noexcept {
+        while (node != nullptr && node->Type() != TiXmlNode::TINYXML_ELEMENT) node = node->NextSibling();
+        return static_cast<const TiXmlElement*>(node);
+    }
     [[nodiscard]] const TiXmlElement* host() const noexcept { return static_cast<const TiXmlElement*>(at_); }
     [[nodiscard]] const Document::Node* node() const noexcept { return static_cast<const Document::Node*>(at_); }
     [[nodiscard]] const char* text(std::uint32_t offset) const noexcept { return document_->text_.bytes() + offset; }
@@ -99,7 +105,7 @@ public:
         if (element_.document_ != nullptr) {
             element_.at_ = element_.document_->nodes_ + element_.node()->end;
         } else {
-            element_.at_ = element_.host()->NextSiblingElement();
+            element_.at_ = hostElement(element_.host()->NextSibling());
         }
         return *this;
     }
@@ -123,7 +129,7 @@ private:
 
 inline Element::Children Element::children() const noexcept {
     if (at_ == nullptr) return {{}, {}};
-    if (document_ == nullptr) return {host()->FirstChildElement(), {}};
+    if (document_ == nullptr) return {hostElement(host()->FirstChild()), {}};
     return {{*document_, node() + 1}, {*document_, document_->nodes_ + node()->end}};
 }
 
