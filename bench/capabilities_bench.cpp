@@ -1,10 +1,10 @@
-// What reading and composing a whole description of a printer costs, against TinyXML used by hand. See README.md.
+// What reading and composing a whole description of a printer costs. See README.md.
 #include <KVJCapsParser.h>
 #include <KVJSetCaps.h>
 
 #include <memory>
 
-#include "contest.h"
+#include "reading.h"
 
 namespace {
 
@@ -37,11 +37,12 @@ struct Description {
         caps.graphics = graphics;
         caps.barCodes = barCodes;
     }
+    Kavrin::_Capabilities& begin() { return caps; }
+    [[nodiscard]] bool isFilled() const { return caps.fontCount == 8 && fonts[0].name[0] != '\0' && caps.ramSize != 0; }
 };
 
-bool read(const std::wstring& reply, Description& description) {
-    Kavrin::KVJCapsParser().GetCapabilities(reply.front(), static_cast<int>(reply.size()), description.caps);
-    return description.caps.fontCount == 8 && description.fonts[0].name[0] != '\0' && description.caps.ramSize != 0;
+void read(const std::wstring& reply, Kavrin::_Capabilities& caps) {
+    Kavrin::KVJCapsParser().GetCapabilities(reply.front(), static_cast<int>(reply.size()), caps);
 }
 
 bool compose(const Description& description, std::vector<wchar_t>& out) {
@@ -53,21 +54,20 @@ std::vector<Task> tasks() {
     const std::wstring reply = wide(text);
     const auto description = std::make_shared<Description>();
     const auto out = std::make_shared<std::vector<wchar_t>>(65536);
-    read(reply, *description);
+    read(reply, description->caps);
     Kavrin::KVJSetCaps model;
     if (!model.SetCapabilities(description->caps, out->data(), static_cast<int>(out->size()), 0, false)) return {};
     const std::wstring composed = out->data();
     const std::string request(composed.begin(), composed.end());
     const auto byHand = std::make_shared<ByHand>(model);
-    return {{"read",
-             text.size(),
-             {{"library", [=] { return read(reply, *description); }},
-              {"by_hand", [=] { return kvjxml::bench::read(narrow(reply).get(), withPositions); }},
-              {"floor", [=] { return kvjxml::bench::read(narrow(reply).get(), withoutPositions); }}}},
+    return {reading<Description>(
+                "read", text.size(), [=](auto& caps) { read(reply, caps); },
+                [=](const Rival& rival, auto& caps) { rival.readCapabilities(reply, caps); },
+                [=] { return parse(narrow(reply).get()); }),
             {"compose",
              request.size(),
              {{"library", [=] { return compose(*description, *out); }},
-              {"floor", [=] { return byHand->compose(*out) && composed == out->data(); }}}}};
+              {"floor", [=] { return byHand->compose(*out) && composed == out->data(); }, 1.10}}}};
 }
 
 }  // namespace

@@ -13,6 +13,9 @@ namespace kvjxml::bench {
 
 class Collector : public benchmark::BenchmarkReporter {
 public:
+    /// @param time  the time that counts.
+    explicit Collector(double (Run::*time)() const = &Run::GetAdjustedCPUTime) : time_(time) {}
+
     bool ReportContext(const Context& context) override {
         PrintBasicContext(&GetErrorStream(), context);
         return true;
@@ -25,7 +28,7 @@ public:
                 failed_ = true;
             } else if (run.run_type == Run::RT_Iteration) {
                 Measured& measured = measured_[run.run_name.function_name];
-                measured.times.push_back(run.GetAdjustedCPUTime());
+                measured.times.push_back((run.*time_)());
                 measured.counters = run.counters;
             }
         }
@@ -47,6 +50,7 @@ protected:
     }
 
 private:
+    double (Run::*time_)() const;
     std::map<std::string, Measured> measured_;
     bool failed_ = false;
 };

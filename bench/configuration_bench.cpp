@@ -1,10 +1,10 @@
-// What reading and composing a whole configuration costs, against TinyXML used by hand. See README.md.
+// What reading and composing a whole configuration costs. See README.md.
 #include <KVJConfigParser.h>
 #include <KVJSetConfig.h>
 
 #include <memory>
 
-#include "contest.h"
+#include "reading.h"
 
 namespace {
 
@@ -12,9 +12,14 @@ using namespace kvjxml::bench;
 
 constexpr long everything = 0xFFFFFF;
 
-bool read(const std::string& reply, Kavrin::_KVConfiguration& configuration) {
+struct Configuration {
+    Kavrin::_KVConfiguration configuration{};
+    Kavrin::_KVConfiguration& begin() { return configuration; }
+    [[nodiscard]] bool isFilled() const { return configuration.standbyTimeout != 0; }
+};
+
+void read(const std::string& reply, Kavrin::_KVConfiguration& configuration) {
     Kavrin::KVJConfigParser().GetConfiguration(reply.c_str(), 0, configuration);
-    return configuration.standbyTimeout != 0;
 }
 
 /// The whole of it, the copy in a file included.
@@ -34,7 +39,7 @@ bool composeWithoutCopy(const Kavrin::_KVConfiguration& configuration, std::vect
 std::vector<Task> tasks() {
     // The two lines that reading a ribbon's name writes are for a terminal, not for a measurement.
     if (std::freopen("/dev/null", "w", stderr) == nullptr) return {};
-    std::string text = sample("configuration");
+    const std::string text = sample("configuration");
     const auto configuration = std::make_shared<Kavrin::_KVConfiguration>();
     const auto out = std::make_shared<std::vector<wchar_t>>(65536);
     read(text, *configuration);
@@ -46,15 +51,16 @@ std::vector<Task> tasks() {
     const std::wstring composed = out->data();
     const std::string request(composed.begin(), composed.end());
     const auto byHand = std::make_shared<ByHand>(model);
-    return {{"read",
-             text.size(),
-             {{"library", [=] { return read(text, *configuration); }},
-              {"by_hand", [=] { return kvjxml::bench::read(text.c_str(), withPositions); }},
-              {"floor", [=] { return kvjxml::bench::read(text.c_str(), withoutPositions); }}}},
+    // The ranges' numbers and the two lines for the ribbon are much of the time, and no part of parsing.
+    constexpr Limits limits{.bare = 0.15};
+    return {reading<Configuration>(
+                "read", text.size(), [=](auto& record) { read(text, record); },
+                [=](const Rival& rival, auto& record) { rival.readConfiguration(text, record); },
+                [=] { return parse(text.c_str()); }, limits),
             {"compose",
              request.size(),
              {{"without_copy", [=] { return composeWithoutCopy(*configuration, *out); }},
-              {"floor", [=] { return byHand->compose(*out) && composed == out->data(); }},
+              {"floor", [=] { return byHand->compose(*out) && composed == out->data(); }, 1.10},
               {"with_copy", [=] { return compose(*configuration, *out); }}}}};
 }
 

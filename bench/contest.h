@@ -17,6 +17,7 @@ namespace kvjxml::bench {
 struct Contender {
     const char* name;
     std::function<bool()> run;  ///< whether it came to the result that it has to
+    double limit = 0;           ///< the part of its time that the first may take; 0 for none
 };
 
 /// Contenders for one task; the first is the one that the others are compared with.
@@ -24,9 +25,14 @@ struct Task {
     std::string name;
     std::size_t bytes;  ///< of the document that is read or written
     std::vector<Contender> contenders;
+    /// Compares what the contenders make with what the first one does.
+    /// @throws std::runtime_error, saying what differs.
+    std::function<void()> check = [] {};
 };
 
-/// Runs all tasks, in the locale of the environment, and prints a line for each contender.
+/// Checks and runs all tasks, in the locale of the environment, and prints a line for each contender. With the
+/// arguments
+/// `--repeat CONTENDER/TASK TIMES` there is no more than that many runs, in the function `repeat`, for a profiler.
 /// @return an exit code: not 0 when a contender came to a wrong result.
 int runContest(int argc, char** argv, const std::function<std::vector<Task>()>& tasks);
 
@@ -51,14 +57,8 @@ inline std::wstring wide(const std::string& text) { return {text.begin(), text.e
 /// As little as a host's conversion can be: there is room for ASCII only, and it is not cleared before.
 std::unique_ptr<char[]> narrow(const std::wstring& wide);
 
-/// Parses a text and lets it go again. With a tab size above 0, which is how TinyXML comes, rows and columns are kept.
-bool parse(const char* text, int tabSize);
-constexpr int withPositions = 4;
-constexpr int withoutPositions = 0;
-
-/// Parses a text likewise, goes through all its elements and converts each text to a number and the ranges of settings:
-/// the calls of TinyXML's that a reader by hand cannot do without, and one comparison of each name.
-bool read(const char* text, int tabSize);
+/// Parses a text as TinyXML comes, rows and columns included, and lets it go again.
+bool parse(const char* text);
 
 /// Composes a given document once more with nothing but TinyXML's own calls, and prints it.
 class ByHand {

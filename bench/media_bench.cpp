@@ -1,12 +1,14 @@
 // How the time to read a catalogue of media grows with its cards: in proportion. And the memory of the largest. See
 // README.md.
 #include <KVJMediaParser.h>
-#include <malloc.h>
-#include <sys/resource.h>
 
 #include <cstdio>
+#include <memory>
+#include <string>
+#include <vector>
 
-#include "contest.h"
+#include "allocations.h"
+#include "reading.h"
 
 namespace {
 
@@ -22,34 +24,37 @@ std::string catalogue(std::size_t count) {
     return R"(<?xml version="1.0" encoding="UTF-8"?><media><cards>)" + cards + "</cards></media>";
 }
 
-bool read(const std::string& reply, std::size_t count) {
-    const auto media = Kavrin::MakeKVMedia();
-    Kavrin::KVJMediaParser().GetMedia(reply.front(), 0, *media);
-    return media->cards->size() == count;
+/// A new catalogue for each reply; the one before is released.
+struct Catalogue {
+    Kavrin::KVMediaPointer media;
+    Kavrin::_KVMediaInfo& begin() {
+        media = Kavrin::MakeKVMedia();
+        return *media;
+    }
+    [[nodiscard]] bool isFilled() const { return !media->cards->empty() && media->cards->back()->calTable == 3; }
+};
+
+Task readingCatalogue(std::size_t count) {
+    const auto reply = std::make_shared<const std::string>(catalogue(count));
+    return reading<Catalogue>(
+        std::to_string(count), reply->size(),
+        [=](auto& media) { Kavrin::KVJMediaParser().GetMedia(reply->front(), 0, media); },
+        [=](const Rival& rival, auto& media) { rival.readCatalogue(*reply, media); },
+        [=] { return parse(reply->c_str()); });
 }
 
-Task reading(std::size_t count) {
-    const std::string text = catalogue(count);
-    return {std::to_string(count),
-            text.size(),
-            {{"library", [=] { return read(text, count); }},
-             {"bare", [=] { return parse(text.c_str(), withPositions); }},
-             {"floor", [=] { return parse(text.c_str(), withoutPositions); }}}};
+std::vector<Task> tasks() {
+    return {readingCatalogue(20), readingCatalogue(200), readingCatalogue(2000), readingCatalogue(20000)};
 }
 
-std::vector<Task> tasks() { return {reading(20), reading(200), reading(2000), reading(20000)}; }
-
-/// What the catalogue keeps on the heap, and how far the process grew while it was read.
+/// What the catalogue keeps on the heap, and what is there besides while it is read.
 void printMemory(std::size_t count) {
     const std::string reply = catalogue(count);
     const auto media = Kavrin::MakeKVMedia();
-    const std::size_t before = mallinfo2().uordblks;
+    const HeapUse use;
     Kavrin::KVJMediaParser().GetMedia(reply.front(), 0, *media);
-    const std::size_t kept = mallinfo2().uordblks - before;
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    std::printf("%zu cards, each a record of %zu bytes: %zu bytes kept, process at most %ld KiB, reply %zu bytes\n",
-                media->cards->size(), sizeof(Kavrin::_CardInfo), kept, usage.ru_maxrss, reply.size());
+    std::printf("%zu cards, each a record of %zu bytes: %zu bytes kept, at most %zu while reading, reply %zu bytes\n",
+                media->cards->size(), sizeof(Kavrin::_CardInfo), use.kept(), use.peak(), reply.size());
 }
 
 }  // namespace
