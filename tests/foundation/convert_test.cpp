@@ -202,6 +202,26 @@ TEST(ToFloat, IsADoubleFirstAndThenNarrowed) {
     expectValues(convert::toFloat, {{"1.00000005960464477539062500000000000001", 1.0F}, {"0.1", 0.1F}});
 }
 
+TEST(ToLong, IsExactWithFifteenDigitsAndWithMore) {
+    expectValues(convert::toLong, {{"999999999999999", 999999999999999},
+                                   {"-999999999999999", -999999999999999},
+                                   {"9999999999999999", 9999999999999999},
+                                   {"-9999999999999999", -9999999999999999},
+                                   {"000000000000000000000012", 12},
+                                   {"12.9", 12},
+                                   {"-", 0}});
+}
+
+TEST(ToFloat, RoundsOnceWithFifteenDigitsAndWithMore) {
+    expectValues(convert::toFloat, {{"0.0000000000001", 1e-13F},
+                                    {"0.00000000000001", 1e-14F},
+                                    {"-1234567.1234567", -1234567.125F},
+                                    {"1234567.1234567890", 1234567.125F},
+                                    {"3.", 3.0F}});
+    EXPECT_TRUE(std::signbit(convert::toFloat("-0")));
+    EXPECT_TRUE(std::signbit(convert::toFloat("-0.0")));
+}
+
 TEST(ToFloat, ANumberTooLargeIsInfiniteAndOneTooSmallIsZero) {
     expectValues(convert::toFloat, {{"340282346638528859811704183484516925440", FLT_MAX},
                                     {"1e39", infinity},
