@@ -245,7 +245,7 @@ void tamper(Random& random, std::string& text, const std::vector<std::string>& s
         const std::size_t at = random.below(text.size());
         switch (random.below(8)) {
             case 0:
-                text[at] = static_cast<char>(text[at] ^ (1U << random.below(8)));
+                text[at] = static_cast<char>(static_cast<unsigned char>(text[at]) ^ (1U << random.below(8)));
                 break;
             case 1:
                 text[at] = static_cast<char>(random.below(256));

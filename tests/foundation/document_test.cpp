@@ -739,8 +739,8 @@ TEST(Text, HasZerosBehindItsEnd) {
 }
 
 TEST(Text, OfMoreThanThereCanBeThrows) {
-    EXPECT_THROW(Text(std::numeric_limits<std::size_t>::max()), std::bad_alloc);
-    EXPECT_THROW(Text(std::numeric_limits<std::size_t>::max() - Text::padding + 1), std::bad_alloc);
+    EXPECT_THROW(Text text(std::numeric_limits<std::size_t>::max()), std::bad_alloc);
+    EXPECT_THROW(Text text(std::numeric_limits<std::size_t>::max() - Text::padding + 1), std::bad_alloc);
 }
 
 }  // namespace
