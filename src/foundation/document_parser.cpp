@@ -184,7 +184,7 @@ private:
     }
 
     bool openElement() {
-        skipBlanks();  // A mark is one in UTF-8.
+        if (beginsWithMark(at_)) skipBlanks();  // In UTF-8 it counts as one.
         char* const name = at_;
         if (beginsName(*at_)) {
             do ++at_;
