@@ -12,7 +12,7 @@ namespace Kavrin {
 
 /// One object reads any number of replies, one after the other and in one thread at a time. It is a document for the
 /// sake of what is wrong with a reply: after each call it is empty, and `Error()`, `ErrorId()` and `ErrorDesc()` tell
-/// of the reply that was read, while `ErrorRow()` and `ErrorCol()` are 0. Without a text they tell what they told
+/// of the reply that was read. The row and the column of an error are 0. Without a text they tell what they told
 /// before.
 class KVJXML_API KVJPrinterIDParser : public TiXmlDocument {
 public:
