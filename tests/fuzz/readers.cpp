@@ -17,6 +17,10 @@ using kvjxml::tests::Text;
 std::wstring wideOf(const std::string& bytes) {
     std::wstring text;
     for (std::size_t at = 0; at < bytes.size();) {
+        if (static_cast<unsigned char>(bytes[at]) < 0x80) {  // In every locale that this runs in it stands for itself.
+            text += static_cast<wchar_t>(bytes[at++]);
+            continue;
+        }
         wchar_t character = 0;
         std::mbstate_t state{};
         std::size_t used = std::mbrtowc(&character, &bytes[at], bytes.size() - at, &state);
