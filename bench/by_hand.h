@@ -642,8 +642,8 @@ void readRibbonName(Element element, char (&description)[64]) {
     get(element, name);
     const char* shown = name;
     if (const char* mono = std::strstr(name, "MONO"); mono != nullptr) shown = name + sizeof "MONO";
-    std::fprintf(stderr, "DEBUG:RIBBON NAME %s\n", shown);
-    std::fprintf(stderr, "DEBUG:RIBBON NAME2 %s\n", "");
+    static_cast<void>(std::fprintf(stderr, "DEBUG:RIBBON NAME %s\n", shown));
+    static_cast<void>(std::fprintf(stderr, "DEBUG:RIBBON NAME2 %s\n", ""));
     description[std::string_view(shown).copy(description, sizeof description - 1)] = '\0';
 }
 

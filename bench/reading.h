@@ -46,14 +46,14 @@ Task reading(std::string name, std::size_t bytes, Library library, ByHand byHand
     }
     task.check = [=] {
         Target expected;
-        auto& record = expected.begin();
-        library(record);
+        auto& ours = expected.begin();
+        library(ours);
         if (!expected.isFilled()) throw std::runtime_error("the library did not read the reply");
         for (const Rival& rival : rivals()) {
             Target target;
-            auto& other = target.begin();
-            byHand(rival, other);
-            compare(rival.name, other, record);
+            auto& theirs = target.begin();
+            byHand(rival, theirs);
+            compare(rival.name, theirs, ours);
         }
     };
     return task;

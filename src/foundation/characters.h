@@ -8,6 +8,7 @@
 #include <cctype>
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 namespace kvjxml::characters {
 
@@ -23,21 +24,24 @@ enum Kind : std::uint8_t {
     quote = 128,     ///< NUL and both quotation marks, where a value can end
 };
 
+/// All kinds of a byte.
+constexpr unsigned kindsOf(unsigned byte) noexcept {
+    const auto isWithin = [=](unsigned first, unsigned last) { return byte >= first && byte <= last; };
+    const auto isOneOf = [=](std::string_view characters) {
+        return characters.find(static_cast<char>(byte)) != std::string_view::npos;
+    };
+    const auto when = [](bool holds, unsigned kind) { return holds ? kind : 0U; };
+    const bool isBlank = isOneOf(" \t\n\v\f\r");
+    const bool isLetter = isWithin('A', 'Z') || isWithin('a', 'z') || isOneOf("_") || byte >= 0x7F;
+    return when(isBlank, blank) | when(isLetter, letter | inName) | when(isWithin('0', '9') || isOneOf("-.:"), inName) |
+           when(isWithin(0x01, 0x1F) && !isBlank, control) | when(isWithin(0xC2, 0xF4), lead) |
+           when(isOneOf("&"), ampersand) | when(byte == 0 || isOneOf("<"), end) |
+           when(byte == 0 || isOneOf("\"'"), quote);
+}
+
 inline constexpr auto kinds = [] {
     std::array<std::uint8_t, 256> table{};
-    for (unsigned byte = 0; byte < table.size(); ++byte) {
-        unsigned kind = 0;
-        const unsigned lower = byte | 0x20U;
-        if (byte == ' ' || (byte >= '\t' && byte <= '\r')) kind |= blank;
-        if (byte > 0 && byte < ' ' && kind == 0) kind |= control;
-        if ((lower >= 'a' && lower <= 'z') || byte == '_' || byte >= 0x7F) kind |= letter | inName;
-        if ((byte >= '0' && byte <= '9') || byte == '-' || byte == '.' || byte == ':') kind |= inName;
-        if (byte >= 0xC2 && byte <= 0xF4) kind |= lead;
-        if (byte == '&') kind |= ampersand;
-        if (byte == '\0' || byte == '<') kind |= end;
-        if (byte == '\0' || byte == '"' || byte == '\'') kind |= quote;
-        table[byte] = static_cast<std::uint8_t>(kind);
-    }
+    for (unsigned byte = 0; byte < table.size(); ++byte) table[byte] = static_cast<std::uint8_t>(kindsOf(byte));
     return table;
 }();
 

@@ -329,16 +329,24 @@ private:
         return *at_ == '\0' ? wrong(TiXmlBase::TIXML_ERROR_PARSING_ELEMENT, found.name) : Fault{};
     }
 
+    /// The kinds of characters that do not stand for themselves in front of this delimiter.
+    [[nodiscard]] unsigned specialBefore(char delimiter) const noexcept {
+        const unsigned special = delimiter == '<' ? unsigned{end} : unsigned{quote};
+        const unsigned gaps = delimiter == '<' && condense_ ? unsigned{blank} : 0U;
+        return special | gaps | ampersand | (utf8() ? unsigned{lead} : 0U);
+    }
+
+    /// A character of several bytes takes them along, markup or not.
+    void copyCharacter(char*& from, char*& to) const noexcept {
+        for (std::size_t left = utf8() ? lengthInUtf8(*from) : 1; left > 0 && *from != '\0'; --left) *to++ = *from++;
+    }
+
     /// Decodes the text from here to the next `delimiter`, and stands there then; or at the end of the text, or at a
     /// reference that cannot be decoded.
     /// @return the end of the decoded text, which is not terminated yet.
     char* decodeTo(char delimiter) noexcept {
-        const bool isText = delimiter == '<';
-        const bool condense = isText && condense_;
-        unsigned special = ampersand;
-        special |= isText ? end : quote;
-        if (condense) special |= blank;
-        if (utf8()) special |= lead;
+        const bool condense = delimiter == '<' && condense_;
+        const unsigned special = specialBefore(delimiter);
         // Most texts stand for themselves.
         char* from = at_;
         while (!is(*from, special)) ++from;
@@ -357,10 +365,7 @@ private:
                 if (behind == nullptr) break;
                 from = behind;
             } else {
-                // A character of several bytes takes them along, markup or not.
-                for (std::size_t left = utf8() ? lengthInUtf8(*from) : 1; left > 0 && *from != '\0'; --left) {
-                    *to++ = *from++;
-                }
+                copyCharacter(from, to);
                 while (!is(*from, special)) *to++ = *from++;
             }
         }

@@ -55,7 +55,8 @@ char* decodeNumber(char* from, char*& to, bool utf8) noexcept {
     for (const char* digit = semicolon - 1; *digit != mark; --digit) {
         const int value = valueOf(*digit, hexadecimal);
         if (value < 0) return nullptr;
-        character += weight * static_cast<unsigned int>(value);
+        const unsigned int part = weight * static_cast<unsigned int>(value);
+        character += part;
         weight *= hexadecimal ? 16 : 10;
     }
     if (utf8) {

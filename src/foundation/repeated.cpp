@@ -70,6 +70,21 @@ void sortFew(Parts parts) noexcept {
     });
 }
 
+/// Of names that were equal before and are sorted by their next part: those that are still equal, and the first that
+/// turns out to be the same as one before it, when that comes before `first`.
+std::size_t firstRepeatedOf(Parts sorted, std::vector<Parts>& stillEqual, std::size_t first) {
+    for (std::size_t begin = 0, end = 0; begin < sorted.size(); begin = end) {
+        for (end = begin + 1; end < sorted.size() && sorted[end].bytes == sorted[begin].bytes;) ++end;
+        if (end - begin == 1) continue;
+        if (isLast(sorted[begin])) {
+            first = std::min<std::size_t>(first, sorted[begin + 1].attribute);
+        } else {
+            stillEqual.push_back(sorted.subspan(begin, end - begin));
+        }
+    }
+    return first;
+}
+
 }  // namespace
 
 std::size_t firstRepeated(Attributes attributes, const char* text) {
@@ -92,18 +107,7 @@ std::size_t firstRepeated(Attributes attributes, const char* text) {
             } else {
                 sort(group, {scratch.get(), group.size()});
             }
-            for (std::size_t begin = 0; begin < group.size();) {
-                std::size_t end = begin + 1;
-                while (end < group.size() && group[end].bytes == group[begin].bytes) ++end;
-                if (end - begin > 1) {
-                    if (isLast(group[begin])) {
-                        first = std::min<std::size_t>(first, group[begin + 1].attribute);
-                    } else {
-                        stillEqual.push_back(group.subspan(begin, end - begin));
-                    }
-                }
-                begin = end;
-            }
+            first = firstRepeatedOf(group, stillEqual, first);
         }
         equalSoFar = std::move(stillEqual);
     }
