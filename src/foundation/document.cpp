@@ -11,7 +11,7 @@
 namespace kvjxml {
 
 Text::Text(std::size_t length) : length_(length) {
-    if (length > std::numeric_limits<std::size_t>::max() - padding) throw std::bad_alloc();
+    if (length > std::numeric_limits<std::ptrdiff_t>::max() - padding) throw std::bad_alloc();  // No array is so long.
     bytes_.reset(new char[length + padding]);
     end(length);
 }

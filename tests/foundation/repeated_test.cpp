@@ -21,6 +21,7 @@ std::size_t firstRepeated(const std::vector<std::string>& names) {
         attributes.push_back({static_cast<std::uint32_t>(text.size()), 0});
         text += name + '\0';
     }
+    text.append(kvjxml::Text::padding, '\0');
     return kvjxml::firstRepeated(attributes, text.c_str());
 }
 
