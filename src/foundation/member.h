@@ -39,6 +39,14 @@ consteval std::string_view nameOfTable() {
     return lastNameOf(__PRETTY_FUNCTION__);
 }
 
+/// The name of a type, with its namespace.
+template <class Argument>
+consteval std::string_view nameOfType() {
+    std::string_view function = __PRETTY_FUNCTION__;
+    function.remove_prefix(function.find("Argument = ") + std::string_view("Argument = ").size());
+    return function.substr(0, function.find_first_of(";]"));
+}
+
 }  // namespace kvjxml
 
 #endif

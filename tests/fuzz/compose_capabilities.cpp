@@ -2,6 +2,7 @@
 #include <KVJSetCaps.h>
 
 #include "composing.h"
+#include "fields/capabilities.h"
 #include "records.h"
 
 namespace {

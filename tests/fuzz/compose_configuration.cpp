@@ -2,6 +2,7 @@
 #include <KVJSetConfig.h>
 
 #include "composing.h"
+#include "fields/configuration.h"
 #include "records.h"
 
 namespace {

@@ -2,6 +2,7 @@
 #include <KVJSetPrinterInfo.h>
 
 #include "composing.h"
+#include "fields/identity.h"
 #include "foundation/request.h"
 #include "records.h"
 

@@ -2,6 +2,7 @@
 #include <KVJSetMedia.h>
 
 #include "composing.h"
+#include "fields/media.h"
 #include "records.h"
 
 namespace {

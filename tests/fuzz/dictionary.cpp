@@ -1,15 +1,13 @@
 // Prints the words of the project's own tables as a dictionary for the fuzzer: the names of elements and readers, the
 // words that are read, and the fields of the requests' JSON.
-#include <cctype>
 #include <cstdio>
 #include <iostream>
 #include <set>
 #include <string>
 #include <string_view>
-#include <utility>
 
-#include "messages.h"
-#include "requests.h"
+#include "messages/message.h"
+#include "messages/request.h"
 
 namespace {
 
@@ -60,19 +58,6 @@ void collect(std::span<const kvjxml::DescribedRow> rows, Entries& entries) {
     }
 }
 
-/// The words of what --help says of a request.
-void collectWords(std::string_view text, Entries& entries) {
-    std::string word;
-    for (const char c : text) {
-        if (std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '_') {
-            word += c;
-        } else {
-            entries.insert(std::exchange(word, {}));
-        }
-    }
-    entries.insert(word);
-}
-
 void print(std::string_view entry) {
     std::cout << '"';
     for (const char c : entry) {
@@ -88,14 +73,14 @@ void print(std::string_view entry) {
 
 int main() {
     Entries entries(std::begin(marks), std::end(marks));
-    for (const auto& message : kvjxml::tool::messages()) {
+    for (const auto& message : kvjxml::messages()) {
         entries.emplace(message.root);
         collect(message.table, entries);
     }
-    for (const auto& request : kvjxml::tool::requests()) {
+    for (const auto& request : kvjxml::requests()) {
         entries.emplace(request.name);
-        entries.emplace(request.composer);
-        collectWords(request.fields, entries);
+        entries.emplace(request.operation);
+        for (const auto& field : request.record->fields) entries.emplace(field.name);
     }
     entries.erase("");
     for (const auto& entry : entries) print(entry);

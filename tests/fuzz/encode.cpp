@@ -5,8 +5,8 @@
 #include <sstream>
 
 #include "chosen.h"
+#include "encode.h"
 #include "failure.h"
-#include "requests.h"
 #include "target.h"
 
 namespace {
@@ -20,26 +20,24 @@ std::string lineOf(std::istringstream& input) {
     return line;
 }
 
-tool::Options optionsOf(const std::string& line) {
-    tool::Options options;
+kvjxml::Choices choicesOf(const std::string& line) {
+    kvjxml::Choices choices;
     std::istringstream numbers(line);
-    numbers >> options.mask >> options.card >> options.mode >> options.withoutTransfer >> options.allCards >>
-        options.full;
-    return options;
+    numbers >> choices.sections >> choices.card >> choices.mode >> choices.withoutTransfer >> choices.allCards >>
+        choices.full;
+    return choices;
 }
 
 }  // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const auto requests = tool::requests();
     std::setlocale(LC_CTYPE, "C.UTF-8");  // as the tool does
     std::istringstream input(kvjxml::fuzz::textOf(data, size));
-    const auto& request = kvjxml::fuzz::chosen(std::span(requests), lineOf(input));
-    const tool::Options options = optionsOf(lineOf(input));
+    const auto& request = kvjxml::fuzz::chosen(kvjxml::requests(), lineOf(input));
+    const kvjxml::Choices choices = choicesOf(lineOf(input));
     std::string document;
     try {
-        tool::Arguments arguments({std::istreambuf_iterator<char>(input), {}}, "input");
-        document = request.compose(arguments, options);
+        document = tool::composed(request, choices, {std::istreambuf_iterator<char>(input), {}}, "input");
     } catch (const tool::Failure&) {
         return 0;
     }

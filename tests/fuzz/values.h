@@ -43,10 +43,13 @@ public:
     }
     Text text() { return rest_.empty() ? Text() : Text(next()); }
     /// A text in a record, or the bytes of an address. One that fills its field is not terminated there.
-    template <class Character, std::size_t N>
-    void text(Character (&field)[N]) {
+    void text(char* field, std::size_t size) {
         const std::string content = next();
-        std::copy_n(content.data(), std::min(N, content.size()), field);
+        std::copy_n(content.data(), std::min(size, content.size()), field);
+    }
+    template <std::size_t N>
+    void text(char (&field)[N]) {
+        text(field, N);
     }
     int number() { return static_cast<int>(std::strtol(next().c_str(), nullptr, 10)); }
     float decimal() { return std::strtof(next().c_str(), nullptr); }

@@ -4,9 +4,9 @@
 #include <iostream>
 #include <vector>
 
+#include "decode_message.h"
 #include "failure.h"
 #include "foundation/reply.h"
-#include "messages.h"
 
 namespace kvjxml::tool {
 
@@ -67,9 +67,9 @@ std::vector<Message> readersOf(const Input& input, const std::string& message) {
 
 /// Has a reader print its record, and says when it failed.
 bool decode(const Message& reader, const Input& input, JsonPrinter& json) {
-    const bool result = reader.decode(input, json);
+    const bool result = decodeMessage(reader, input, json);
     if (!result) {
-        std::cerr << "kvjxml: " << input.name << ": " << reader.reader << " reported failure: \"" << reader.root
+        std::cerr << "kvjxml: " << input.name << ": " << reader.operation << " reported failure: \"" << reader.root
                   << "\" is missing or empty, or the last element known in it has no text or one too long\n";
     }
     return result;
@@ -88,7 +88,7 @@ ExitCode decode(const Source& source, const std::string& message) {
         // Several readers may take their part of one reply, and a reply need not have a part for each.
         json.object([&] {
             for (const Message& reader : readers) {
-                json.field(reader.reader);
+                json.field(reader.operation);
                 if (decode(reader, input, json)) anyRead = true;
             }
         });

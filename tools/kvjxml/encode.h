@@ -1,17 +1,24 @@
 /// @file encode.h
-/// The verb that composes a request from JSON.
+/// Composes a request.
 #ifndef KVJXML_TOOL_ENCODE_H
 #define KVJXML_TOOL_ENCODE_H
 
+#include <string>
+
 #include "exit_code.h"
 #include "input.h"
-#include "requests.h"
+#include "messages/request.h"
 
 namespace kvjxml::tool {
 
-/// Prints the request that the JSON from `source` makes.
+/// The request that the library composes from JSON, which came from `source`.
 /// @throws Failure
-ExitCode encode(const Request& request, const Options& options, const Source& source);
+std::string composed(const Request& request, const Choices& choices, const std::string& json,
+                     const std::string& source);
+
+/// Prints the request that the library composes from JSON.
+/// @throws Failure
+ExitCode encode(const Request& request, const Choices& choices, const Source& source);
 
 }  // namespace kvjxml::tool
 

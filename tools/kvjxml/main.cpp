@@ -14,20 +14,15 @@
 #include "decode.h"
 #include "encode.h"
 #include "failure.h"
-#include "messages.h"
+#include "messages/message.h"
+#include "messages/request.h"
 #include "reference.h"
-#include "requests.h"
+#include "request_options.h"
 #include "sections.h"
 
 namespace {
 
 using kvjxml::tool::ExitCode;
-
-/// A number in hexadecimal, with or without the prefix that says so.
-std::string asHexadecimal(std::string& text) {
-    if (!text.starts_with("0x")) text.insert(0, "0x");
-    return {};
-}
 
 /// A size, as its number of bytes. Units are those of 1024; of "KB" nobody knows which is meant.
 std::string asBytes(std::string& text) {
@@ -43,22 +38,6 @@ std::string asBytes(std::string& text) {
     }
     text = std::to_string(number << shift->second);
     return {};
-}
-
-/// A request of sections does not guess which are meant.
-void addSectionOptions(CLI::App& verb, const kvjxml::tool::Request& request, kvjxml::tool::Options& options) {
-    CLI::Option_group* choice = verb.add_option_group("Sections", "What is written: one of these");
-    choice->add_option("--sections", options.sections, "Names from --list-sections, separated by commas")
-        ->option_text("NAMES")
-        ->delimiter(',')
-        ->allow_extra_args(false)  // What stands behind the names is the file.
-        ->transform(kvjxml::tool::oneOf(kvjxml::tool::bitsByName(request.table)));
-    choice->add_option("--mask", options.mask, "Their bits")
-        ->option_text("HEX")
-        ->transform(CLI::Validator(asHexadecimal, ""));
-    choice->add_flag("--list-sections", options.listSections, "Print the name, bit and content of each, and end");
-    if (CLI::Option* full = verb.get_option_no_throw("--full")) choice->add_option(full);
-    choice->require_option(1);
 }
 
 /// What each verb that reads anything takes.
@@ -81,7 +60,7 @@ int run(int argc, char** argv) {
     kvjxml::tool::Source source;
     std::string message;
     std::set<std::string> roots;
-    for (const auto& known : kvjxml::tool::messages()) {
+    for (const auto& known : kvjxml::messages()) {
         roots.emplace(known.root);
         if (!known.otherRoot.empty()) roots.emplace(known.otherRoot);
     }
@@ -98,13 +77,11 @@ int run(int argc, char** argv) {
     encode->footer(kvjxml::tool::exitCodeTable());
     encode->require_subcommand(1);
     kvjxml::tool::Options options;
-    const auto requests = kvjxml::tool::requests();
-    for (const auto& request : requests) {
-        CLI::App* verb =
-            encode->add_subcommand(std::string(request.name), "From an object with " + std::string(request.fields));
+    for (const auto& request : kvjxml::requests()) {
+        CLI::App* verb = encode->add_subcommand(std::string(request.name),
+                                                "From an object with " + kvjxml::tool::contentOf(request));
         addSource(*verb, "The JSON", source);
-        if (request.addOptions != nullptr) request.addOptions(*verb, options);
-        if (request.hasSections()) addSectionOptions(*verb, request, options);
+        kvjxml::tool::addOptions(*verb, request, options);
     }
 
     const CLI::App* messages =
@@ -115,9 +92,11 @@ int run(int argc, char** argv) {
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? static_cast<int>(ExitCode::done) : static_cast<int>(ExitCode::usage);
     }
-    for (const auto& request : requests) {
-        if (encode->got_subcommand(std::string(request.name)))
-            return static_cast<int>(kvjxml::tool::encode(request, options, source));
+    for (const auto& request : kvjxml::requests()) {
+        if (!encode->got_subcommand(std::string(request.name))) continue;
+        if (options.listSections) return static_cast<int>(kvjxml::tool::listSections(request.table));
+        for (const long bit : options.sections) options.choices.sections |= bit;
+        return static_cast<int>(kvjxml::tool::encode(request, options.choices, source));
     }
     return static_cast<int>(messages->parsed() ? kvjxml::tool::printReference()
                                                : kvjxml::tool::decode(source, message));

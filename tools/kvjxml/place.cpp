@@ -2,10 +2,9 @@
 
 #include <arpa/inet.h>
 
-#include <cstring>
+#include <limits>
 
 #include "failure.h"
-#include "foundation/convert.h"
 #include "xml_text.h"
 
 namespace kvjxml::tool {
@@ -56,18 +55,18 @@ std::string Place::elementName() const {
     return name;
 }
 
-void Place::read(bool& flag) const {
+bool Place::flag() const {
     if (!value_->is_boolean()) refuse("has to be true or false");
-    flag = value_->get<bool>();
+    return value_->get<bool>();
 }
 
-void Place::read(float& number) const {
+float Place::decimal() const {
     if (!value_->is_number()) refuse("has to be a number");
     const auto wide = value_->get<double>();
     if (wide > std::numeric_limits<float>::max() || wide < std::numeric_limits<float>::lowest()) {
         refuse("is out of range");
     }
-    number = static_cast<float>(wide);
+    return static_cast<float>(wide);
 }
 
 std::int64_t Place::wholeNumber() const {
@@ -78,7 +77,7 @@ std::int64_t Place::wholeNumber() const {
     return value_->get<std::int64_t>();
 }
 
-void Place::read(unsigned char (&address)[6]) const {
+convert::HardwareAddress Place::hardwareAddress() const {
     const std::string content = text();
     const auto bytes = convert::toHardwareAddress(content.c_str());
     // Only a text that is written just so again was one.
@@ -89,13 +88,13 @@ void Place::read(unsigned char (&address)[6]) const {
     if (lower != convert::fromHardwareAddress(bytes.data()).c_str()) {
         refuse("has to be a hardware address such as 00:1a:2b:3c:4d:5e");
     }
-    std::memcpy(address, bytes.data(), sizeof address);
+    return bytes;
 }
 
-void Place::readIpAddress(unsigned long& address) const {
+unsigned long Place::ipAddress() const {
     in_addr network{};
     if (inet_pton(AF_INET, text().c_str(), &network) != 1) refuse("has to be an IPv4 address such as 192.168.0.1");
-    address = network.s_addr;
+    return network.s_addr;
 }
 
 }  // namespace kvjxml::tool

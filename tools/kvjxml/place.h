@@ -4,14 +4,13 @@
 #ifndef KVJXML_TOOL_PLACE_H
 #define KVJXML_TOOL_PLACE_H
 
-#include <concepts>
 #include <cstdint>
-#include <limits>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
-#include <type_traits>
 #include <utility>
+
+#include "foundation/convert.h"
 
 namespace kvjxml::tool {
 
@@ -42,38 +41,18 @@ public:
     [[nodiscard]] std::string text() const;
     /// A text that can be the name of an element.
     [[nodiscard]] std::string elementName() const;
-    void read(bool& flag) const;
-    void read(float& number) const;
-    template <std::integral Integer>
-    void read(Integer& number) const {
-        const std::int64_t wide = wholeNumber();
-        if (!std::in_range<Integer>(wide)) refuse("is out of range");
-        number = static_cast<Integer>(wide);
-    }
-    template <class Enumeration>
-    requires std::is_enum_v<Enumeration>
-    void read(Enumeration& code) const {
-        int number = 0;
-        read(number);
-        code = static_cast<Enumeration>(number);
-    }
-    template <std::size_t N>
-    void read(char (&field)[N]) const {
-        const std::string content = text();
-        if (content.size() >= N) refuse("is longer than " + std::to_string(N - 1) + " bytes");
-        content.copy(field, N - 1);
-        field[content.size()] = '\0';
-    }
-    /// A hardware address, "00:1a:2b:3c:4d:5e".
-    void read(unsigned char (&address)[6]) const;
-    /// An IPv4 address, "192.168.0.1".
-    void readIpAddress(unsigned long& address) const;
+    [[nodiscard]] bool flag() const;
+    [[nodiscard]] float decimal() const;
+    [[nodiscard]] std::int64_t wholeNumber() const;
+    /// Of a text such as "00:1a:2b:3c:4d:5e".
+    [[nodiscard]] convert::HardwareAddress hardwareAddress() const;
+    /// Of a text such as "192.168.0.1", in network byte order.
+    [[nodiscard]] unsigned long ipAddress() const;
 
 private:
     using Pointer = nlohmann::json::json_pointer;
     Place(const nlohmann::json& value, const std::string& source, Pointer pointer)
         : value_(&value), source_(&source), pointer_(std::move(pointer)) {}
-    [[nodiscard]] std::int64_t wholeNumber() const;
 
     const nlohmann::json* value_;
     const std::string* source_;

@@ -5,8 +5,8 @@
 #include <sstream>
 #include <string>
 
-#include "messages.h"
-#include "requests.h"
+#include "messages/message.h"
+#include "messages/request.h"
 
 namespace kvjxml::tool {
 
@@ -68,11 +68,12 @@ ExitCode printReference() {
     for (const Message& message : messages()) {
         std::cout << "\n## " << message.root;
         if (!message.otherRoot.empty()) std::cout << " or " << message.otherRoot;
-        std::cout << ", read by " << message.reader << "\n\n| Element | Field | Read as |\n| --- | --- | --- |\n";
+        std::cout << ", read by " << message.operation << "\n\n| Element | Field | Read as |\n| --- | --- | --- |\n";
         printRows(message.table, "", Direction::read, tables);
     }
-    for (const Request& request : recordRequests()) {
-        std::cout << "\n## " << request.name << ", written by " << request.composer
+    for (const Request& request : requests()) {
+        if (request.table.empty()) continue;  // What is made of arguments, its operation says.
+        std::cout << "\n## " << request.name << ", written by " << request.operation
                   << "\n\n| Element | Field | Written as | When |\n| --- | --- | --- | --- |\n";
         printRows(request.table, "", Direction::written, tables);
     }

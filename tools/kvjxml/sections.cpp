@@ -1,5 +1,6 @@
 #include "sections.h"
 
+#include <algorithm>
 #include <iomanip>
 #include <iostream>
 
@@ -31,12 +32,6 @@ std::vector<NamedSection> sectionsOf(std::span<const DescribedRow> rows) {
         sections.push_back({std::string(taken ? row.description.field : row.name), row.section, contentOf(row)});
     }
     return sections;
-}
-
-NamedNumbers bitsByName(std::span<const DescribedRow> rows) {
-    NamedNumbers bits;
-    for (const auto& section : sectionsOf(rows)) bits.emplace(section.name, section.bit);
-    return bits;
 }
 
 // Groups nest as deep as the tables are written, so the recursion ends. NOLINTNEXTLINE(misc-no-recursion)

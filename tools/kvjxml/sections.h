@@ -5,11 +5,11 @@
 
 #include <span>
 #include <string>
+#include <vector>
 
 #include "exit_code.h"
 #include "foundation/rows.h"
-#include "record.h"
-#include "requests.h"
+#include "json_record.h"
 
 namespace kvjxml::tool {
 
@@ -21,8 +21,6 @@ struct NamedSection {
 
 /// In the order in which they are written.
 std::vector<NamedSection> sectionsOf(std::span<const DescribedRow> rows);
-
-NamedNumbers bitsByName(std::span<const DescribedRow> rows);
 
 /// The fields of the record that are written for the sections of a mask; those of rows that are no sections as well.
 Names fieldsWritten(std::span<const DescribedRow> rows, long mask = 0);

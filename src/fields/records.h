@@ -1,0 +1,16 @@
+/// @file records.h
+/// All records of the library.
+#ifndef KVJXML_FIELDS_RECORDS_H
+#define KVJXML_FIELDS_RECORDS_H
+
+#include <span>
+
+#include "fields/field.h"
+
+namespace kvjxml {
+
+std::span<const RecordType* const> recordTypes();
+
+}  // namespace kvjxml
+
+#endif

@@ -1,0 +1,197 @@
+/// @file commands.h
+/// What the requests without a record of their own are made of: the arguments of their composer, as a record. The names
+/// are those of the arguments. Texts are the host's; where null is allowed, it leaves out what the text would be.
+#ifndef KVJXML_MESSAGES_COMMANDS_H
+#define KVJXML_MESSAGES_COMMANDS_H
+
+#include "fields/list.h"
+
+namespace kvjxml {
+
+namespace command {
+
+// ---- Service commands ----
+
+struct Motor {
+    int state;
+    int direction;
+    int speed;
+    int motor;
+};
+
+struct MotorMode {
+    int mode;
+    int period;
+    float rpm;
+    int speed;
+    bool forward;
+};
+
+struct Cam {
+    const char* cam;
+    const char* state;
+};
+
+struct Calibrate {
+    int calibration;
+    float torque;
+    float rpm;
+};
+
+struct Other {
+    const char* device;
+    const char* text;
+    const char* panel;
+    bool on;
+};
+
+struct Rfid {
+    const char* device;
+    int mode;
+    int antenna;
+};
+
+// ---- The hand-shake ----
+
+struct Nonce {
+    const char* nonce;
+};
+
+struct ActionRequest {
+    const char* name;
+    const char* model;
+    const char* serial;
+    const char* nonce;
+};
+
+struct ActionDirective {
+    const char* model;
+    const char* serial;
+    const char* nonce;
+    const char* hmac;
+    int timeout;
+};
+
+struct Passkey {
+    const char* passkey;
+};
+
+struct PasskeyChange {
+    const char* current_passkey;
+    const char* new_passkey;
+};
+
+struct KeyChange {
+    const char* current_passkey;
+    const char* current_host_authentication_key;
+    const char* new_host_authentication_key;
+    const char* current_data_encryption_key;
+    const char* new_data_encryption_key;
+    const char* current_printer_lock_key;
+    const char* new_printer_lock_key;
+    bool host;
+    bool data;
+    bool lock;
+};
+
+}  // namespace command
+
+// clang-format off
+
+template <>
+inline constexpr FieldList<
+    &command::Motor::state,
+    &command::Motor::direction,
+    &command::Motor::speed,
+    &command::Motor::motor>
+    fields<command::Motor>{};
+
+template <>
+inline constexpr FieldList<
+    &command::MotorMode::mode,
+    &command::MotorMode::period,
+    &command::MotorMode::rpm,
+    &command::MotorMode::speed,
+    &command::MotorMode::forward>
+    fields<command::MotorMode>{};
+
+template <>
+inline constexpr FieldList<
+    needed<&command::Cam::cam>,
+    needed<&command::Cam::state>>
+    fields<command::Cam>{};
+
+template <>
+inline constexpr FieldList<
+    &command::Calibrate::calibration,
+    &command::Calibrate::torque,
+    &command::Calibrate::rpm>
+    fields<command::Calibrate>{};
+
+template <>
+inline constexpr FieldList<
+    elementName<&command::Other::device>,
+    &command::Other::text,
+    &command::Other::panel,
+    &command::Other::on>
+    fields<command::Other>{};
+
+template <>
+inline constexpr FieldList<
+    elementName<&command::Rfid::device>,
+    &command::Rfid::mode,
+    &command::Rfid::antenna>
+    fields<command::Rfid>{};
+
+template <>
+inline constexpr FieldList<
+    needed<&command::Nonce::nonce>>
+    fields<command::Nonce>{};
+
+template <>
+inline constexpr FieldList<
+    &command::ActionRequest::name,
+    &command::ActionRequest::model,
+    &command::ActionRequest::serial,
+    &command::ActionRequest::nonce>
+    fields<command::ActionRequest>{};
+
+template <>
+inline constexpr FieldList<
+    &command::ActionDirective::model,
+    &command::ActionDirective::serial,
+    &command::ActionDirective::nonce,
+    &command::ActionDirective::hmac,
+    &command::ActionDirective::timeout>
+    fields<command::ActionDirective>{};
+
+template <>
+inline constexpr FieldList<
+    needed<&command::Passkey::passkey>>
+    fields<command::Passkey>{};
+
+template <>
+inline constexpr FieldList<
+    &command::PasskeyChange::current_passkey,
+    &command::PasskeyChange::new_passkey>
+    fields<command::PasskeyChange>{};
+
+template <>
+inline constexpr FieldList<
+    &command::KeyChange::current_passkey,
+    &command::KeyChange::current_host_authentication_key,
+    &command::KeyChange::new_host_authentication_key,
+    &command::KeyChange::current_data_encryption_key,
+    &command::KeyChange::new_data_encryption_key,
+    &command::KeyChange::current_printer_lock_key,
+    &command::KeyChange::new_printer_lock_key,
+    &command::KeyChange::host,
+    &command::KeyChange::data,
+    &command::KeyChange::lock>
+    fields<command::KeyChange>{};
+
+// clang-format on
+
+}  // namespace kvjxml
+
+#endif

@@ -1,0 +1,145 @@
+#include "decode_message.h"
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+#include <vector>
+
+#include "foundation/reply.h"
+#include "json_record.h"
+#include "messages/zeroed_record.h"
+
+namespace kvjxml::tool {
+
+namespace {
+
+// ---- Lists: an entry can take 4 KiB, so one is read, printed and forgotten before the next ----
+
+/// One element with entries of a list, and how far these have been read.
+class Section {
+public:
+    Section(Element section, std::string_view entryName)
+        : at_(section.children().begin()), end_(section.children().end()), name_(entryName) {
+        skipOthers();
+    }
+    explicit operator bool() const { return at_ != end_; }
+    [[nodiscard]] Element entry() const { return *at_; }
+    void goOn() {
+        ++at_;
+        skipOthers();
+    }
+
+private:
+    void skipOthers() {
+        while (at_ != end_ && (*at_).name() != name_) ++at_;
+    }
+
+    Element::Iterator at_;
+    Element::Iterator end_;
+    std::string_view name_;
+};
+
+/// All elements with entries of a list.
+std::vector<Section> sectionsOf(Element root, const HostList& list) {
+    if (!root) return {};
+    std::vector<Section> sections;
+    if (list.section.empty()) {
+        sections.emplace_back(root, list.entry);
+    } else {
+        for (const Element child : root.children()) {
+            if (child.name() == list.section) sections.emplace_back(child, list.entry);
+        }
+    }
+    std::erase_if(sections, [](const Section& section) { return !section; });
+    return sections;
+}
+
+/// The entries of a list, as an array that is large enough would have them after reading: those of a section that
+/// stands again go over those of the first, and what is behind the last that was written is none.
+class Entries {
+public:
+    Entries(Element root, const HostList& list)
+        : list_(&list), sections_(sectionsOf(root, list)), entry_(std::make_unique<char[]>(field().size)) {}
+
+    /// @return the result of reading the last entry; false when there is none.
+    bool print(JsonPrinter& json) {
+        json.list([&] {
+            std::size_t unwritten = 0;
+            for (; !sections_.empty(); goOn()) {
+                if (!isWritten()) {
+                    ++unwritten;
+                    continue;
+                }
+                fill(0);
+                for (; unwritten > 0; --unwritten) printEntry(json);
+                read();
+                printEntry(json);
+            }
+        });
+        return result_;
+    }
+
+private:
+    [[nodiscard]] const Field& field() const { return *list_->field->entries->entry; }
+    void fill(char byte) { std::memset(entry_.get(), byte, field().size); }
+    void printEntry(JsonPrinter& json) {
+        json.entry();
+        tool::print(json, field(), entry_.get());
+    }
+
+    void read() {
+        for (Section section : sections_) {
+            do {
+                result_ = list_->read(section.entry(), entry_.get());
+                section.goOn();
+            } while (list_->isOneEntry && section);
+        }
+    }
+
+    /// Whether reading changes anything in an entry.
+    bool isWritten() {
+        constexpr char mark = 0x5A;
+        fill(mark);
+        read();
+        return !std::all_of(entry_.get(), entry_.get() + field().size, [](char byte) { return byte == mark; });
+    }
+
+    void goOn() {
+        for (Section& section : sections_) section.goOn();
+        std::erase_if(sections_, [&](const Section& section) { return list_->isOneEntry || !section; });
+    }
+
+    const HostList* list_;
+    std::vector<Section> sections_;
+    std::unique_ptr<char[]> entry_;
+    bool result_ = false;
+};
+
+void printValue(JsonPrinter& json, const Field& field, const void* value) {
+    if (field.name.empty()) return print(json, field, value);
+    json.object([&] {
+        json.field(field.name);
+        print(json, field, value);
+    });
+}
+
+}  // namespace
+
+bool decodeMessage(const Message& message, const Input& input, JsonPrinter& json) {
+    const ZeroedRecord record(message, message.record.size);
+    bool result = message.read({input.bytes.c_str(), input.text.c_str(), input.text.size()}, record.get());
+    const Reply reply(input.bytes.c_str());
+    const Element root = reply.root(message.root.data(), message.otherRoot.data());
+    if (message.lists.empty()) {
+        printValue(json, message.record, record.get());
+    } else {
+        printRecord(json, *message.record.record, record.get(), [&](const Field& list) {
+            Entries entries(root, *std::ranges::find(message.lists, &list, &HostList::field));
+            const bool lastResult = entries.print(json);
+            if (countOf(*list.entries, record.get()) > 0) result = lastResult;
+        });
+    }
+    return message.saysWhetherRead ? result : !root.children().empty();
+}
+
+}  // namespace kvjxml::tool

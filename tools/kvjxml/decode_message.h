@@ -1,0 +1,18 @@
+/// @file decode_message.h
+/// What one reader makes of a reply, as JSON.
+#ifndef KVJXML_TOOL_DECODE_MESSAGE_H
+#define KVJXML_TOOL_DECODE_MESSAGE_H
+
+#include "input.h"
+#include "json_printer.h"
+#include "messages/message.h"
+
+namespace kvjxml::tool {
+
+/// Reads the reply and prints the record, a long list entry by entry.
+/// @return what the reader returned; whether it had anything to read when it does not say.
+bool decodeMessage(const Message& message, const Input& input, JsonPrinter& json);
+
+}  // namespace kvjxml::tool
+
+#endif

@@ -1,0 +1,52 @@
+/// @file json_record.h
+/// Records as JSON, both ways, by the lists of their fields. The names in JSON are the members' own.
+#ifndef KVJXML_TOOL_JSON_RECORD_H
+#define KVJXML_TOOL_JSON_RECORD_H
+
+#include <cstddef>
+#include <deque>
+#include <memory>
+#include <set>
+#include <string_view>
+
+#include "fields/field.h"
+#include "json_printer.h"
+#include "place.h"
+
+namespace kvjxml::tool {
+
+/// Prints the value of a field.
+void print(JsonPrinter& json, const Field& field, const void* record);
+
+/// Prints a record, where `printList(field)` prints what is in a list.
+template <class PrintList>
+void printRecord(JsonPrinter& json, const RecordType& type, const void* record, PrintList printList) {
+    json.object([&] {
+        for (const Field& field : type.fields) {
+            if (field.type == FieldType::list) {
+                if (field.entries->showsCount) {
+                    json.field(field.entries->countName);
+                    json.value(countOf(*field.entries, record));
+                }
+                json.field(field.name);
+                printList(field);
+            } else {
+                json.field(field.name);
+                print(json, field, record);
+            }
+        }
+    });
+}
+
+/// The names of fields.
+using Names = std::set<std::string_view>;
+
+/// Keeps the arrays that a record's lists point to.
+using Arrays = std::deque<std::shared_ptr<std::byte[]>>;
+
+/// Reads the fields of a record. One that is not there is refused when it is `needed`, else it stays as it was.
+void readRecord(const Place& place, const RecordType& type, void* record, const Names& needed, Arrays& arrays);
+
+}  // namespace kvjxml::tool
+
+#endif
