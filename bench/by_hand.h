@@ -361,7 +361,8 @@ void readCapabilities(Element root, _Capabilities& caps) {
     const _Capabilities passed = caps;
     for (Element child = root.first(); child; child = child.next()) {
         const std::string_view name = child.name();
-        if (name == "host_ports") readList(child, "host_port", caps.hostPortCount, passed.hostPortCount, caps.hostPorts);
+        if (name == "host_ports")
+            readList(child, "host_port", caps.hostPortCount, passed.hostPortCount, caps.hostPorts);
         else if (name == "device_ports") {
             // All are read into the first entry.
             if (const int needed = countChildren(child); passed.devicePortCount < needed) {
@@ -372,14 +373,18 @@ void readCapabilities(Element root, _Capabilities& caps) {
                 }
             }
         }
-        else if (name == "software_interfaces") readList(child, "software_interface", caps.swInterfaceCount, passed.swInterfaceCount, caps.swInterfaces);
-        else if (name == "ocp_languages") readList(child, "ocp_language", caps.ocpLanguageCount, passed.ocpLanguageCount, caps.ocpLanguages);
+        else if (name == "software_interfaces")
+            readList(child, "software_interface", caps.swInterfaceCount, passed.swInterfaceCount, caps.swInterfaces);
+        else if (name == "ocp_languages")
+            readList(child, "ocp_language", caps.ocpLanguageCount, passed.ocpLanguageCount, caps.ocpLanguages);
         else if (name == "image_sharpening_levels") readSharpening(child, caps);
         else if (name == "security") read(child, caps.security);
         else if (name == "memory") readMemory(child, caps);
-        else if (name == "graphic_formats") readList(child, "graphic_format", caps.graphicFormatCount, passed.graphicFormatCount, caps.graphicFormats);
+        else if (name == "graphic_formats")
+            readList(child, "graphic_format", caps.graphicFormatCount, passed.graphicFormatCount, caps.graphicFormats);
         else if (name == "fonts") readList(child, "font", caps.fontCount, passed.fontCount, caps.fonts);
-        else if (name == "templates") readList(child, "template", caps.templateCount, passed.templateCount, caps.templates);
+        else if (name == "templates")
+            readList(child, "template", caps.templateCount, passed.templateCount, caps.templates);
         else if (name == "graphics") readList(child, "graphic", caps.graphicCount, passed.graphicCount, caps.graphics);
         else if (name == "print_system") get(child, caps.printSystem, printSystems, -1);
         else if (name == "print_type") get(child, caps.printType, laminationTypes, 0);
@@ -389,7 +394,8 @@ void readCapabilities(Element root, _Capabilities& caps) {
         else if (name == "image") readImage(child, caps);
         else if (name == "mag_encoder") get(child, caps.magHeadType, magHeadTypes, -1);
         else if (name == "mag_stripe") get(child, caps.magStripeLocation, magStripeLocations, -1);
-        else if (name == "internal_encoder") readEncoder(child, caps.internalEncoder, caps.internalEncoder.contactlessEncoder);
+        else if (name == "internal_encoder")
+            readEncoder(child, caps.internalEncoder, caps.internalEncoder.contactlessEncoder);
         else if (name == "barcodes") readList(child, "barcode", caps.barCodeCount, passed.barCodeCount, caps.barCodes);
     }
 }
@@ -802,7 +808,8 @@ void readConfiguration(Element root, _KVConfiguration& configuration) {
         else if (name == "cards") readCustomCards(child, configuration);
         else if (name == "transfer_settings") read(child, configuration.transferSettings);
         else if (name == "lcd_contrast") get(child, configuration.lcdContrast);
-        else if (name == "internal_encoder") readEncoder(child, configuration.internalEncoder, configuration.internalEncoder.contactlessEncoder2);
+        else if (name == "internal_encoder")
+            readEncoder(child, configuration.internalEncoder, configuration.internalEncoder.contactlessEncoder2);
         else if (name == "lamination") read(child, configuration.lamination);
         else if (name == "cleaning") readCleaning(child, configuration.cleaning);
         else if (name == "cleaning_thresholds") readThresholds(child, configuration.cleaning);

@@ -36,8 +36,8 @@ namespace Kavrin {
 ///     0x10000   "lcd_contrast"
 ///     0x80000   "internal_encoder"
 ///
-/// Settings with a fraction are written with their **maximum** as text: the printer never takes their value. Texts of the
-/// record need not be terminated.
+/// Settings with a fraction are written with their **maximum** as text: the printer never takes their value. Texts of
+/// the record need not be terminated.
 ///
 /// **Size.** Hosts are built with the size of the object: it stays what it is.
 // clang-format on

@@ -10,6 +10,7 @@ using kvjxml::addList;
 using kvjxml::compose;
 using kvjxml::wordOf;
 using kvjxml::writeWord;
+namespace put = kvjxml::put;
 namespace tables = kvjxml::capabilities;
 
 bool KVJSetCaps::SetCapabilities(const _Capabilities& caps, wchar_t* out, int outLen, int mode, bool directToCard) {
@@ -43,16 +44,17 @@ bool KVJSetCaps::addDevicePorts(TiXmlElement* under, const _Capabilities& caps) 
 }
 
 bool KVJSetCaps::addPorts(TiXmlElement* under, const _PortCaps* ports, int count, char* entryName) {
-    return kvjxml::addEntries(under, entryName, ports, count, tables::portTag);
+    return kvjxml::addEntries(under, entryName, ports, count, put::group<tables::portTags>);
 }
 
 bool KVJSetCaps::addSWInterfaces(TiXmlElement* under, const _InterfaceCaps* interfaces, int count) {
-    return count != 0 &&
-           addList(under, "software_interfaces", "software_interface", interfaces, count, tables::swInterfaceTag);
+    return count != 0 && addList(under, "software_interfaces", "software_interface", interfaces, count,
+                                 put::group<tables::swInterfaceTags>);
 }
 
 bool KVJSetCaps::addOcpLanguages(TiXmlElement* under, const _OCPLanguageCaps* languages, int count) {
-    return count != 0 && addList(under, "ocp_languages", "ocp_language", languages, count, tables::languageTag);
+    return count != 0 &&
+           addList(under, "ocp_languages", "ocp_language", languages, count, put::group<kvjxml::panelLanguageTags>);
 }
 
 bool KVJSetCaps::addImageSharpeningLevels(TiXmlElement* under, const _Capabilities& caps) {
@@ -68,19 +70,19 @@ bool KVJSetCaps::addMemoryCaps(TiXmlElement* under, const _Capabilities& caps) {
 }
 
 bool KVJSetCaps::addGraphicFormatsCaps(TiXmlElement* under, const int* formats, int count) {
-    return addList(under, "graphic_formats", "graphic_format", formats, count, tables::graphicFormatTag);
+    return addList(under, "graphic_formats", "graphic_format", formats, count, put::wordItself<tables::graphicFormats>);
 }
 
 bool KVJSetCaps::addFontsCaps(TiXmlElement* under, const _FontCaps* fonts, int count) {
-    return addList(under, "fonts", "font", fonts, count, tables::fontTag);
+    return addList(under, "fonts", "font", fonts, count, put::group<tables::fontTags>);
 }
 
 bool KVJSetCaps::addTemplateCaps(TiXmlElement* under, const _TemplateCaps* templates, int count) {
-    return addList(under, "templates", "template", templates, count, tables::templateTag);
+    return addList(under, "templates", "template", templates, count, put::group<tables::templateTags>);
 }
 
 bool KVJSetCaps::addGraphicsCaps(TiXmlElement* under, const _TemplateCaps* graphics, int count) {
-    return addList(under, "graphics", "graphic", graphics, count, tables::graphicTag);
+    return addList(under, "graphics", "graphic", graphics, count, put::group<tables::graphicTags>);
 }
 
 bool KVJSetCaps::addMediaPathCaps(TiXmlElement* under, const _Capabilities& caps) {
@@ -100,7 +102,7 @@ bool KVJSetCaps::addInternalEncoderOnly(TiXmlElement* under, const _InternalEnco
 }
 
 bool KVJSetCaps::addBarCodes(TiXmlElement* under, const _BarCodeCaps* barCodes, int count) {
-    return addList(under, "barcodes", "barcode", barCodes, count, tables::barCodeTag);
+    return addList(under, "barcodes", "barcode", barCodes, count, put::text<&_BarCodeCaps::name>);
 }
 
 // ---- Codes to words ----

@@ -9,7 +9,7 @@
 
 #include "CapabilitiesRecords.h"
 #include "foundation/element.h"
-#include "foundation/getters.h"
+#include "foundation/read_rules.h"
 #include "foundation/rows.h"
 
 namespace kvjxml::capabilities {
@@ -27,13 +27,13 @@ struct Reading {
 
 /// A field that is no list.
 template <const auto& Field>
-inline constexpr Getter<Reading> plain{
+inline constexpr ReadRule<Reading> plain{
     Field.description, [](Element element, Reading& reading) { return Field.read(element, reading.caps); }};
 
 /// A list: its entries, read with a table of their own, when the array has room for as many entries as the section has
 /// child elements, whatever their names; else the largest such number, for the host to come again with.
 template <auto Count, auto Array, const auto& Table>
-inline constexpr Getter<Reading> list{
+inline constexpr ReadRule<Reading> list{
     {.field = nameOf<Array>(), .conversion = "list", .group = described<Table>}, [](Element section, Reading& reading) {
         if (!section) return false;
         const std::size_t needed = countChildren(section);

@@ -6,15 +6,17 @@
 
 #include "CapabilitiesRecords.h"
 #include "capabilities/lists.h"
-#include "foundation/getters.h"
+#include "foundation/read_rules.h"
 #include "foundation/rows.h"
 #include "foundation/vocabulary.h"
 #include "foundation/words.h"
-#include "foundation/writers.h"
+#include "foundation/write_rules.h"
 #include "shared/encoder.h"
 #include "shared/panel.h"
 
 namespace kvjxml::capabilities {
+
+using Caps = _Capabilities;
 
 // ---- Words ----
 
@@ -64,25 +66,15 @@ inline constexpr WordTable sharpeningLevels({{"off", 0x1}, {"normal", 0x2}, {"hi
 
 /// Device ports all go to the first entry: hosts know a printer by its last one.
 template <const auto& Table>
-inline constexpr Getter<List<RecordOfTable<Table>>> firstEntry{
+inline constexpr ReadRule<List<RecordOfTable<Table>>> firstEntry{
     {.field = {}, .conversion = "the first entry of a list, each time", .group = described<Table>},
     [](Element element, List<RecordOfTable<Table>>& list) {
         list.filled = 0;
         return entry<Table>.read(element, list);
     }};
 
-/// A word that is an entry itself.
-inline constexpr Getter<int> graphicFormatWord{
-    {.field = {}, .conversion = "code of the word", .tableName = "graphicFormats", .table = graphicFormats},
-    [](Element element, int& format) { return readWord(element, format, graphicFormats); }};
-inline constexpr Writer<int> graphicFormatTag{
-    {.field = {}, .conversion = "word of the code", .tableName = "graphicFormats", .table = graphicFormats},
-    [](TiXmlElement* parent, const char* name, const int& format, const Selection&) {
-        return addTag(parent, name, wordOf(graphicFormats, format, ""));
-    }};
-
 /// The print system that the printer expects is the one that it is told to use, not the one that it reported.
-inline constexpr Writer<_Capabilities> printSystemTag{
+inline constexpr WriteRule<_Capabilities> requestedPrintSystem{
     {.field = {}, .conversion = "`direct_to_card` or `retransfer`, as the composer is told"},
     [](TiXmlElement* parent, const char* name, const _Capabilities&, const Selection& selection) {
         return addTag(parent, name, wordOf(printSystemsWritten, selection.directToCard ? 1 : 0));
@@ -90,7 +82,7 @@ inline constexpr Writer<_Capabilities> printSystemTag{
 
 /// The last word that the printer was told of its laminator. In the whole description it expects that one in the
 /// magnetic encoder's elements as well; it takes a head type only by itself.
-inline constexpr Writer<_Capabilities> laminatorWord{
+inline constexpr WriteRule<_Capabilities> laminatorWord{
     {.field = {}, .conversion = "the word of `laminator_type`; without a laminator `notpresent`"},
     [](TiXmlElement* parent, const char* name, const _Capabilities& caps, const Selection&) {
         return addTag(parent, name,
@@ -158,35 +150,27 @@ inline constexpr auto graphicTags = tags<_TemplateCaps>({
 
 /// The text of "barcode" itself.
 inline constexpr const auto& barCode = text<&_BarCodeCaps::name>;
-inline constexpr const auto& barCodeTag = put::text<&_BarCodeCaps::name>;
-
-inline constexpr const auto& portTag = put::group<portTags>;
-inline constexpr const auto& swInterfaceTag = put::group<swInterfaceTags>;
-inline constexpr const auto& languageTag = put::group<panelLanguageTags>;
-inline constexpr const auto& fontTag = put::group<fontTags>;
-inline constexpr const auto& templateTag = put::group<templateTags>;
-inline constexpr const auto& graphicTag = put::group<graphicTags>;
 
 // ---- Lists ----
 
-inline constexpr auto hostPorts      = rows<List<_PortCaps>>({{"host_port", entry<port>}});
-inline constexpr auto devicePorts    = rows<List<_PortCaps>>({{"device_port", firstEntry<port>}});
-inline constexpr auto swInterfaces   = rows<List<_InterfaceCaps>>({{"software_interface", entry<swInterface>}});
-inline constexpr auto ocpLanguages   = rows<List<_OCPLanguageCaps>>({{"ocp_language", entry<panelLanguage>}});
-inline constexpr auto graphicFormatList = rows<List<int>>({{"graphic_format", each<graphicFormatWord>}});
-inline constexpr auto fonts          = rows<List<_FontCaps>>({{"font", entry<font>}});
-inline constexpr auto templates      = rows<List<_TemplateCaps>>({{"template", entry<stored>}});
-inline constexpr auto graphics       = rows<List<_TemplateCaps>>({{"graphic", entry<stored>}});
-inline constexpr auto barCodes       = rows<List<_BarCodeCaps>>({{"barcode", each<barCode>}});
+inline constexpr auto hostPorts         = rows<List<_PortCaps>>({{"host_port", entry<port>}});
+inline constexpr auto devicePorts       = rows<List<_PortCaps>>({{"device_port", firstEntry<port>}});
+inline constexpr auto swInterfaces      = rows<List<_InterfaceCaps>>({{"software_interface", entry<swInterface>}});
+inline constexpr auto ocpLanguages      = rows<List<_OCPLanguageCaps>>({{"ocp_language", entry<panelLanguage>}});
+inline constexpr auto graphicFormatList = rows<List<int>>({{"graphic_format", each<wordItself<graphicFormats>>}});
+inline constexpr auto fonts             = rows<List<_FontCaps>>({{"font", entry<font>}});
+inline constexpr auto templates         = rows<List<_TemplateCaps>>({{"template", entry<stored>}});
+inline constexpr auto graphics          = rows<List<_TemplateCaps>>({{"graphic", entry<stored>}});
+inline constexpr auto barCodes          = rows<List<_BarCodeCaps>>({{"barcode", each<barCode>}});
 
 // ---- Sections ----
 
 /// "image_sharpening_levels"
 inline constexpr auto imageSharpening = rows<_Capabilities>({
-    {"image_sharpening_level", bits<&_Capabilities::imageSharpeningLevels, sharpeningLevels>},
+    {"image_sharpening_level", bits<&Caps::imageSharpeningLevels, sharpeningLevels>},
 });
 inline constexpr auto imageSharpeningTags = tags<_Capabilities>({
-    {"image_sharpening_level", put::bits<&_Capabilities::imageSharpeningLevels, sharpeningLevels>},
+    {"image_sharpening_level", put::bits<&Caps::imageSharpeningLevels, sharpeningLevels>},
 });
 
 /// "security"
@@ -201,54 +185,54 @@ inline constexpr auto securityTags = tags<_SecurityCaps>({
 
 /// "memory"
 inline constexpr auto memory = rows<_Capabilities>({
-    {"ram",   number<&_Capabilities::ramSize>},
-    {"flash", number<&_Capabilities::flashSize>},
+    {"ram",   number<&Caps::ramSize>},
+    {"flash", number<&Caps::flashSize>},
 });
 inline constexpr auto memoryTags = tags<_Capabilities>({
-    {"ram",   put::number<&_Capabilities::ramSize>},
-    {"flash", put::number<&_Capabilities::flashSize>},
+    {"ram",   put::number<&Caps::ramSize>},
+    {"flash", put::number<&Caps::flashSize>},
 });
 
 /// "media_path"
 inline constexpr auto mediaPath = rows<_Capabilities>({
-    {"atm",               flag<&_Capabilities::atm>},
-    {"magazine_capacity", number<&_Capabilities::magazineCapacity>},
+    {"atm",               flag<&Caps::atm>},
+    {"magazine_capacity", number<&Caps::magazineCapacity>},
 });
 inline constexpr auto mediaPathTags = tags<_Capabilities>({
-    {"atm",               put::yesOrNo<&_Capabilities::atm>},
-    {"magazine_capacity", put::number<&_Capabilities::magazineCapacity>},
+    {"atm",               put::yesOrNo<&Caps::atm>},
+    {"magazine_capacity", put::number<&Caps::magazineCapacity>},
 });
 
 /// "logical_page"
 inline constexpr auto logicalPage = rows<_Capabilities>({
-    {"length", number<&_Capabilities::logicalPageLength>},
-    {"width",  number<&_Capabilities::logicalPageWidth>},
+    {"length", number<&Caps::logicalPageLength>},
+    {"width",  number<&Caps::logicalPageWidth>},
 });
 inline constexpr auto logicalPageTags = tags<_Capabilities>({
-    {"length", put::number<&_Capabilities::logicalPageLength>},
-    {"width",  put::number<&_Capabilities::logicalPageWidth>},
+    {"length", put::number<&Caps::logicalPageLength>},
+    {"width",  put::number<&Caps::logicalPageWidth>},
 });
 
 /// "physical_page"
 inline constexpr auto physicalPage = rows<_Capabilities>({
-    {"length", number<&_Capabilities::physicalPageLength>},
-    {"width",  number<&_Capabilities::physicalPageWidth>},
+    {"length", number<&Caps::physicalPageLength>},
+    {"width",  number<&Caps::physicalPageWidth>},
 });
 inline constexpr auto physicalPageTags = tags<_Capabilities>({
-    {"length", put::number<&_Capabilities::physicalPageLength>},
-    {"width",  put::number<&_Capabilities::physicalPageWidth>},
+    {"length", put::number<&Caps::physicalPageLength>},
+    {"width",  put::number<&Caps::physicalPageWidth>},
 });
 
 /// "image"
 inline constexpr auto image = rows<_Capabilities>({
     {"logical_page",     group<logicalPage>},
     {"physical_page",    group<physicalPage>},
-    {"print_resolution", number<&_Capabilities::printResolution>},
+    {"print_resolution", number<&Caps::printResolution>},
 });
 inline constexpr auto imageTags = tags<_Capabilities>({
     {"logical_page",     put::group<logicalPageTags>},
     {"physical_page",    put::group<physicalPageTags>},
-    {"print_resolution", put::number<&_Capabilities::printResolution>},
+    {"print_resolution", put::number<&Caps::printResolution>},
 });
 
 /// "internal_encoder"
@@ -258,79 +242,78 @@ inline constexpr const auto& encoderTags = internalEncoderTags<commsChannelsInCa
 
 // ---- The whole ----
 
-inline constexpr const auto& printSystem = word<&_Capabilities::printSystem, printSystems>;
-inline constexpr const auto& printType = word<&_Capabilities::printType, laminationTypes>;
-inline constexpr const auto& laminator = is<&_Capabilities::laminator, "present">;
-inline constexpr const auto& laminatorType = word<&_Capabilities::laminatorType, laminationTypes>;
+inline constexpr const auto& printSystem = word<&Caps::printSystem, printSystems>;
+inline constexpr const auto& printType = word<&Caps::printType, laminationTypes>;
+inline constexpr const auto& laminator = is<&Caps::laminator, "present">;
+inline constexpr const auto& laminatorType = word<&Caps::laminatorType, laminationTypes>;
 
 /// "capabilities", "get_capabilities"
 inline constexpr auto whole = rows<Reading>({
-    {"host_ports",              list<&_Capabilities::hostPortCount, &_Capabilities::hostPorts, hostPorts>},
-    {"device_ports",            list<&_Capabilities::devicePortCount, &_Capabilities::devicePorts, devicePorts>},
-    {"software_interfaces",     list<&_Capabilities::swInterfaceCount, &_Capabilities::swInterfaces, swInterfaces>},
-    {"ocp_languages",           list<&_Capabilities::ocpLanguageCount, &_Capabilities::ocpLanguages, ocpLanguages>},
+    {"host_ports",              list<&Caps::hostPortCount, &Caps::hostPorts, hostPorts>},
+    {"device_ports",            list<&Caps::devicePortCount, &Caps::devicePorts, devicePorts>},
+    {"software_interfaces",     list<&Caps::swInterfaceCount, &Caps::swInterfaces, swInterfaces>},
+    {"ocp_languages",           list<&Caps::ocpLanguageCount, &Caps::ocpLanguages, ocpLanguages>},
     {"image_sharpening_levels", plain<group<imageSharpening>>},
-    {"security",                plain<part<&_Capabilities::security, security>>},
+    {"security",                plain<part<&Caps::security, security>>},
     {"memory",                  plain<group<memory>>},
-    {"graphic_formats",         list<&_Capabilities::graphicFormatCount, &_Capabilities::graphicFormats, graphicFormatList>},
-    {"fonts",                   list<&_Capabilities::fontCount, &_Capabilities::fonts, fonts>},
-    {"templates",               list<&_Capabilities::templateCount, &_Capabilities::templates, templates>},
-    {"graphics",                list<&_Capabilities::graphicCount, &_Capabilities::graphics, graphics>},
+    {"graphic_formats",         list<&Caps::graphicFormatCount, &Caps::graphicFormats, graphicFormatList>},
+    {"fonts",                   list<&Caps::fontCount, &Caps::fonts, fonts>},
+    {"templates",               list<&Caps::templateCount, &Caps::templates, templates>},
+    {"graphics",                list<&Caps::graphicCount, &Caps::graphics, graphics>},
     {"print_system",            plain<printSystem>},
     {"print_type",              plain<printType>},
     {"laminator",               plain<laminator>},
     {"laminator_type",          plain<laminatorType>},
     {"media_path",              plain<group<mediaPath>>},
     {"image",                   plain<group<image>>},
-    {"mag_encoder",             plain<word<&_Capabilities::magHeadType, magHeadTypes>>},
-    {"mag_stripe",              plain<word<&_Capabilities::magStripeLocation, magStripeLocations>>},
-    {"internal_encoder",        plain<part<&_Capabilities::internalEncoder, encoder>>},
-    {"barcodes",                list<&_Capabilities::barCodeCount, &_Capabilities::barCodes, barCodes>},
+    {"mag_encoder",             plain<word<&Caps::magHeadType, magHeadTypes>>},
+    {"mag_stripe",              plain<word<&Caps::magStripeLocation, magStripeLocations>>},
+    {"internal_encoder",        plain<part<&Caps::internalEncoder, encoder>>},
+    {"barcodes",                list<&Caps::barCodeCount, &Caps::barCodes, barCodes>},
 });
 
 inline constexpr Tag<_Capabilities> hostPortsTag{
-    "host_ports", put::list<&_Capabilities::hostPortCount, &_Capabilities::hostPorts, "host_port", portTag>,
-    unlessZero<&_Capabilities::hostPortCount>};
+    "host_ports", put::list<&Caps::hostPortCount, &Caps::hostPorts, "host_port", put::group<portTags>>,
+    unlessZero<&Caps::hostPortCount>};
 inline constexpr Tag<_Capabilities> devicePortsTag{
-    "device_ports", put::list<&_Capabilities::devicePortCount, &_Capabilities::devicePorts, "device_port", portTag>,
-    unlessZero<&_Capabilities::devicePortCount>};
+    "device_ports", put::list<&Caps::devicePortCount, &Caps::devicePorts, "device_port", put::group<portTags>>,
+    unlessZero<&Caps::devicePortCount>};
 
 inline constexpr auto wholeTags = tags<_Capabilities>({
     hostPortsTag,
     devicePortsTag,
-    {"software_interfaces",     put::list<&_Capabilities::swInterfaceCount, &_Capabilities::swInterfaces,
-                                          "software_interface", swInterfaceTag>,
-                                unlessZero<&_Capabilities::swInterfaceCount>},
-    {"ocp_languages",           put::list<&_Capabilities::ocpLanguageCount, &_Capabilities::ocpLanguages,
-                                          "ocp_language", languageTag>,
-                                unlessZero<&_Capabilities::ocpLanguageCount>},
+    {"software_interfaces",     put::list<&Caps::swInterfaceCount, &Caps::swInterfaces,
+                                          "software_interface", put::group<swInterfaceTags>>,
+                                unlessZero<&Caps::swInterfaceCount>},
+    {"ocp_languages",           put::list<&Caps::ocpLanguageCount, &Caps::ocpLanguages,
+                                          "ocp_language", put::group<panelLanguageTags>>,
+                                unlessZero<&Caps::ocpLanguageCount>},
     {"image_sharpening_levels", put::group<imageSharpeningTags>},
-    {"security",                put::part<&_Capabilities::security, securityTags>},
+    {"security",                put::part<&Caps::security, securityTags>},
     {"memory",                  put::group<memoryTags>},
-    {"graphic_formats",         put::list<&_Capabilities::graphicFormatCount, &_Capabilities::graphicFormats,
-                                          "graphic_format", graphicFormatTag>},
-    {"fonts",                   put::list<&_Capabilities::fontCount, &_Capabilities::fonts, "font", fontTag>},
-    {"templates",               put::list<&_Capabilities::templateCount, &_Capabilities::templates,
-                                          "template", templateTag>},
-    {"graphics",                put::list<&_Capabilities::graphicCount, &_Capabilities::graphics,
-                                          "graphic", graphicTag>},
-    {"print_system",            printSystemTag},
-    {"print_type",              put::word<&_Capabilities::printType, laminationTypes>},
-    {"laminator",               put::either<&_Capabilities::laminator, "present", "notpresent">},
+    {"graphic_formats",         put::list<&Caps::graphicFormatCount, &Caps::graphicFormats,
+                                          "graphic_format", put::wordItself<graphicFormats>>},
+    {"fonts",                   put::list<&Caps::fontCount, &Caps::fonts, "font", put::group<fontTags>>},
+    {"templates",               put::list<&Caps::templateCount, &Caps::templates,
+                                          "template", put::group<templateTags>>},
+    {"graphics",                put::list<&Caps::graphicCount, &Caps::graphics, "graphic", put::group<graphicTags>>},
+    {"print_system",            requestedPrintSystem},
+    {"print_type",              put::word<&Caps::printType, laminationTypes>},
+    {"laminator",               put::either<&Caps::laminator, "present", "notpresent">},
     {"laminator_type",          laminatorWord, withLaminator},
     {"media_path",              put::group<mediaPathTags>},
     {"image",                   put::group<imageTags>},
     {"mag_encoder",             laminatorWord},
     {"mag_stripe",              laminatorWord},
-    {"internal_encoder",        put::part<&_Capabilities::internalEncoder, encoderTags>},
-    {"barcodes",                put::list<&_Capabilities::barCodeCount, &_Capabilities::barCodes,
-                                          "barcode", barCodeTag>},
+    {"internal_encoder",        put::part<&Caps::internalEncoder, encoderTags>},
+    {"barcodes",                put::list<&Caps::barCodeCount, &Caps::barCodes,
+                                          "barcode", put::text<&_BarCodeCaps::name>>},
 });
 
 // ---- The encoders alone ----
 
 inline constexpr auto magEncoderAlone = tags<_Capabilities>({
-    {"mag_encoder", put::word<&_Capabilities::magHeadType, magHeadTypesWritten>},
+    {"mag_encoder", put::word<&Caps::magHeadType, magHeadTypesWritten>},
 });
 
 // clang-format on
@@ -362,7 +345,7 @@ inline constexpr auto encoderAloneTags = tags<_InternalEncoderInfo>({
                             withContactless},
 });
 
-inline constexpr Writer<_InternalEncoderInfo> encoderAloneTag{
+inline constexpr WriteRule<_InternalEncoderInfo> encoderAloneGroup{
     {.field = {}, .conversion = "group", .group = described<encoderAloneTags>},
     [](TiXmlElement* parent, const char* name, const _InternalEncoderInfo& info, const Selection&) {
         TiXmlElement* element = addTag(parent, name);
@@ -373,7 +356,7 @@ inline constexpr Writer<_InternalEncoderInfo> encoderAloneTag{
 
 inline constexpr auto encoderAlone = tags<_InternalEncoderInfo>({
     {"contact_station",  put::constant<_InternalEncoderInfo, "yes">, withContactStation},
-    {"internal_encoder", encoderAloneTag, withAny},
+    {"internal_encoder", encoderAloneGroup, withAny},
 });
 
 // clang-format on

@@ -5,12 +5,13 @@
 #define KVJXML_CONFIGURATION_CALIBRATION_H
 
 #include "ConfigurationRecords.h"
-#include "foundation/getters.h"
-#include "foundation/writers.h"
+#include "foundation/read_rules.h"
+#include "foundation/write_rules.h"
 
 namespace kvjxml::configuration {
 
 using namespace Kavrin;  // the records
+using Mechanics = _MechanicalAdjustments;
 
 // clang-format off
 
@@ -41,7 +42,7 @@ inline constexpr auto powerTags = tags<_PowerAdjustments>({
     {"uv_back",       put::setting<&_PowerAdjustments::uvBack>},
     {"helper",        put::setting<&_PowerAdjustments::helper>},
     {"x-resin",       put::setting<&_PowerAdjustments::xResin>},
-    {"inhibit",       put::setting<&_PowerAdjustments::inhibit>, withTransfer<_PowerAdjustments>},
+    {"inhibit",       put::setting<&_PowerAdjustments::inhibit>, withTransfer},
 });
 
 /// "imaging_parameters". The maker's adjustments are not the host's to change.
@@ -97,41 +98,41 @@ inline constexpr auto ribbonMotorTags = tags<_RibbonMotorParams>({
 });
 
 /// "mech_adjustments". A printer has either the film or the flipper to adjust, so one of them is left out.
-inline constexpr auto mechanics = rows<_MechanicalAdjustments>({
-    {"film_print_x_offset",             setting<&_MechanicalAdjustments::filmPrintXOffset>},
-    {"film_print_y_offset",             setting<&_MechanicalAdjustments::filmPrintYOffset>},
-    {"film_transfer_start_offset",      setting<&_MechanicalAdjustments::filmTransferStartOffset>},
-    {"card_center_x_offset",            setting<&_MechanicalAdjustments::cardCenterXOffset>},
-    {"card_mag_x_offset",               setting<&_MechanicalAdjustments::cardMagXOffset>},
-    {"card_smart_card_x_offset",        setting<&_MechanicalAdjustments::cardSmartCardXOffset>},
-    {"card_smart_card_lf_x_offset",     setting<&_MechanicalAdjustments::cardSmartCardLfXOffset>},
-    {"card_smart_card_hf_x_offset",     setting<&_MechanicalAdjustments::cardSmartCardHfXOffset>},
-    {"card_smart_card_uhf_x_offset",    setting<&_MechanicalAdjustments::cardSmartCardUhfXOffset>},
-    {"card_center_y_offset",            setting<&_MechanicalAdjustments::cardCenterYOffset>},
-    {"flipper_sensor_offset",           setting<&_MechanicalAdjustments::flipperSensorOffset>},
-    {"card_transfer_start_y_offset",    setting<&_MechanicalAdjustments::cardTransferStartYOffset>},
-    {"card_transfer_end_y_offset",      setting<&_MechanicalAdjustments::cardTransferEndYOffset>},
-    {"card_transfer_roll_y_offset",     setting<&_MechanicalAdjustments::cardTransferRollYOffset>},
-    {"film_end_roll_transfer_offset",   setting<&_MechanicalAdjustments::filmEndRollTransferOffset>},
-    {"film_extra_transfer_takeup_move", setting<&_MechanicalAdjustments::filmExtraTransferTakeupMove>},
+inline constexpr auto mechanics = rows<Mechanics>({
+    {"film_print_x_offset",             setting<&Mechanics::filmPrintXOffset>},
+    {"film_print_y_offset",             setting<&Mechanics::filmPrintYOffset>},
+    {"film_transfer_start_offset",      setting<&Mechanics::filmTransferStartOffset>},
+    {"card_center_x_offset",            setting<&Mechanics::cardCenterXOffset>},
+    {"card_mag_x_offset",               setting<&Mechanics::cardMagXOffset>},
+    {"card_smart_card_x_offset",        setting<&Mechanics::cardSmartCardXOffset>},
+    {"card_smart_card_lf_x_offset",     setting<&Mechanics::cardSmartCardLfXOffset>},
+    {"card_smart_card_hf_x_offset",     setting<&Mechanics::cardSmartCardHfXOffset>},
+    {"card_smart_card_uhf_x_offset",    setting<&Mechanics::cardSmartCardUhfXOffset>},
+    {"card_center_y_offset",            setting<&Mechanics::cardCenterYOffset>},
+    {"flipper_sensor_offset",           setting<&Mechanics::flipperSensorOffset>},
+    {"card_transfer_start_y_offset",    setting<&Mechanics::cardTransferStartYOffset>},
+    {"card_transfer_end_y_offset",      setting<&Mechanics::cardTransferEndYOffset>},
+    {"card_transfer_roll_y_offset",     setting<&Mechanics::cardTransferRollYOffset>},
+    {"film_end_roll_transfer_offset",   setting<&Mechanics::filmEndRollTransferOffset>},
+    {"film_extra_transfer_takeup_move", setting<&Mechanics::filmExtraTransferTakeupMove>},
 });
-inline constexpr auto mechanicsTags = tags<_MechanicalAdjustments>({
-    {"film_print_x_offset",             put::setting<&_MechanicalAdjustments::filmPrintXOffset>, withTransfer<_MechanicalAdjustments>},
-    {"film_print_y_offset",             put::setting<&_MechanicalAdjustments::filmPrintYOffset>, withTransfer<_MechanicalAdjustments>},
-    {"film_transfer_start_offset",      put::setting<&_MechanicalAdjustments::filmTransferStartOffset>, withTransfer<_MechanicalAdjustments>},
-    {"card_center_x_offset",            put::setting<&_MechanicalAdjustments::cardCenterXOffset>},
-    {"card_mag_x_offset",               put::setting<&_MechanicalAdjustments::cardMagXOffset>},
-    {"card_smart_card_x_offset",        put::setting<&_MechanicalAdjustments::cardSmartCardXOffset>},
-    {"card_smart_card_lf_x_offset",     put::setting<&_MechanicalAdjustments::cardSmartCardLfXOffset>},
-    {"card_smart_card_hf_x_offset",     put::setting<&_MechanicalAdjustments::cardSmartCardHfXOffset>},
-    {"card_smart_card_uhf_x_offset",    put::setting<&_MechanicalAdjustments::cardSmartCardUhfXOffset>},
-    {"card_center_y_offset",            put::setting<&_MechanicalAdjustments::cardCenterYOffset>},
-    {"flipper_sensor_offset",           put::setting<&_MechanicalAdjustments::flipperSensorOffset>, directToCard<_MechanicalAdjustments>},
-    {"card_transfer_start_y_offset",    put::setting<&_MechanicalAdjustments::cardTransferStartYOffset>, withTransfer<_MechanicalAdjustments>},
-    {"card_transfer_end_y_offset",      put::setting<&_MechanicalAdjustments::cardTransferEndYOffset>, withTransfer<_MechanicalAdjustments>},
-    {"card_transfer_roll_y_offset",     put::setting<&_MechanicalAdjustments::cardTransferRollYOffset>, withTransfer<_MechanicalAdjustments>},
-    {"film_end_roll_transfer_offset",   put::setting<&_MechanicalAdjustments::filmEndRollTransferOffset>, withTransfer<_MechanicalAdjustments>},
-    {"film_extra_transfer_takeup_move", put::setting<&_MechanicalAdjustments::filmExtraTransferTakeupMove>, withTransfer<_MechanicalAdjustments>},
+inline constexpr auto mechanicsTags = tags<Mechanics>({
+    {"film_print_x_offset",             put::setting<&Mechanics::filmPrintXOffset>, withTransfer},
+    {"film_print_y_offset",             put::setting<&Mechanics::filmPrintYOffset>, withTransfer},
+    {"film_transfer_start_offset",      put::setting<&Mechanics::filmTransferStartOffset>, withTransfer},
+    {"card_center_x_offset",            put::setting<&Mechanics::cardCenterXOffset>},
+    {"card_mag_x_offset",               put::setting<&Mechanics::cardMagXOffset>},
+    {"card_smart_card_x_offset",        put::setting<&Mechanics::cardSmartCardXOffset>},
+    {"card_smart_card_lf_x_offset",     put::setting<&Mechanics::cardSmartCardLfXOffset>},
+    {"card_smart_card_hf_x_offset",     put::setting<&Mechanics::cardSmartCardHfXOffset>},
+    {"card_smart_card_uhf_x_offset",    put::setting<&Mechanics::cardSmartCardUhfXOffset>},
+    {"card_center_y_offset",            put::setting<&Mechanics::cardCenterYOffset>},
+    {"flipper_sensor_offset",           put::setting<&Mechanics::flipperSensorOffset>, directToCard},
+    {"card_transfer_start_y_offset",    put::setting<&Mechanics::cardTransferStartYOffset>, withTransfer},
+    {"card_transfer_end_y_offset",      put::setting<&Mechanics::cardTransferEndYOffset>, withTransfer},
+    {"card_transfer_roll_y_offset",     put::setting<&Mechanics::cardTransferRollYOffset>, withTransfer},
+    {"film_end_roll_transfer_offset",   put::setting<&Mechanics::filmEndRollTransferOffset>, withTransfer},
+    {"film_extra_transfer_takeup_move", put::setting<&Mechanics::filmExtraTransferTakeupMove>, withTransfer},
 });
 
 // clang-format on

@@ -25,7 +25,7 @@ inline constexpr WordTable usbSpeeds({{"full", usbSpeedFull}, {"high", usbSpeedH
 // ---- Special rows ----
 
 /// The one word that no text stands for as well.
-inline constexpr Getter<_KVConfiguration> errorControl{
+inline constexpr ReadRule<_KVConfiguration> errorControl{
     {.field = "errorControl", .conversion = "code of the word", .tableName = "errorControls", .table = errorControls},
     [](Element element, _KVConfiguration& configuration) {
         const char* content = element.text();
@@ -34,7 +34,7 @@ inline constexpr Getter<_KVConfiguration> errorControl{
     }};
 
 /// A second contactless encoder, and any further one, has a field of its own.
-inline constexpr Getter<_InternalEncoderInfo> contactlessEncoder{
+inline constexpr ReadRule<_InternalEncoderInfo> contactlessEncoder{
     {.field = "contactlessEncoder",
      .conversion = "code of the word; when that is not 0, to `contactlessEncoder2`",
      .tableName = "contactlessEncoders",
@@ -128,9 +128,9 @@ inline constexpr auto documentSections = sections<_KVConfiguration>({
     {0x20000,  "cleaning",                put::part<&_KVConfiguration::cleaning, cleaningTags>},
     {0x20000,  "cleaning_thresholds",     put::part<&_KVConfiguration::cleaning, cleaningThresholdsTags>},
     {0x400000, "feeder_mode",             put::word<&_KVConfiguration::feederMode, feederModes, "hopper">},
-    {0x4000,   "cards",                   put::group<cardsTags>, always<_KVConfiguration>, forCardAlone},
+    {0x4000,   "cards",                   put::group<cardsTags>, always, forCardAlone},
     {0x8000,   "transfer_settings",       put::part<&_KVConfiguration::transferSettings, transferSettingsTags>,
-                                          withTransfer<_KVConfiguration>},
+                                          withTransfer},
     {0x10000,  "lcd_contrast",            put::setting<&_KVConfiguration::lcdContrast>},
     {0x80000,  "internal_encoder",        put::part<&_KVConfiguration::internalEncoder, encoderTags>},
 });

@@ -4,15 +4,11 @@
 #ifndef KVJXML_CONFIGURATION_MEDIA_H
 #define KVJXML_CONFIGURATION_MEDIA_H
 
-#include <cstdio>
-#include <cstring>
-
 #include "ConfigurationRecords.h"
-#include "KVJConfigParser.h"
-#include "configuration/shown.h"
-#include "foundation/getters.h"
+#include "configuration/ribbon_name.h"
+#include "foundation/read_rules.h"
 #include "foundation/vocabulary.h"
-#include "foundation/writers.h"
+#include "foundation/write_rules.h"
 #include "shared/card.h"
 
 namespace kvjxml::configuration {
@@ -21,25 +17,8 @@ using namespace Kavrin;  // the records
 
 // ---- Ribbon and film ----
 
-/// A ribbon's name, without the word that all one-coloured ribbons begin with. Hosts watch the two lines that go to the
-/// standard error stream for it, often on a terminal.
-inline bool readRibbonName(Element element, char (&description)[64]) {
-    std::memset(szRibbonName, 0, sizeof szRibbonName);
-    const bool result = readText(element, szRibbonName, sizeof szRibbonName);
-    if (std::strstr(szRibbonName, "MONO") != nullptr) {
-        constexpr std::size_t removed = sizeof "MONO";  // and the blank behind it
-        std::memmove(szRibbonName, szRibbonName + removed, sizeof szRibbonName - removed);
-        std::memset(szRibbonName + sizeof szRibbonName - removed, 0, removed);
-    }
-    std::memset(description, 0, sizeof description);
-    static_cast<void>(std::fprintf(stderr, "DEBUG:RIBBON NAME %s\n", Shown(szRibbonName).characters));
-    static_cast<void>(std::fprintf(stderr, "DEBUG:RIBBON NAME2 %s\n", Shown(description).characters));
-    std::memcpy(description, szRibbonName, sizeof szRibbonName);
-    return result;
-}
-
-inline constexpr Getter<_RibbonInfo> ribbonName{
-    {.field = "description", .conversion = "text without a leading `MONO`", .capacity = sizeof szRibbonName},
+inline constexpr ReadRule<_RibbonInfo> ribbonName{
+    {.field = "description", .conversion = "text without a leading `MONO`", .capacity = ribbonNameCapacity},
     [](Element element, _RibbonInfo& ribbon) { return readRibbonName(element, ribbon.description); }};
 
 inline constexpr WordTable transferTypes{0, {{"single", 1}, {"dual", 2}}};
@@ -73,7 +52,7 @@ inline constexpr auto mediaInfo = rows<_KVConfiguration>({
 });
 inline constexpr auto mediaInfoTags = tags<_KVConfiguration>({
     {"ribbon", put::part<&_KVConfiguration::ribbon, ribbonTags>},
-    {"film",   put::part<&_KVConfiguration::film, ribbonTags>, withTransfer<_KVConfiguration>},
+    {"film",   put::part<&_KVConfiguration::film, ribbonTags>, withTransfer},
 });
 
 // ---- Cards ----
@@ -111,15 +90,16 @@ inline constexpr auto card = rows<_CustomCardInfo>({
 });
 inline constexpr auto cardTags = tags<_CustomCardInfo>({
     {"information",           put::group<cardInformationTags<_CustomCardInfo>>},
-    {"transfer_temps",        put::part<&_CustomCardInfo::transferTemps, transferTempTags>, withTransfer<_CustomCardInfo>},
-    {"transfer_speeds",       put::part<&_CustomCardInfo::transferSpeeds, transferSpeedTags>, withTransfer<_CustomCardInfo>},
+    {"transfer_temps",        put::part<&_CustomCardInfo::transferTemps, transferTempTags>, withTransfer},
+    {"transfer_speeds",       put::part<&_CustomCardInfo::transferSpeeds, transferSpeedTags>, withTransfer},
     {"cal_table",             put::number<&_CustomCardInfo::calTable>},
     {"laminator_adjustments", put::part<&_CustomCardInfo::laminatorAdjustments, laminatorAdjustmentTags>},
 });
 
 /// One of the two custom cards, by its description.
-inline constexpr Getter<_KVConfiguration> customCard{
-    {.field = "customCard1", .conversion = "the last with the description `Custom 1`; the last other one to `customCard2`",
+inline constexpr ReadRule<_KVConfiguration> customCard{
+    {.field = "customCard1",
+     .conversion = "the last with the description `Custom 1`; the last other one to `customCard2`",
      .group = described<card>},
     [](Element element, _KVConfiguration& configuration) {
         _CustomCardInfo info{};
@@ -128,14 +108,12 @@ inline constexpr Getter<_KVConfiguration> customCard{
         return result;
     }};
 
-inline constexpr Condition<_KVConfiguration> unlessSecondAlone{
-    "unless card 2 is wanted alone", [](const _KVConfiguration&, const Selection& selection) {
-        return selection.card == 0 || selection.card == 1;
-    }};
-inline constexpr Condition<_KVConfiguration> unlessFirstAlone{
-    "unless card 1 is wanted alone", [](const _KVConfiguration&, const Selection& selection) {
-        return selection.card == 0 || selection.card == 2;
-    }};
+inline constexpr SelectionCondition unlessSecondAlone(
+    "unless card 2 is wanted alone",
+    [](const Selection& selection) { return selection.card == 0 || selection.card == 1; });
+inline constexpr SelectionCondition unlessFirstAlone(
+    "unless card 1 is wanted alone",
+    [](const Selection& selection) { return selection.card == 0 || selection.card == 2; });
 
 /// "cards"
 inline constexpr auto cards = rows<_KVConfiguration>({

@@ -4,9 +4,9 @@
 #define KVJXML_CONFIGURATION_NETWORK_H
 
 #include "ConfigurationRecords.h"
-#include "foundation/getters.h"
+#include "foundation/read_rules.h"
 #include "foundation/words.h"
-#include "foundation/writers.h"
+#include "foundation/write_rules.h"
 
 namespace kvjxml::configuration {
 
@@ -50,7 +50,7 @@ bool readWirelessWord(Element element, Value& value, const Words& table) {
 }
 
 template <auto Member, const auto& Table>
-inline constexpr Getter<RecordOf<Member>> wirelessWord{
+inline constexpr ReadRule<RecordOf<Member>> wirelessWord{
     word<Member, Table>.description,
     [](Element element, RecordOf<Member>& record) { return readWirelessWord(element, record.*Member, Table); }};
 
@@ -63,21 +63,14 @@ inline bool readIpAddress(Element element, unsigned long& address) {
 }
 
 template <auto Member>
-inline constexpr Getter<RecordOf<Member>> ipAddress{
+inline constexpr ReadRule<RecordOf<Member>> ipAddress{
     {nameOf<Member>(), "IPv4 address"},
     [](Element element, RecordOf<Member>& record) { return readIpAddress(element, record.*Member); }};
 
-template <auto Member>
-inline constexpr Writer<RecordOf<Member>> ipAddressTag{
-    {nameOf<Member>(), "IPv4 address"},
-    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
-        return addTag(parent, name, convert::fromIpAddress(record.*Member).c_str());
-    }};
-
 /// A network whose addresses the host does not want to touch keeps them when they are not written.
-inline constexpr Condition<_NetworkParams> withAddresses{
-    "unless addresses are left out",
-    [](const _NetworkParams&, const Selection& selection) { return !selection.withoutAddresses; }};
+inline constexpr SelectionCondition withAddresses("unless addresses are left out", [](const Selection& selection) {
+    return !selection.withoutAddresses;
+});
 
 // clang-format off
 
@@ -90,9 +83,9 @@ inline constexpr auto network = rows<_NetworkParams>({
     {"snmp",        flag<&_NetworkParams::snmp>},
 });
 inline constexpr auto networkTags = tags<_NetworkParams>({
-    {"ip_address",  ipAddressTag<&_NetworkParams::ipAddress>, withAddresses},
-    {"gateway",     ipAddressTag<&_NetworkParams::gateway>, withAddresses},
-    {"subnet_mask", ipAddressTag<&_NetworkParams::subnetMask>, withAddresses},
+    {"ip_address",  put::ipAddress<&_NetworkParams::ipAddress>, withAddresses},
+    {"gateway",     put::ipAddress<&_NetworkParams::gateway>, withAddresses},
+    {"subnet_mask", put::ipAddress<&_NetworkParams::subnetMask>, withAddresses},
     {"dhcp",        put::enabledOrNot<&_NetworkParams::dhcp>},
     {"snmp",        put::enabledOrNot<&_NetworkParams::snmp>, withAddresses},
 });
@@ -114,9 +107,9 @@ inline constexpr auto wireless = rows<_WirelessParams>({
     {"country",     text<&_WirelessParams::country>},
 });
 inline constexpr auto wirelessTags = tags<_WirelessParams>({
-    {"ip_address",  ipAddressTag<&_WirelessParams::ipAddress>},
-    {"gateway",     ipAddressTag<&_WirelessParams::gateway>},
-    {"subnet_mask", ipAddressTag<&_WirelessParams::subnetMask>},
+    {"ip_address",  put::ipAddress<&_WirelessParams::ipAddress>},
+    {"gateway",     put::ipAddress<&_WirelessParams::gateway>},
+    {"subnet_mask", put::ipAddress<&_WirelessParams::subnetMask>},
     {"dhcp",        put::enabledOrNot<&_WirelessParams::dhcp>},
     {"snmp",        put::enabledOrNot<&_WirelessParams::snmp>},
     {"radio",       put::enabledOrNot<&_WirelessParams::radio>},

@@ -7,7 +7,7 @@
 #include "foundation/tags.h"
 #include "foundation/values.h"
 #include "foundation/vocabulary.h"
-#include "foundation/writers.h"
+#include "foundation/write_rules.h"
 
 namespace convert = kvjxml::convert;
 using kvjxml::Element;

@@ -1,9 +1,9 @@
 /// @file compose.h
 /// A request is a table too: one row per element, saying its name, how it is written and when. One loop writes them
-/// all, in the table's order. The conversions that rows are made with are in writers.h.
+/// all, in the table's order. The conversions that rows are made with are in write_rules.h.
 ///
 ///     constexpr auto cardTags = tags<_CardInfo>({
-///         {"transfer_temps",        put::part<&_CardInfo::transferTemps, transferTempTags>, withTransfer<_CardInfo>},
+///         {"transfer_temps",        put::part<&_CardInfo::transferTemps, transferTempTags>, withTransfer},
 ///         {"laminator_adjustments", put::part<&_CardInfo::laminationAdjustments, adjustmentTags>},
 ///         {"cal_table",             put::number<&_CardInfo::calTable>},
 ///     });
@@ -31,7 +31,7 @@ struct Selection {
 
 /// How an element is written.
 template <class Record>
-struct Writer {
+struct WriteRule {
     Description description;
     /// Adds the element `name` to `parent`; false when it cannot be added.
     bool (*write)(TiXmlElement* parent, const char* name, const Record& record, const Selection& selection);
@@ -44,28 +44,34 @@ struct Condition {
     bool (*holds)(const Record& record, const Selection& selection);
 };
 
-template <class Record>
-inline constexpr Condition<Record> always{{}, [](const Record&, const Selection&) { return true; }};
+/// A condition that asks for the selection alone, so that it stands for one of any record.
+template <class Holds>
+struct SelectionCondition {
+    consteval SelectionCondition(std::string_view words, Holds) : description(words) {}
+    template <class Record>
+    constexpr operator Condition<Record>() const {
+        return {description, [](const Record&, const Selection& selection) { return Holds()(selection); }};
+    }
+    std::string_view description;
+};
+
+inline constexpr SelectionCondition always({}, [](const Selection&) { return true; });
 /// Film and transfer are the retransfer printer's.
-template <class Record>
-inline constexpr Condition<Record> withTransfer{
-    "unless printing is direct to card",
-    [](const Record&, const Selection& selection) { return !selection.directToCard; }};
-template <class Record>
-inline constexpr Condition<Record> directToCard{
-    "when printing is direct to card",
-    [](const Record&, const Selection& selection) { return selection.directToCard; }};
+inline constexpr SelectionCondition withTransfer("unless printing is direct to card",
+                                                 [](const Selection& selection) { return !selection.directToCard; });
+inline constexpr SelectionCondition directToCard("when printing is direct to card",
+                                                 [](const Selection& selection) { return selection.directToCard; });
 
 template <class Record>
 struct Tag {
     const char* name;
-    Writer<Record> writer;
-    Condition<Record> when = always<Record>;
+    WriteRule<Record> rule;
+    Condition<Record> when = always;
 };
 
 template <class Record>
 constexpr DescribedRow describe(const Tag<Record>& tag) {
-    return {tag.name, tag.writer.description, tag.when.description};
+    return {tag.name, tag.rule.description, tag.when.description};
 }
 
 template <class Record>
@@ -78,14 +84,14 @@ template <class Record>
 struct Section {
     long bit;
     const char* name;
-    Writer<Record> writer;
-    Condition<Record> when = always<Record>;
+    WriteRule<Record> rule;
+    Condition<Record> when = always;
     bool ofCards = false;  ///< whether it is written for a card alone as well
 };
 
 template <class Record>
 constexpr DescribedRow describe(const Section<Record>& section) {
-    return {section.name, section.writer.description, section.when.description, section.bit};
+    return {section.name, section.rule.description, section.when.description, section.bit};
 }
 
 template <class Record>
@@ -109,7 +115,7 @@ template <class Record, template <class> class RowOf, std::size_t N>
 bool compose(TiXmlElement* parent, const Record& record, const std::array<RowOf<Record>, N>& table,
              const Selection& selection = {}, bool result = false) {
     for (const auto& row : table) {
-        if (isWanted(row, record, selection)) result = row.writer.write(parent, row.name, record, selection);
+        if (isWanted(row, record, selection)) result = row.rule.write(parent, row.name, record, selection);
     }
     return result;
 }
@@ -117,7 +123,7 @@ bool compose(TiXmlElement* parent, const Record& record, const std::array<RowOf<
 /// One row alone, for the operation that is named after it.
 template <class Record>
 bool compose(TiXmlElement* parent, const Record& record, const Tag<Record>& tag, const Selection& selection = {}) {
-    return isWanted(tag, record, selection) && tag.writer.write(parent, tag.name, record, selection);
+    return isWanted(tag, record, selection) && tag.rule.write(parent, tag.name, record, selection);
 }
 
 /// Adds the element `name` and composes it with a table of its own.
@@ -130,19 +136,19 @@ bool addGroup(TiXmlElement* parent, const char* name, const Record& record, cons
 
 /// Adds an element `name` for each of `count` entries. A null array has none.
 template <class Entry>
-bool addEntries(TiXmlElement* parent, const char* name, const Entry* entries, int count, const Writer<Entry>& writer,
+bool addEntries(TiXmlElement* parent, const char* name, const Entry* entries, int count, const WriteRule<Entry>& rule,
                 const Selection& selection = {}) {
     bool result = false;
-    for (int i = 0; entries != nullptr && i < count; ++i) result = writer.write(parent, name, entries[i], selection);
+    for (int i = 0; entries != nullptr && i < count; ++i) result = rule.write(parent, name, entries[i], selection);
     return result;
 }
 
 /// Adds the element `name` with an element `entryName` for each entry.
 template <class Entry>
 bool addList(TiXmlElement* parent, const char* name, const char* entryName, const Entry* entries, int count,
-             const Writer<Entry>& writer) {
+             const WriteRule<Entry>& rule) {
     TiXmlElement* list = addTag(parent, name);
-    return list != nullptr && addEntries(list, entryName, entries, count, writer);
+    return list != nullptr && addEntries(list, entryName, entries, count, rule);
 }
 
 }  // namespace kvjxml

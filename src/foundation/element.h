@@ -1,5 +1,5 @@
 /// @file element.h
-/// The one element that tables, getters and the walk know. Most are those of a reply; those that a host hands to a
+/// The one element that tables, rules and the walk know. Most are those of a reply; those that a host hands to a
 /// public walker are TinyXML's, and are seen through the same type as they stand, without a copy.
 #ifndef KVJXML_FOUNDATION_ELEMENT_H
 #define KVJXML_FOUNDATION_ELEMENT_H

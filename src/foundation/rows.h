@@ -1,6 +1,6 @@
 /// @file rows.h
 /// A message is a table: one row per element, saying its name and how its content gets into the record. One loop walks
-/// them all. The conversions that rows are made with are in getters.h.
+/// them all. The conversions that rows are made with are in read_rules.h.
 ///
 ///     constexpr auto jobStatus = rows<KVJobStatus>({
 ///         {"uuid",               text<&KVJobStatus::uuid>},
@@ -47,7 +47,7 @@ struct DescribedRow {
 
 /// How the content of an element gets into a record.
 template <class Record>
-struct Getter {
+struct ReadRule {
     Description description;
     /// False when there was nothing to read or it did not fit; the field then has what the conversion says.
     bool (*read)(Element element, Record& record);
@@ -56,12 +56,12 @@ struct Getter {
 template <class Record>
 struct Row {
     std::string_view name;
-    Getter<Record> getter;
+    ReadRule<Record> rule;
 };
 
 template <class Record>
 constexpr DescribedRow describe(const Row<Record>& row) {
-    return {row.name, row.getter.description};
+    return {row.name, row.rule.description};
 }
 
 template <class Record, std::size_t N>
@@ -86,7 +86,7 @@ bool walk(Element element, Record& record, const Rows<Record, N>& table) {
     bool result = false;
     for (const Element child : element.children()) {
         const auto row = std::ranges::find(table, child.name(), &Row<Record>::name);
-        if (row != table.end()) result = row->getter.read(child, record);
+        if (row != table.end()) result = row->rule.read(child, record);
     }
     return result;
 }

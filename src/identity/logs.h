@@ -4,7 +4,7 @@
 #define KVJXML_IDENTITY_LOGS_H
 
 #include "IdentityRecords.h"
-#include "foundation/getters.h"
+#include "foundation/read_rules.h"
 #include "foundation/rows.h"
 
 namespace kvjxml::identity {

@@ -4,8 +4,8 @@
 #define KVJXML_IDENTITY_PRINTER_H
 
 #include "IdentityRecords.h"
-#include "foundation/getters.h"
-#include "foundation/writers.h"
+#include "foundation/read_rules.h"
+#include "foundation/write_rules.h"
 
 namespace kvjxml::identity {
 
@@ -20,22 +20,15 @@ bool scanned(Element element, RecordOf<Member>& record) {
 }
 
 template <auto Member>
-inline constexpr Getter<RecordOf<Member>> serial{
+inline constexpr ReadRule<RecordOf<Member>> serial{
     {nameOf<Member>(), "number; any other text leaves it alone"},
     [](Element element, RecordOf<Member>& record) { return scanned<Member, convert::scanUnsigned>(element, record); }};
 
 template <auto Member>
-inline constexpr Getter<RecordOf<Member>> hexByte{
+inline constexpr ReadRule<RecordOf<Member>> hexByte{
     {nameOf<Member>(), "at most two hexadecimal digits behind `0x`; any other text leaves it alone"},
     [](Element element, RecordOf<Member>& record) {
         return scanned<Member, convert::scanPrefixedHexByte>(element, record);
-    }};
-
-template <auto Member>
-inline constexpr Writer<RecordOf<Member>> hexTag{
-    {nameOf<Member>(), "hexadecimal behind `0x`, at least two digits"},
-    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
-        return addTag(parent, name, convert::fromPrefixedHex(record.*Member).c_str());
     }};
 
 // clang-format off
@@ -68,7 +61,7 @@ inline constexpr auto printerTags = tags<KVPrinterInfo>({
     {"physical_address",          put::hardwareAddress<&KVPrinterInfo::physical_address>},
     {"printhead_serial",          put::text<&KVPrinterInfo::printhead_serial>},
     {"oem_country",               put::text<&KVPrinterInfo::oem_country>},
-    {"media_auth_cfg",            hexTag<&KVPrinterInfo::media_auth_cfg>},
+    {"media_auth_cfg",            put::prefixedHex<&KVPrinterInfo::media_auth_cfg>},
     {"firmware_version",          put::text<&KVPrinterInfo::firmware_version>},
     {"kavrin_version",            put::text<&KVPrinterInfo::kavrin_version>},
     {"ethernet_deviceid",         put::text<&KVPrinterInfo::ethernet_deviceid>},

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "MediaRecords.h"
-#include "foundation/getters.h"
-#include "foundation/writers.h"
+#include "foundation/read_rules.h"
+#include "foundation/write_rules.h"
 #include "shared/card.h"
 
 namespace kvjxml::media {
@@ -17,13 +17,13 @@ using namespace Kavrin;  // the records
 
 /// The value of a setting as it stands: the catalogue knows no ranges.
 template <auto Member>
-inline constexpr Getter<RecordOf<Member>> value{
+inline constexpr ReadRule<RecordOf<Member>> value{
     {nameOf<Member>(), numberKind<decltype(ValueOf<Member>::value)>},
     [](Element element, RecordOf<Member>& record) { return readNumber(element, (record.*Member).value); }};
 
 /// A new entry of a list, also for an element with nothing in it.
 template <auto Member, const auto& Table>
-inline constexpr Getter<_KVMediaInfo> append{
+inline constexpr ReadRule<_KVMediaInfo> append{
     {.field = nameOf<Member>(), .conversion = "a new entry of the list", .group = described<Table>},
     [](Element element, _KVMediaInfo& catalogue) {
         auto* const entries = catalogue.*Member;
@@ -70,8 +70,8 @@ inline constexpr auto card = rows<_CardInfo>({
 });
 inline constexpr auto cardTags = tags<_CardInfo>({
     {"information",           put::group<cardInformationTags<_CardInfo>>},
-    {"transfer_temps",        put::part<&_CardInfo::transferTemps, transferTempTags>, withTransfer<_CardInfo>},
-    {"transfer_speeds",       put::part<&_CardInfo::transferSpeeds, transferSpeedTags>, withTransfer<_CardInfo>},
+    {"transfer_temps",        put::part<&_CardInfo::transferTemps, transferTempTags>, withTransfer},
+    {"transfer_speeds",       put::part<&_CardInfo::transferSpeeds, transferSpeedTags>, withTransfer},
     {"laminator_adjustments", put::part<&_CardInfo::laminationAdjustments, laminatorAdjustmentTags>},
     {"cal_table",             put::number<&_CardInfo::calTable>},
 });

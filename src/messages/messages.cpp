@@ -93,7 +93,7 @@ constexpr HostList list(std::string_view section = {}, bool isOneEntry = false) 
     using Entry = std::remove_pointer_t<ValueOf<Array>>;
     return {&fieldOfArray<Array>(), section, Table.front().name, isOneEntry, [](Element element, void* entry) {
                 List<Entry> one{{static_cast<Entry*>(entry), 1}};
-                return Table.front().getter.read(element, one);
+                return Table.front().rule.read(element, one);
             }};
 }
 

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "SecurityRecords.h"
-#include "foundation/getters.h"
+#include "foundation/read_rules.h"
 #include "foundation/rows.h"
 #include "foundation/words.h"
 
@@ -27,14 +27,14 @@ struct KeyExchange {
 /// Hexadecimal behind "0x", else decimal; a text that is no number leaves the value alone, and counts as read. An
 /// element without text does not take back what came before it.
 template <auto Member>
-inline constexpr Getter<KeyExchange> keyNumber{{nameOf<Member>(), "number, hexadecimal behind `0x`"},
-                                               [](Element element, KeyExchange& exchange) {
-                                                   if (const char* content = element.text()) {
-                                                       convert::scanKeyNumber(content, exchange.*Member);
-                                                       exchange.any = true;
-                                                   }
-                                                   return exchange.any;
-                                               }};
+inline constexpr ReadRule<KeyExchange> keyNumber{{nameOf<Member>(), "number, hexadecimal behind `0x`"},
+                                                 [](Element element, KeyExchange& exchange) {
+                                                     if (const char* content = element.text()) {
+                                                         convert::scanKeyNumber(content, exchange.*Member);
+                                                         exchange.any = true;
+                                                     }
+                                                     return exchange.any;
+                                                 }};
 
 /// Sets an attribute of the received element from a field that need not be terminated.
 template <std::size_t N>
@@ -46,7 +46,7 @@ void setFromField(Element element, const char* name, const char (&field)[N]) {
 /// The printer's identity is the host's to know: the received element is given what the record holds, and the record is
 /// left alone.
 template <class Record>
-inline constexpr Getter<Record> printerIdentity{
+inline constexpr ReadRule<Record> printerIdentity{
     {.field = {}, .conversion = "nothing: its attributes `model`, `serial` and `nonce` are set from the record"},
     [](Element element, Record& record) {
         setFromField(element, "model", record.model);
@@ -55,7 +55,7 @@ inline constexpr Getter<Record> printerIdentity{
         return true;
     }};
 
-inline constexpr Getter<_tagSecReqXML> actionIdentity{
+inline constexpr ReadRule<_tagSecReqXML> actionIdentity{
     {.field = {}, .conversion = "nothing: its attribute `name` is set from the record"},
     [](Element element, _tagSecReqXML& request) {
         setFromField(element, "name", request.action);

@@ -7,9 +7,9 @@
 #include <iterator>
 
 #include "ConfigurationRecords.h"
-#include "foundation/getters.h"
+#include "foundation/read_rules.h"
 #include "foundation/vocabulary.h"
-#include "foundation/writers.h"
+#include "foundation/write_rules.h"
 
 namespace kvjxml {
 
@@ -33,24 +33,26 @@ struct NonContactEncode {
 
 /// A truth word into one bit; the bits beside it stay as they are. Without text the bit is cleared.
 template <class Card, class Bit>
-inline constexpr Getter<Card> bit{{Bit::name, "true for exactly `enabled` and `yes`"}, [](Element element, Card& card) {
-                                      bool flag = false;
-                                      const bool result = readTruth(element, flag);
-                                      Bit::set(card, flag);
-                                      return result;
-                                  }};
+inline constexpr ReadRule<Card> bit{{Bit::name, "true for exactly `enabled` and `yes`"},
+                                    [](Element element, Card& card) {
+                                        bool flag = false;
+                                        const bool result = readTruth(element, flag);
+                                        Bit::set(card, flag);
+                                        return result;
+                                    }};
 
 namespace put {
 
 template <class Card, class Bit>
-inline constexpr Writer<Card> bit{{.field = Bit::name, .conversion = "when true", .argument = "yes", .otherwise = "no"},
-                                  [](TiXmlElement* parent, const char* name, const Card& card, const Selection&) {
-                                      return addTag(parent, name, Bit::get(card) ? "yes" : "no");
-                                  }};
+inline constexpr WriteRule<Card> bit{
+    {.field = Bit::name, .conversion = "when true", .argument = "yes", .otherwise = "no"},
+    [](TiXmlElement* parent, const char* name, const Card& card, const Selection&) {
+        return addTag(parent, name, Bit::get(card) ? "yes" : "no");
+    }};
 
 /// The word of a coercivity; a code without one is written empty.
 template <class Card>
-inline constexpr Writer<Card> coercivity{
+inline constexpr WriteRule<Card> coercivity{
     {"coercivity", "`none`, `low` or `high`"},
     [](TiXmlElement* parent, const char* name, const Card& card, const Selection&) {
         // The other way round clang 14 would take "<" for the beginning of template arguments.

@@ -5,9 +5,9 @@
 #define KVJXML_SHARED_ENCODER_H
 
 #include "CapabilitiesRecords.h"
-#include "foundation/getters.h"
+#include "foundation/read_rules.h"
 #include "foundation/vocabulary.h"
-#include "foundation/writers.h"
+#include "foundation/write_rules.h"
 
 namespace kvjxml {
 

@@ -4,8 +4,8 @@
 #define KVJXML_SHARED_PANEL_H
 
 #include "CapabilitiesRecords.h"
-#include "foundation/getters.h"
-#include "foundation/writers.h"
+#include "foundation/read_rules.h"
+#include "foundation/write_rules.h"
 
 namespace kvjxml {
 

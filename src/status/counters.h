@@ -4,7 +4,7 @@
 #define KVJXML_STATUS_COUNTERS_H
 
 #include "StatusRecords.h"
-#include "foundation/getters.h"
+#include "foundation/read_rules.h"
 #include "foundation/rows.h"
 #include "foundation/words.h"
 

@@ -4,7 +4,7 @@
 #define KVJXML_STATUS_JOB_H
 
 #include "StatusRecords.h"
-#include "foundation/getters.h"
+#include "foundation/read_rules.h"
 #include "foundation/rows.h"
 #include "foundation/words.h"
 
@@ -129,8 +129,8 @@ inline constexpr auto jobPrinting = rows<KVJobStatus>({
     {"laminator_state",        word<&KVJobStatus::laminatorState, laminatorStates>},
 });
 
-/// "status_mag", "status_contact" and "status_contactless" in "get_job_status": the printer puts any of the three states
-/// into any of the three groups.
+/// "status_mag", "status_contact" and "status_contactless" in "get_job_status": the printer puts any of the three
+/// states into any of the three groups.
 inline constexpr auto jobEncoding = rows<KVJobStatus>({
     {"mag_state",         word<&KVJobStatus::magState, jobStates>},
     {"contact_state",     word<&KVJobStatus::contactState, jobStates>},

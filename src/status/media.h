@@ -6,7 +6,7 @@
 #include <cstring>
 
 #include "StatusRecords.h"
-#include "foundation/getters.h"
+#include "foundation/read_rules.h"
 #include "foundation/rows.h"
 #include "foundation/vocabulary.h"
 
@@ -20,7 +20,7 @@ struct PanelSequence {
 inline constexpr int descriptionCapacity = sizeof(_MediaStatusInfo::description);
 
 /// The word of one panel, appended without a separator: the panels Y, M and C make "YMC". What does not fit is cut.
-inline constexpr Getter<PanelSequence> panel{
+inline constexpr ReadRule<PanelSequence> panel{
     {"description", "text, appended"}, [](Element element, PanelSequence& sequence) {
         const auto used = static_cast<int>(strnlen(sequence.description, descriptionCapacity));
         return used < descriptionCapacity && readText(element, sequence.description + used, descriptionCapacity - used);
@@ -34,7 +34,7 @@ inline constexpr auto panelSequence = rows<PanelSequence>({
 });
 
 /// The ribbon's description is made longer by its panels, and the code is that of the whole.
-inline constexpr Getter<_MediaStatusInfo> sequence{
+inline constexpr ReadRule<_MediaStatusInfo> sequence{
     {.field = "code", .conversion = "code of the description with the panels behind it",
      .tableName = "ribbonDescriptions", .table = ribbonDescriptions, .group = described<panelSequence>},
     [](Element element, _MediaStatusInfo& ribbon) {
@@ -45,7 +45,7 @@ inline constexpr Getter<_MediaStatusInfo> sequence{
     }};
 
 /// A description, and its code when it fits the field.
-inline constexpr Getter<_MediaStatusInfo> description{
+inline constexpr ReadRule<_MediaStatusInfo> description{
     {.field = "description", .conversion = "text, and its code to `code`", .capacity = descriptionCapacity,
      .tableName = "ribbonNames", .table = ribbonNames},
     [](Element element, _MediaStatusInfo& medium) {

@@ -4,7 +4,7 @@
 #define KVJXML_STATUS_SENSORS_H
 
 #include "StatusRecords.h"
-#include "foundation/getters.h"
+#include "foundation/read_rules.h"
 #include "foundation/rows.h"
 
 namespace kvjxml::status {

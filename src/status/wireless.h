@@ -4,7 +4,7 @@
 #define KVJXML_STATUS_WIRELESS_H
 
 #include "StatusRecords.h"
-#include "foundation/getters.h"
+#include "foundation/read_rules.h"
 #include "foundation/rows.h"
 #include "foundation/words.h"
 
@@ -62,7 +62,7 @@ inline bool combine(Element element, unsigned int& codes, Words table) {
 }
 
 template <auto Member, const auto& Table>
-inline constexpr Getter<RecordOf<Member>> combined{
+inline constexpr ReadRule<RecordOf<Member>> combined{
     {.field = nameOf<Member>(),
      .conversion = "code of the word, OR-ed in",
      .tableName = nameOfTable<Table>(),

@@ -20,7 +20,7 @@ using namespace kvjxml::tests;
 
 using Add = std::function<bool(KVJSetCaps&, TiXmlElement*)>;
 
-/// What a writer adds to an element, without white space.
+/// What a section composer adds to an element, without white space.
 void expectAdded(const Add& add, const std::string& content, bool result = true) {
     TiXmlElement under("r");
     KVJSetCaps composer;
@@ -33,8 +33,8 @@ void expectAdded(const Add& add, const std::string& content, bool result = true)
 
 char portName[] = "host_port";
 
-/// A writer of a list, with the array and count that it is given.
-struct ListWriter {
+/// A composer of a list, with the array and count that it is given.
+struct ListComposer {
     const char* section;  ///< empty where the entries go into the element given
     std::function<bool(KVJSetCaps&, TiXmlElement*, const Whole&, bool withArray, int count)> add;
     bool leftOutWhenZero;
@@ -46,7 +46,7 @@ const Entry* array(const std::vector<Entry>& entries, bool withArray) {
     return withArray ? entries.data() : nullptr;
 }
 
-const ListWriter listWriters[] = {
+const ListComposer listComposers[] = {
     {"host_ports",
      [](KVJSetCaps& composer, TiXmlElement* under, const Whole& whole, bool withArray, int count) {
          _Capabilities caps = whole.caps;
@@ -123,62 +123,59 @@ const ListWriter listWriters[] = {
      {"<barcode>code_39</barcode>", "<barcode>pdf417</barcode>"}},
 };
 
-void expectList(const ListWriter& writer, bool withArray, int count, const std::string& content, bool result) {
-    const testing::ScopedTrace trace(__FILE__, __LINE__, writer.section);
+void expectList(const ListComposer& list, bool withArray, int count, const std::string& content, bool result) {
+    const testing::ScopedTrace trace(__FILE__, __LINE__, list.section);
     const Whole whole;
-    expectAdded(
-        [&](KVJSetCaps& composer, TiXmlElement* under) { return writer.add(composer, under, whole, withArray, count); },
-        content, result);
+    expectAdded([&](KVJSetCaps& caps, TiXmlElement* under) { return list.add(caps, under, whole, withArray, count); },
+                content, result);
 }
 
-std::string section(const ListWriter& writer, const std::string& entries) {
-    return *writer.section == '\0' ? entries : element(writer.section, entries);
+std::string section(const ListComposer& list, const std::string& entries) {
+    return *list.section == '\0' ? entries : element(list.section, entries);
 }
 
-std::string emptySection(const ListWriter& writer) {
-    return *writer.section == '\0' ? "" : emptyElement(writer.section);
-}
+std::string emptySection(const ListComposer& list) { return *list.section == '\0' ? "" : emptyElement(list.section); }
 
 TEST(ComposedList, HasItsEntriesInOrder) {
-    for (const ListWriter& writer : listWriters) {
-        expectList(writer, true, 2, section(writer, writer.entries[0] + writer.entries[1]), true);
+    for (const ListComposer& list : listComposers) {
+        expectList(list, true, 2, section(list, list.entries[0] + list.entries[1]), true);
     }
 }
 
 TEST(ComposedList, HasNoMoreEntriesThanItsCount) {
-    for (const ListWriter& writer : listWriters) expectList(writer, true, 1, section(writer, writer.entries[0]), true);
+    for (const ListComposer& list : listComposers) expectList(list, true, 1, section(list, list.entries[0]), true);
 }
 
 TEST(ComposedList, OfNoEntriesIsEmptyOrLeftOutAndFalse) {
-    for (const ListWriter& writer : listWriters) {
+    for (const ListComposer& list : listComposers) {
         for (const bool withArray : {false, true}) {
-            expectList(writer, withArray, 0, writer.leftOutWhenZero ? "" : emptySection(writer), false);
+            expectList(list, withArray, 0, list.leftOutWhenZero ? "" : emptySection(list), false);
         }
     }
 }
 
 TEST(ComposedList, OfANegativeCountIsEmptyAndFalse) {
-    for (const ListWriter& writer : listWriters) {
+    for (const ListComposer& list : listComposers) {
         for (const int count : {-1, INT_MIN}) {
             for (const bool withArray : {false, true}) {
-                expectList(writer, withArray, count, emptySection(writer), false);
+                expectList(list, withArray, count, emptySection(list), false);
             }
         }
     }
 }
 
 TEST(ComposedList, WithoutAnArrayIsEmptyAndFalse) {
-    for (const ListWriter& writer : listWriters) {
-        for (const int count : {1, 2, INT_MAX}) expectList(writer, false, count, emptySection(writer), false);
+    for (const ListComposer& list : listComposers) {
+        for (const int count : {1, 2, INT_MAX}) expectList(list, false, count, emptySection(list), false);
     }
 }
 
 TEST(ComposedList, WithoutAnElementToAddToIsFalse) {
     const Whole whole;
-    for (const ListWriter& writer : listWriters) {
+    for (const ListComposer& list : listComposers) {
         KVJSetCaps composer;
         for (const int count : {-1, 0, 2}) {
-            EXPECT_FALSE(writer.add(composer, nullptr, whole, true, count)) << writer.section;
+            EXPECT_FALSE(list.add(composer, nullptr, whole, true, count)) << list.section;
         }
     }
 }

@@ -91,14 +91,14 @@ struct Written {
 
 using Write = std::function<bool(KVJSetCaps&, char*, int)>;
 
-struct Writer {
+struct WordOperation {
     const char* name;
     Write write;
     std::vector<Written> rows;
     std::string other;
     bool otherResult;
 };
-const Writer writers[] = {
+const WordOperation wordOperations[] = {
     {"port type",
      &KVJSetCaps::portTypeToString,
      {{0, "usb_2_0"}, {1, "serial"}, {2, "ethernet_10_100"}, {3, "ethernet_10_100_1G"}},
@@ -146,31 +146,31 @@ void expectWord(const std::function<bool(char*)>& write, const std::string& word
     EXPECT_EQ(buffer.substr(32), "########");
 }
 
-void expectWord(const Writer& writer, int code, const std::string& word, bool result) {
-    const testing::ScopedTrace trace(__FILE__, __LINE__, writer.name + (' ' + std::to_string(code)));
+void expectWord(const WordOperation& operation, int code, const std::string& word, bool result) {
+    const testing::ScopedTrace trace(__FILE__, __LINE__, operation.name + (' ' + std::to_string(code)));
     KVJSetCaps composer;
-    expectWord([&](char* buffer) { return writer.write(composer, buffer, code); }, word, result);
+    expectWord([&](char* buffer) { return operation.write(composer, buffer, code); }, word, result);
 }
 
 TEST(CodesToWords, EveryCodeHasItsWordAndResult) {
-    for (const Writer& writer : writers) {
-        for (const auto& [code, word, result] : writer.rows) expectWord(writer, code, word, result);
+    for (const WordOperation& operation : wordOperations) {
+        for (const auto& [code, word, result] : operation.rows) expectWord(operation, code, word, result);
     }
 }
 
 TEST(CodesToWords, AnyOtherCodeHasTheDefault) {
-    for (const Writer& writer : writers) {
+    for (const WordOperation& operation : wordOperations) {
         for (const int code : {INT_MIN, -2, -1, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 256, 0x10001, INT_MAX}) {
-            if (std::ranges::find(writer.rows, code, &Written::code) != writer.rows.end()) continue;
-            expectWord(writer, code, writer.other, writer.otherResult);
+            if (std::ranges::find(operation.rows, code, &Written::code) != operation.rows.end()) continue;
+            expectWord(operation, code, operation.other, operation.otherResult);
         }
     }
 }
 
 TEST(CodesToWords, WithoutABufferItIsFalse) {
     KVJSetCaps composer;
-    for (const Writer& writer : writers) {
-        for (const int code : {-1, 0, 1, 2}) EXPECT_FALSE(writer.write(composer, nullptr, code)) << writer.name;
+    for (const WordOperation& operation : wordOperations) {
+        for (const int code : {-1, 0, 1, 2}) EXPECT_FALSE(operation.write(composer, nullptr, code)) << operation.name;
     }
     EXPECT_FALSE(composer.LamTypeToString(nullptr, laminatorOneSided));
     EXPECT_FALSE(composer.LaminatorToString(nullptr, 1));
@@ -230,10 +230,10 @@ TEST(CodesToWords, APrintSystemIsThatOfTheLastRequestWhateverTheCode) {
 // ---- Both directions ----
 
 /// What a word is read as that was written for a code.
-int readBack(const Reader& reader, const Writer& writer, int code) {
+int readBack(const Reader& reader, const WordOperation& operation, int code) {
     KVJSetCaps composer;
     std::string buffer(32, '\0');
-    writer.write(composer, buffer.data(), code);
+    operation.write(composer, buffer.data(), code);
     return (KVJCapsParser().*reader.read)(buffer.c_str());
 }
 
@@ -244,18 +244,18 @@ const auto& named(const auto& tables, const std::string& name) {
 TEST(BothDirections, WhatIsWrittenReadsBack) {
     for (const char* name : {"port type", "protocol", "transport", "encryption algorithm", "graphic format",
                              "magnetic head type", "stripe location", "print type"}) {
-        const Writer& writer = named(writers, name);
-        for (const Written& row : writer.rows) {
-            EXPECT_EQ(readBack(named(readers, name), writer, row.code), row.code) << name;
+        const WordOperation& operation = named(wordOperations, name);
+        for (const Written& row : operation.rows) {
+            EXPECT_EQ(readBack(named(readers, name), operation, row.code), row.code) << name;
         }
     }
 }
 
 TEST(BothDirections, AWirelessPortAndAJisHeadAreReadButNotWritten) {
     EXPECT_EQ(KVJCapsParser().portTypeToInt("wifi_enet_802_11g"), 4);
-    EXPECT_EQ(readBack(named(readers, "port type"), named(writers, "port type"), 4), -1);
+    EXPECT_EQ(readBack(named(readers, "port type"), named(wordOperations, "port type"), 4), -1);
     EXPECT_EQ(KVJCapsParser().magHeadTypeToInt("jis"), 5);
-    EXPECT_EQ(readBack(named(readers, "magnetic head type"), named(writers, "magnetic head type"), 5), -1);
+    EXPECT_EQ(readBack(named(readers, "magnetic head type"), named(wordOperations, "magnetic head type"), 5), -1);
 }
 
 TEST(BothDirections, WordsThatAreOnlyWrittenReadAsTheDefault) {

@@ -155,9 +155,9 @@ TEST(FeederModeElement, WithoutTextIsFalseAndLeavesTheCode) { feederMode.expectF
 // ---- Codes to constant words ----
 
 template <class Code>
-void expectWords(const char* (KVJSetConfig::*writer)(Code), CodesAndWords cases) {
+void expectWords(const char* (KVJSetConfig::*operation)(Code), CodesAndWords cases) {
     for (const auto& [code, word] : cases) {
-        EXPECT_STREQ((KVJSetConfig().*writer)(static_cast<Code>(code)), word) << code;
+        EXPECT_STREQ((KVJSetConfig().*operation)(static_cast<Code>(code)), word) << code;
     }
 }
 
@@ -206,7 +206,7 @@ TEST(WirelessWords, AMixedNetworkReadAs5IsWrittenWithTheOlderOneFirst) {
 
 // ---- Codes to words in a buffer of the host's ----
 
-/// What a writer makes of a buffer of '#', from its beginning to behind the word's terminator, and its result.
+/// What an operation makes of a buffer of '#', from its beginning to behind the word's terminator, and its result.
 struct Written {
     bool result;
     std::string word;
@@ -223,21 +223,21 @@ Written writtenBy(Call call) {
     return {result, std::string(buffer, length)};
 }
 
-using WordWriter = bool (KVJSetConfig::*)(char*, int);
+using WordOperation = bool (KVJSetConfig::*)(char*, int);
 
-Written writtenBy(WordWriter writer, int code) {
-    return writtenBy([&](char* buffer) { return (KVJSetConfig().*writer)(buffer, code); });
+Written writtenBy(WordOperation operation, int code) {
+    return writtenBy([&](char* buffer) { return (KVJSetConfig().*operation)(buffer, code); });
 }
 
-void expectWords(WordWriter writer, CodesAndWords cases) {
-    for (const auto& [code, word] : cases) EXPECT_EQ(writtenBy(writer, code), (Written{true, word})) << code;
+void expectWords(WordOperation operation, CodesAndWords cases) {
+    for (const auto& [code, word] : cases) EXPECT_EQ(writtenBy(operation, code), (Written{true, word})) << code;
 }
 
 /// That none of these codes has a word, nor any far outside.
-void expectNoWords(WordWriter writer, std::initializer_list<int> codes) {
-    for (const int code : codes) EXPECT_EQ(writtenBy(writer, code), (Written{false, ""})) << code;
-    for (const int code : {-1, INT_MAX, INT_MIN}) EXPECT_EQ(writtenBy(writer, code), (Written{false, ""})) << code;
-    EXPECT_FALSE((KVJSetConfig().*writer)(nullptr, 0));
+void expectNoWords(WordOperation operation, std::initializer_list<int> codes) {
+    for (const int code : codes) EXPECT_EQ(writtenBy(operation, code), (Written{false, ""})) << code;
+    for (const int code : {-1, INT_MAX, INT_MIN}) EXPECT_EQ(writtenBy(operation, code), (Written{false, ""})) << code;
+    EXPECT_FALSE((KVJSetConfig().*operation)(nullptr, 0));
 }
 
 TEST(RibbonNameWord, OfEachCodeIsWrittenInOneSpelling) {
@@ -295,19 +295,19 @@ TEST(FeederTypeWord, OfEachCodeReadsBack) {
     for (const auto& [code, word] : words) EXPECT_EQ(KVJHelper::FeederTypeToInt(Name(word)), code) << word;
 }
 
-using EncoderWordWriter = bool (KVJSetConfig::*)(int, char*, int);
+using EncoderWordOperation = bool (KVJSetConfig::*)(int, char*, int);
 
 /// That each code has this word and is true; the last argument does not count.
-void expectEncoderWords(EncoderWordWriter writer, CodesAndWords cases) {
+void expectEncoderWords(EncoderWordOperation operation, CodesAndWords cases) {
     for (const auto& [code, word] : cases) {
         for (const int ignored : {32, 0, 1, -1}) {
             const auto call = [&, code = code](char* buffer) {
-                return (KVJSetConfig().*writer)(code, buffer, ignored);
+                return (KVJSetConfig().*operation)(code, buffer, ignored);
             };
             EXPECT_EQ(writtenBy(call), (Written{true, word})) << code;
         }
     }
-    EXPECT_FALSE((KVJSetConfig().*writer)(1, nullptr, 32));
+    EXPECT_FALSE((KVJSetConfig().*operation)(1, nullptr, 32));
 }
 
 TEST(CommsChannelWord, IsAlwaysTrueAndEmptyForAnyOtherCode) {

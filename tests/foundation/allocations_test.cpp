@@ -149,7 +149,7 @@ TEST(Allocations, ReadingAWordTakesNone) {
               0U);
 }
 
-// ---- Writers: one allocation for the element and one for its text, as long as both are short ----
+// ---- Writing: one allocation for the element and one for its text, as long as both are short ----
 
 TEST(Allocations, WritingAnElementTakesTwo) {
     TiXmlElement parent("p");

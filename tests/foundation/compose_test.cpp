@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "FoundationRecords.h"
-#include "foundation/writers.h"
+#include "foundation/write_rules.h"
 #include "support/xml.h"
 
 using kvjxml::Selection;
@@ -46,8 +46,8 @@ struct Record {
 constexpr kvjxml::WordTable states{-1, {{"idle", 0}, {"printing", 2}}};
 constexpr kvjxml::WordTable levels({{"low", 0x8}, {"off", 0x1}});
 
-/// A writer that adds nothing and says so.
-constexpr kvjxml::Writer<Record> failing{
+/// A rule that adds nothing and says so.
+constexpr kvjxml::WriteRule<Record> failing{
     {}, [](TiXmlElement*, const char*, const Record&, const Selection&) { return false; }};
 constexpr kvjxml::Condition<Record> whenReady{"when ready",
                                               [](const Record& record, const Selection&) { return record.ready; }};
@@ -63,10 +63,10 @@ auto composed(const Table& table, const Record& record = {}, const Selection& se
 std::pair<std::string, bool> wrote(const std::string& content) { return {"<p>" + content + "</p>", true}; }
 const std::pair<std::string, bool> nothing{"<p />", false};
 
-/// What a writer adds as "x".
-std::pair<std::string, bool> added(const kvjxml::Writer<Record>& writer, const Record& record = {},
+/// What a rule adds as "x".
+std::pair<std::string, bool> added(const kvjxml::WriteRule<Record>& rule, const Record& record = {},
                                    const Selection& selection = {}) {
-    return composed(kvjxml::Tag<Record>{"x", writer}, record, selection);
+    return composed(kvjxml::Tag<Record>{"x", rule}, record, selection);
 }
 
 // ---- The loop ----
@@ -145,8 +145,8 @@ TEST(Compose, WithoutAnyRowThatIsWantedItIsWhatTheCallerSays) {
 constexpr auto conditional = kvjxml::tags<Record>({
     {"always", put::number<&Record::integer>},
     {"ready", put::number<&Record::integer>, whenReady},
-    {"transfer", put::number<&Record::integer>, kvjxml::withTransfer<Record>},
-    {"direct", put::number<&Record::integer>, kvjxml::directToCard<Record>},
+    {"transfer", put::number<&Record::integer>, kvjxml::withTransfer},
+    {"direct", put::number<&Record::integer>, kvjxml::directToCard},
 });
 
 TEST(Condition, IsAskedOfTheRecordAndOfTheSelection) {
@@ -175,9 +175,9 @@ TEST(Condition, HoldsForOneRowAloneAsWell) {
 
 constexpr auto sections = kvjxml::sections<Record>({
     {0x1, "one", put::number<&Record::integer>},
-    {0x4, "four", put::number<&Record::integer>, kvjxml::always<Record>, true},
+    {0x4, "four", put::number<&Record::integer>, kvjxml::always, true},
     {0x4, "four_too", put::number<&Record::integer>},
-    {0x8, "eight", put::number<&Record::integer>, kvjxml::withTransfer<Record>},
+    {0x8, "eight", put::number<&Record::integer>, kvjxml::withTransfer},
     {0x100000000, "far", put::number<&Record::integer>},
 });
 
@@ -212,7 +212,7 @@ TEST(Sections, ForACardAloneOnlyThoseOfCardsAreWritten) {
 
 // ---- What rows write ----
 
-TEST(Writer, ANumberHasTheRangeOfItsField) {
+TEST(WriteRule, ANumberHasTheRangeOfItsField) {
     Record record;
     record.integer = INT_MIN;
     record.unsignedInteger = UINT_MAX;
@@ -220,14 +220,14 @@ TEST(Writer, ANumberHasTheRangeOfItsField) {
     EXPECT_EQ(added(put::number<&Record::unsignedInteger>, record), wrote("<x>4294967295</x>"));
 }
 
-TEST(Writer, ADecimalHasFourDecimalsBehindAPointInEveryLocale) {
+TEST(WriteRule, ADecimalHasFourDecimalsBehindAPointInEveryLocale) {
     Record record;
     record.real = -0.03125F;
     EXPECT_EQ(added(put::decimal<&Record::real>), wrote("<x>1.5000</x>"));
     EXPECT_EQ(added(put::decimal<&Record::real>, record), wrote("<x>-0.0312</x>"));
 }
 
-TEST(Writer, ATextEndsWithItsTerminatorOrItsField) {
+TEST(WriteRule, ATextEndsWithItsTerminatorOrItsField) {
     Record record;
     EXPECT_EQ(added(put::text<&Record::uuid>, record), wrote("<x>abc</x>"));
     std::memcpy(record.uuid, "abcd", 4);
@@ -239,7 +239,7 @@ TEST(Writer, ATextEndsWithItsTerminatorOrItsField) {
     EXPECT_EQ(added(put::text<&Record::uuid>, record), wrote("<x></x>"));
 }
 
-TEST(Writer, AFlagIsOneOfTwoWords) {
+TEST(WriteRule, AFlagIsOneOfTwoWords) {
     Record record;
     EXPECT_EQ(added(put::either<&Record::ready, "on", "off">, record), wrote("<x>off</x>"));
     EXPECT_EQ(added(put::yesOrNo<&Record::ready>, record), wrote("<x>no</x>"));
@@ -250,7 +250,7 @@ TEST(Writer, AFlagIsOneOfTwoWords) {
     EXPECT_EQ(added(put::enabledOrNot<&Record::ready>, record), wrote("<x>enabled</x>"));
 }
 
-TEST(Writer, ACodeIsItsWordAndOneWithoutIsEmptyOrAnotherWord) {
+TEST(WriteRule, ACodeIsItsWordAndOneWithoutIsEmptyOrAnotherWord) {
     Record record;
     EXPECT_EQ(added(put::word<&Record::state, states>, record), wrote("<x>idle</x>"));
     record.state = 2;
@@ -262,55 +262,55 @@ TEST(Writer, ACodeIsItsWordAndOneWithoutIsEmptyOrAnotherWord) {
     }
 }
 
-TEST(Writer, ASettingHasItsRangeAndOneWithAFractionItsMaximumForItsValue) {
+TEST(WriteRule, ASettingHasItsRangeAndOneWithAFractionItsMaximumForItsValue) {
     EXPECT_EQ(added(put::setting<&Record::speed>), wrote("<x min=\"1\" max=\"9\">5</x>"));
     EXPECT_EQ(added(put::setting<&Record::tension>), wrote("<x min=\"1.00\" max=\"9.50\">9.50</x>"));
 }
 
-TEST(Writer, AHardwareAddressIsInLowerCase) {
+TEST(WriteRule, AHardwareAddressIsInLowerCase) {
     EXPECT_EQ(added(put::hardwareAddress<&Record::address>), wrote("<x>00:1a:2b:3c:4d:5e</x>"));
 }
 
-TEST(Writer, AConstantIsAlwaysTheSame) { EXPECT_EQ(added(put::constant<Record, "auto">), wrote("<x>auto</x>")); }
+TEST(WriteRule, AConstantIsAlwaysTheSame) { EXPECT_EQ(added(put::constant<Record, "auto">), wrote("<x>auto</x>")); }
 
-TEST(Writer, BitsAreAnElementForEachThatHasAWordInTheOrderOfTheWords) {
+TEST(WriteRule, BitsAreAnElementForEachThatHasAWordInTheOrderOfTheWords) {
     Record record;
-    const auto& writer = put::bits<&Record::levels, levels>;
-    EXPECT_EQ(added(writer, record), nothing);
+    const auto& rule = put::bits<&Record::levels, levels>;
+    EXPECT_EQ(added(rule, record), nothing);
     record.levels = 0x6;
-    EXPECT_EQ(added(writer, record), nothing);
+    EXPECT_EQ(added(rule, record), nothing);
     record.levels = 0x1;
-    EXPECT_EQ(added(writer, record), wrote("<x>off</x>"));
+    EXPECT_EQ(added(rule, record), wrote("<x>off</x>"));
     record.levels = 0xF;
-    EXPECT_EQ(added(writer, record), wrote("<x>low</x><x>off</x>"));
+    EXPECT_EQ(added(rule, record), wrote("<x>low</x><x>off</x>"));
 }
 
 constexpr auto innerTags = kvjxml::tags<Inner>({
     {"number", put::number<&Inner::number>},
-    {"direct", put::number<&Inner::number>, kvjxml::directToCard<Inner>},
+    {"direct", put::number<&Inner::number>, kvjxml::directToCard},
 });
 constexpr auto unwantedTags = kvjxml::tags<Record>({{"integer", put::number<&Record::integer>, whenReady}});
 
-TEST(Writer, AGroupIsAnElementAroundItsRows) {
+TEST(WriteRule, AGroupIsAnElementAroundItsRows) {
     EXPECT_EQ(added(put::group<three>), wrote("<x><integer>1</integer><uuid>abc</uuid><unsigned>2</unsigned></x>"));
 }
 
-TEST(Writer, APartIsAGroupOfARecordInsideTheRecord) {
+TEST(WriteRule, APartIsAGroupOfARecordInsideTheRecord) {
     EXPECT_EQ((added(put::part<&Record::inner, innerTags>)), wrote("<x><number>3</number></x>"));
 }
 
-TEST(Writer, AGroupAndAPartAreAskedOfTheSameSelection) {
+TEST(WriteRule, AGroupAndAPartAreAskedOfTheSameSelection) {
     const Selection direct{.directToCard = true};
     EXPECT_EQ((added(put::part<&Record::inner, innerTags>, {}, direct)),
               wrote("<x><number>3</number><direct>3</direct></x>"));
     EXPECT_EQ(added(put::group<conditional>, {}, direct), wrote("<x><always>1</always><direct>1</direct></x>"));
 }
 
-TEST(Writer, AGroupWithoutARowThatIsWantedIsAnEmptyElementAndFalse) {
+TEST(WriteRule, AGroupWithoutARowThatIsWantedIsAnEmptyElementAndFalse) {
     EXPECT_EQ(added(put::group<unwantedTags>), std::pair(std::string("<p><x /></p>"), false));
 }
 
-TEST(Writer, AGroupHasTheResultOfItsLastRow) {
+TEST(WriteRule, AGroupHasTheResultOfItsLastRow) {
     static constexpr auto table = kvjxml::tags<Record>({
         {"integer", put::number<&Record::integer>},
         {"failing", failing},
@@ -319,51 +319,51 @@ TEST(Writer, AGroupHasTheResultOfItsLastRow) {
 }
 
 constexpr auto entryTags = kvjxml::tags<Entry>({{"number", put::number<&Entry::number>}});
-constexpr const auto& entryWriter = put::group<entryTags>;
-constexpr const auto& listWriter = put::list<&Record::entryCount, &Record::entries, "entry", entryWriter>;
+constexpr const auto& entryRule = put::group<entryTags>;
+constexpr const auto& listRule = put::list<&Record::entryCount, &Record::entries, "entry", entryRule>;
 
-TEST(Writer, AListIsAnElementAroundItsEntries) {
+TEST(WriteRule, AListIsAnElementAroundItsEntries) {
     const Entry entries[] = {{7}, {8}, {9}};
     Record record;
     record.entries = entries;
     record.entryCount = 2;
-    EXPECT_EQ(added(listWriter, record),
+    EXPECT_EQ(added(listRule, record),
               wrote("<x><entry><number>7</number></entry><entry><number>8</number></entry></x>"));
 }
 
-TEST(Writer, AListWithoutEntriesIsAnEmptyElementAndFalse) {
+TEST(WriteRule, AListWithoutEntriesIsAnEmptyElementAndFalse) {
     const Entry entries[] = {{7}};
     for (const Entry* array : {static_cast<const Entry*>(nullptr), entries}) {
         for (const int count : {0, -1, INT_MIN}) {
             Record record;
             record.entries = array;
             record.entryCount = count;
-            EXPECT_EQ(added(listWriter, record), std::pair(std::string("<p><x /></p>"), false)) << count;
+            EXPECT_EQ(added(listRule, record), std::pair(std::string("<p><x /></p>"), false)) << count;
         }
     }
     Record record;
     record.entryCount = INT_MAX;
-    EXPECT_EQ(added(listWriter, record), std::pair(std::string("<p><x /></p>"), false));
+    EXPECT_EQ(added(listRule, record), std::pair(std::string("<p><x /></p>"), false));
 }
 
-TEST(Writer, EntriesAloneAreAddedToTheParentItself) {
+TEST(WriteRule, EntriesAloneAreAddedToTheParentItself) {
     const Entry entries[] = {{7}, {8}};
     TiXmlElement parent("p");
-    EXPECT_TRUE(kvjxml::addEntries(&parent, "e", entries, 2, entryWriter));
+    EXPECT_TRUE(kvjxml::addEntries(&parent, "e", entries, 2, entryRule));
     EXPECT_EQ(written(parent), "<p><e><number>7</number></e><e><number>8</number></e></p>");
-    EXPECT_FALSE(kvjxml::addEntries(&parent, nullptr, entries, 2, entryWriter));
-    EXPECT_FALSE(kvjxml::addEntries(nullptr, "e", entries, 2, entryWriter));
+    EXPECT_FALSE(kvjxml::addEntries(&parent, nullptr, entries, 2, entryRule));
+    EXPECT_FALSE(kvjxml::addEntries(nullptr, "e", entries, 2, entryRule));
     EXPECT_EQ(written(parent), "<p><e><number>7</number></e><e><number>8</number></e></p>");
 }
 
-TEST(Writer, WithoutAParentEachIsFalse) {
+TEST(WriteRule, WithoutAParentEachIsFalse) {
     const Entry entries[] = {{7}};
     Record record;
     record.levels = 0xF;
     record.entries = entries;
     record.entryCount = 1;
-    const auto addedToNothing = [&](const kvjxml::Writer<Record>& writer) {
-        return writer.write(nullptr, "x", record, {});
+    const auto addedToNothing = [&](const kvjxml::WriteRule<Record>& rule) {
+        return rule.write(nullptr, "x", record, {});
     };
     EXPECT_FALSE(addedToNothing(put::number<&Record::integer>));
     EXPECT_FALSE(addedToNothing(put::decimal<&Record::real>));
@@ -377,7 +377,7 @@ TEST(Writer, WithoutAParentEachIsFalse) {
     EXPECT_FALSE((addedToNothing(put::bits<&Record::levels, levels>)));
     EXPECT_FALSE(addedToNothing(put::group<three>));
     EXPECT_FALSE((addedToNothing(put::part<&Record::inner, innerTags>)));
-    EXPECT_FALSE(addedToNothing(listWriter));
+    EXPECT_FALSE(addedToNothing(listRule));
 }
 
 // ---- What rows say of themselves ----
@@ -401,7 +401,7 @@ TEST(DescribedRequest, ASectionSaysItsBitAndItsCondition) {
     EXPECT_EQ(rows[2].section, 0x4);
     EXPECT_EQ(rows[4].section, 0x100000000);
     EXPECT_EQ(rows[1].condition, "");
-    EXPECT_EQ(rows[3].condition, kvjxml::withTransfer<Record>.description);
+    EXPECT_EQ(rows[3].condition, kvjxml::withTransfer.description);
 }
 
 TEST(DescribedRequest, AFlagSaysBothItsWords) {
@@ -427,10 +427,10 @@ TEST(DescribedRequest, GroupsPartsAndListsSayTheirRows) {
     EXPECT_EQ(part.field, "inner");
     ASSERT_EQ(part.group.size(), 2U);
     EXPECT_EQ(part.group[0].name, "number");
-    EXPECT_EQ(listWriter.description.field, "entries");
-    EXPECT_EQ(listWriter.description.argument, "entry");
-    ASSERT_EQ(listWriter.description.group.size(), 1U);
-    EXPECT_EQ(listWriter.description.group[0].name, "number");
+    EXPECT_EQ(listRule.description.field, "entries");
+    EXPECT_EQ(listRule.description.argument, "entry");
+    ASSERT_EQ(listRule.description.group.size(), 1U);
+    EXPECT_EQ(listRule.description.group[0].name, "number");
 }
 
 }  // namespace

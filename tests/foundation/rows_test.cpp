@@ -6,7 +6,7 @@
 #include <climits>
 #include <string>
 
-#include "foundation/getters.h"
+#include "foundation/read_rules.h"
 #include "support/xml.h"
 
 using kvjxml::tests::Xml;
@@ -327,7 +327,7 @@ TEST(Description, SaysTheTableOfAWord) {
 }
 
 TEST(Description, TellsNumbersOfSixteenBitsFromWholeOnes) {
-    const auto conversion = [](const auto& getter) { return getter.description.conversion; };
+    const auto conversion = [](const auto& rule) { return rule.description.conversion; };
     EXPECT_EQ(conversion(kvjxml::number<&Record::shortInteger>), conversion(kvjxml::number<&Record::counter>));
     EXPECT_NE(conversion(kvjxml::number<&Record::shortInteger>), conversion(kvjxml::number<&Record::integer>));
     EXPECT_NE(conversion(kvjxml::number<&Record::real>), conversion(kvjxml::number<&Record::integer>));

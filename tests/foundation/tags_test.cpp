@@ -1,4 +1,4 @@
-// What the writers of a request add to an element, and that they add nothing by halves.
+// What is added to an element of a request, and that nothing is added by halves.
 #include "foundation/tags.h"
 
 #include <gtest/gtest.h>

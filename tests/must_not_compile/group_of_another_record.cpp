@@ -1,6 +1,6 @@
 // error: (initialization of reference of type|initializer list argument to) 'const (kvjxml::)?Row<Kavrin::KVJobStatus>
 #include "StatusRecords.h"
-#include "foundation/getters.h"
+#include "foundation/read_rules.h"
 
 using namespace kvjxml;
 using Kavrin::KVJobStatus;

@@ -1,6 +1,6 @@
 // error: type 'unsigned int&?' .*to a value of (unrelated )?type 'int'
 #include "StatusRecords.h"
-#include "foundation/getters.h"
+#include "foundation/read_rules.h"
 
 using namespace kvjxml;
 using Kavrin::KVJobStatus;

@@ -1,6 +1,6 @@
 // error: a name stands twice in its table
 #include "StatusRecords.h"
-#include "foundation/getters.h"
+#include "foundation/read_rules.h"
 
 using namespace kvjxml;
 using Kavrin::KVJobStatus;

@@ -1,6 +1,6 @@
 // error: no matching function for call to 'readNumber
 #include "StatusRecords.h"
-#include "foundation/getters.h"
+#include "foundation/read_rules.h"
 
 using namespace kvjxml;
 using Kavrin::KVJobStatus;

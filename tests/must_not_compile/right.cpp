@@ -1,6 +1,6 @@
 // The tables that the other sources spoil, as they have to be.
 #include "StatusRecords.h"
-#include "foundation/getters.h"
+#include "foundation/read_rules.h"
 
 using namespace kvjxml;
 using Kavrin::KVGeneralStatus;

@@ -1,6 +1,6 @@
 // error: (invalid conversion from 'int' to 'char\*'|no matching function for call to 'readText')
 #include "StatusRecords.h"
-#include "foundation/getters.h"
+#include "foundation/read_rules.h"
 
 using namespace kvjxml;
 using Kavrin::KVJobStatus;

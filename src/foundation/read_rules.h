@@ -1,7 +1,8 @@
-/// @file getters.h
-/// The conversions that the rows of a table are made with: each makes the getter of one member of a record.
-#ifndef KVJXML_FOUNDATION_GETTERS_H
-#define KVJXML_FOUNDATION_GETTERS_H
+/// @file read_rules.h
+/// The rules that the rows of a reply's table are made with: each says how an element is read into one member of a
+/// record.
+#ifndef KVJXML_FOUNDATION_READ_RULES_H
+#define KVJXML_FOUNDATION_READ_RULES_H
 
 #include <algorithm>
 #include <cstddef>
@@ -29,13 +30,13 @@ inline constexpr std::string_view numberKind<float> = "number with a decimal poi
 
 /// A number of the member's type.
 template <auto Member>
-inline constexpr Getter<RecordOf<Member>> number{
+inline constexpr ReadRule<RecordOf<Member>> number{
     {nameOf<Member>(), numberKind<ValueOf<Member>>},
     [](Element element, RecordOf<Member>& record) { return readNumber(element, record.*Member); }};
 
 /// A text, cut to the size of its field.
 template <auto Member>
-inline constexpr Getter<RecordOf<Member>> text{
+inline constexpr ReadRule<RecordOf<Member>> text{
     {.field = nameOf<Member>(), .conversion = "text", .capacity = std::extent_v<ValueOf<Member>>},
     [](Element element, RecordOf<Member>& record) {
         constexpr auto capacity = static_cast<int>(std::extent_v<ValueOf<Member>>);
@@ -53,25 +54,26 @@ bool readWord(Element element, Value& value, const Words& table) {
 }
 
 template <auto Member, const auto& Table>
-inline constexpr Getter<RecordOf<Member>> word{
+inline constexpr ReadRule<RecordOf<Member>> word{
     {.field = nameOf<Member>(), .conversion = "code of the word", .tableName = nameOfTable<Table>(), .table = Table},
     [](Element element, RecordOf<Member>& record) { return readWord(element, record.*Member, Table); }};
 
 /// The bits of words, added to those that are set already; an unknown word adds none.
 template <auto Member, const auto& Table>
-inline constexpr Getter<RecordOf<Member>> bits{{.field = nameOf<Member>(),
-                                                .conversion = "bit of the word, added",
-                                                .tableName = nameOfTable<Table>(),
-                                                .table = Table},
-                                               [](Element element, RecordOf<Member>& record) {
-                                                   const char* content = element.text();
-                                                   if (const auto bit = codeOf(Table, content)) record.*Member |= *bit;
-                                                   return content != nullptr;
-                                               }};
+inline constexpr ReadRule<RecordOf<Member>> bits{{.field = nameOf<Member>(),
+                                                  .conversion = "bit of the word, added",
+                                                  .tableName = nameOfTable<Table>(),
+                                                  .table = Table},
+                                                 [](Element element, RecordOf<Member>& record) {
+                                                     const char* content = element.text();
+                                                     if (const auto bit = codeOf(Table, content))
+                                                         record.*Member |= *bit;
+                                                     return content != nullptr;
+                                                 }};
 
 /// A truth word.
 template <auto Member>
-inline constexpr Getter<RecordOf<Member>> flag{
+inline constexpr ReadRule<RecordOf<Member>> flag{
     {nameOf<Member>(), "true for exactly `enabled` and `yes`"},
     [](Element element, RecordOf<Member>& record) { return readTruth(element, record.*Member); }};
 
@@ -91,7 +93,7 @@ enum class WithoutText { isFalse, isKept };
 
 /// A flag that is true for exactly one word. Without text it is stored as false, or kept as it was.
 template <auto Member, Literal Word, WithoutText Otherwise = WithoutText::isFalse>
-inline constexpr Getter<RecordOf<Member>> is{
+inline constexpr ReadRule<RecordOf<Member>> is{
     {.field = nameOf<Member>(), .conversion = "true for exactly", .argument = literal<Word>.characters},
     [](Element element, RecordOf<Member>& record) {
         bool& flag = record.*Member;
@@ -104,7 +106,7 @@ inline constexpr Getter<RecordOf<Member>> is{
 
 /// A flag that is false for exactly one word and true for any other. Without text it is kept as it was.
 template <auto Member, Literal Word>
-inline constexpr Getter<RecordOf<Member>> isNot{
+inline constexpr ReadRule<RecordOf<Member>> isNot{
     {.field = nameOf<Member>(), .conversion = "false for exactly", .argument = literal<Word>.characters},
     [](Element element, RecordOf<Member>& record) {
         bool& flag = record.*Member;
@@ -115,7 +117,7 @@ inline constexpr Getter<RecordOf<Member>> isNot{
 
 /// An integer attribute of the element; its text does not count.
 template <auto Member, Literal Name>
-inline constexpr Getter<RecordOf<Member>> attribute{
+inline constexpr ReadRule<RecordOf<Member>> attribute{
     {.field = nameOf<Member>(), .conversion = "attribute", .argument = literal<Name>.characters},
     [](Element element, RecordOf<Member>& record) {
         return readAttribute(element, literal<Name>.characters, record.*Member);
@@ -123,7 +125,7 @@ inline constexpr Getter<RecordOf<Member>> attribute{
 
 /// Six bytes.
 template <auto Member>
-inline constexpr Getter<RecordOf<Member>> hardwareAddress{
+inline constexpr ReadRule<RecordOf<Member>> hardwareAddress{
     {nameOf<Member>(), "hardware address"}, [](Element element, RecordOf<Member>& record) {
         static_assert(sizeof(ValueOf<Member>) == sizeof(convert::HardwareAddress));
         return readHardwareAddress(element, record.*Member);
@@ -142,7 +144,7 @@ bool readSetting(Element element, Setting& setting) {
 }
 
 template <auto Member>
-inline constexpr Getter<RecordOf<Member>> setting{
+inline constexpr ReadRule<RecordOf<Member>> setting{
     {nameOf<Member>(), std::is_same_v<ValueOf<Member>, Kavrin::_MinMaxVal>
                            ? "number, brought into the range of `min` and `max`"
                            : "number with a decimal point, brought into the range of `min` and `max`"},
@@ -150,30 +152,36 @@ inline constexpr Getter<RecordOf<Member>> setting{
 
 /// A bit set in hexadecimal behind a literal "0x"; any other text leaves it alone and counts as read.
 template <auto Member>
-inline constexpr Getter<RecordOf<Member>> prefixedHex{{nameOf<Member>(), "hexadecimal behind `0x`"},
-                                                      [](Element element, RecordOf<Member>& record) {
-                                                          const char* content = element.text();
-                                                          if (content != nullptr)
-                                                              convert::scanPrefixedHex(content, record.*Member);
-                                                          return content != nullptr;
-                                                      }};
+inline constexpr ReadRule<RecordOf<Member>> prefixedHex{{nameOf<Member>(), "hexadecimal behind `0x`"},
+                                                        [](Element element, RecordOf<Member>& record) {
+                                                            const char* content = element.text();
+                                                            if (content != nullptr)
+                                                                convert::scanPrefixedHex(content, record.*Member);
+                                                            return content != nullptr;
+                                                        }};
 
 /// A group of elements, walked with a table of its own into the same record.
 template <const auto& Table>
-inline constexpr Getter<RecordOfTable<Table>> group{
+inline constexpr ReadRule<RecordOfTable<Table>> group{
     {.field = {}, .conversion = "group", .group = described<Table>},
     [](Element element, RecordOfTable<Table>& record) { return walk(element, record, Table); }};
 
 /// A group of elements, walked with a table of its own into a record inside the record.
 template <auto Member, const auto& Table>
-inline constexpr Getter<RecordOf<Member>> part{
+inline constexpr ReadRule<RecordOf<Member>> part{
     {.field = nameOf<Member>(), .conversion = "group", .group = described<Table>},
     [](Element element, RecordOf<Member>& record) { return walk(element, record.*Member, Table); }};
 
 /// A number that is all that is read: the record is the number.
 template <class Number>
-inline constexpr Getter<Number> itself{{{}, numberKind<Number>},
-                                       [](Element element, Number& number) { return readNumber(element, number); }};
+inline constexpr ReadRule<Number> itself{{{}, numberKind<Number>},
+                                         [](Element element, Number& number) { return readNumber(element, number); }};
+
+/// A word that is all that is read: the record is its code.
+template <const auto& Table>
+inline constexpr ReadRule<int> wordItself{
+    {.field = {}, .conversion = "code of the word", .tableName = nameOfTable<Table>(), .table = Table},
+    [](Element element, int& code) { return readWord(element, code, Table); }};
 
 /// A list being filled: entries of the host's, as many as it has room for.
 template <class Entry>
@@ -186,23 +194,23 @@ struct List {
 /// Reads one more entry of a list. When there is no room it is skipped: nothing is written, and the result stays that
 /// of the last entry.
 template <class Entry>
-bool readNext(Element element, List<Entry>& list, const Getter<Entry>& getter) {
-    if (list.filled < list.entries.size()) list.result = getter.read(element, list.entries[list.filled++]);
+bool readNext(Element element, List<Entry>& list, const ReadRule<Entry>& rule) {
+    if (list.filled < list.entries.size()) list.result = rule.read(element, list.entries[list.filled++]);
     return list.result;
 }
 
 /// An entry that is a group of elements, walked with a table of its own.
 template <const auto& Table>
-inline constexpr Getter<List<RecordOfTable<Table>>> entry{
+inline constexpr ReadRule<List<RecordOfTable<Table>>> entry{
     {.field = {}, .conversion = "entry of a list", .group = described<Table>},
     [](Element element, List<RecordOfTable<Table>>& list) { return readNext(element, list, group<Table>); }};
 
 template <class Record>
-Record recordOf(const Getter<Record>&);
+Record recordOf(const ReadRule<Record>&);
 
-/// An entry that has no elements of its own: the getter reads its text.
+/// An entry that has no elements of its own: the rule reads its text.
 template <const auto& Text>
-inline constexpr Getter<List<RecordOfTable<Text>>> each{
+inline constexpr ReadRule<List<RecordOfTable<Text>>> each{
     Text.description, [](Element element, List<RecordOfTable<Text>>& list) { return readNext(element, list, Text); }};
 
 }  // namespace kvjxml

@@ -1,4 +1,4 @@
-// Each writer of a section by itself: what it adds to an element of the host's, or fills it with.
+// Each composer of a section by itself: what it adds to an element of the host's, or fills it with.
 #include <gtest/gtest.h>
 
 #include <climits>
@@ -27,8 +27,8 @@ std::string expectedAt(const std::string& document, std::string_view path) {
     return written(*at(xml.root(), path));
 }
 
-/// A writer that adds an element to the one that it is given, or fills that.
-struct Writer {
+/// A composer that adds an element to the one that it is given, or fills that.
+struct SectionComposer {
     const char* name;
     const char* document;  ///< that has what is expected
     const char* path;      ///< where in it
@@ -39,7 +39,7 @@ using S = KVJSetConfig;
 using E = TiXmlElement;
 using Cfg = _KVConfiguration;
 
-const std::vector<Writer> adding = {
+const std::vector<SectionComposer> adding = {
     {"addNetworkParams", "ethernet", "ethernet", [](S& s, E* e, Cfg& c) { return s.addNetworkParams(e, c); }},
     {"addWirelessParams", "wireless", "ethernet", [](S& s, E* e, Cfg& c) { return s.addWirelessParams(e, c); }},
     {"addOCPLanguage", "ocp_language", "ocp_language",
@@ -78,7 +78,7 @@ const std::vector<Writer> adding = {
      [](S& s, E* e, Cfg& c) { return s.addInternalEncoder(e, c.internalEncoder); }},
 };
 
-const std::vector<Writer> filling = {
+const std::vector<SectionComposer> filling = {
     {"addNetworkParamsOfARecord", "ethernet", "ethernet",
      [](S& s, E* e, Cfg& c) { return s.addNetworkParams(e, c.ethernet); }},
     {"addWirelessParamsOfARecord", "wireless", "ethernet",
@@ -92,24 +92,24 @@ const std::vector<Writer> filling = {
      [](S& s, E* e, Cfg& c) { return s.addLaminateInfo(e, c.lamination.bottomLaminate, false); }},
 };
 
-class AnyWriter : public testing::TestWithParam<Writer> {
+class AnySection : public testing::TestWithParam<SectionComposer> {
 protected:
     KVJSetConfig composer;
     _KVConfiguration cfg;
 
-    AnyWriter() { fill(cfg); }
+    AnySection() { fill(cfg); }
     bool write(TiXmlElement* element) { return GetParam().write(composer, element, cfg); }
     static std::string expected() { return expectedAt(GetParam().document, GetParam().path); }
 };
 
-TEST_P(AnyWriter, WithoutAnElementIsFalse) {
+TEST_P(AnySection, WithoutAnElementIsFalse) {
     EXPECT_FALSE(write(nullptr));
     EXPECT_EQ(composer.FirstChild(), nullptr);
 }
 
-class AddingWriter : public AnyWriter {};
+class AddingSection : public AnySection {};
 
-TEST_P(AddingWriter, AddsItsElementAsTheLast) {
+TEST_P(AddingSection, AddsItsElementAsTheLast) {
     TiXmlElement under("under");
     under.LinkEndChild(new TiXmlElement("first"));
     EXPECT_TRUE(write(&under));
@@ -118,26 +118,26 @@ TEST_P(AddingWriter, AddsItsElementAsTheLast) {
     EXPECT_EQ(written(under), element("under", "<first />" + expected() + expected()));
 }
 
-class FillingWriter : public AnyWriter {};
+class FillingSection : public AnySection {};
 
-TEST_P(FillingWriter, FillsTheElementWhateverItsName) {
+TEST_P(FillingSection, FillsTheElementWhateverItsName) {
     const std::string_view path = GetParam().path;
     TiXmlElement given(std::string(path.substr(path.rfind('/') + 1)).c_str());
     EXPECT_TRUE(write(&given));
     EXPECT_EQ(written(given), expected());
 }
 
-std::string nameOfWriter(const testing::TestParamInfo<Writer>& writer) { return writer.param.name; }
-void PrintTo(const Writer& writer, std::ostream* out) { *out << writer.name; }
+std::string nameOfComposer(const testing::TestParamInfo<SectionComposer>& composer) { return composer.param.name; }
+void PrintTo(const SectionComposer& composer, std::ostream* out) { *out << composer.name; }
 
-INSTANTIATE_TEST_SUITE_P(Adding, AnyWriter, testing::ValuesIn(adding), nameOfWriter);
-INSTANTIATE_TEST_SUITE_P(Filling, AnyWriter, testing::ValuesIn(filling), nameOfWriter);
-INSTANTIATE_TEST_SUITE_P(Writers, AddingWriter, testing::ValuesIn(adding), nameOfWriter);
-INSTANTIATE_TEST_SUITE_P(Writers, FillingWriter, testing::ValuesIn(filling), nameOfWriter);
+INSTANTIATE_TEST_SUITE_P(Adding, AnySection, testing::ValuesIn(adding), nameOfComposer);
+INSTANTIATE_TEST_SUITE_P(Filling, AnySection, testing::ValuesIn(filling), nameOfComposer);
+INSTANTIATE_TEST_SUITE_P(Sections, AddingSection, testing::ValuesIn(adding), nameOfComposer);
+INSTANTIATE_TEST_SUITE_P(Sections, FillingSection, testing::ValuesIn(filling), nameOfComposer);
 
-// ---- What a writer writes, with the composer and the element given by the test ----
+// ---- What a composer writes, with the composer and the element given by the test ----
 
-/// The content that a writer adds to an element, and its result.
+/// The content that a composer adds to an element, and its result.
 struct Written {
     bool result;
     std::string content;

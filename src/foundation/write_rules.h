@@ -1,7 +1,7 @@
-/// @file writers.h
-/// The conversions that the rows of a request's table are made with: each makes the writer of one member of a record.
-#ifndef KVJXML_FOUNDATION_WRITERS_H
-#define KVJXML_FOUNDATION_WRITERS_H
+/// @file write_rules.h
+/// The rules that the rows of a request's table are made with: each says how one member of a record is written.
+#ifndef KVJXML_FOUNDATION_WRITE_RULES_H
+#define KVJXML_FOUNDATION_WRITE_RULES_H
 
 #include <cstring>
 #include <string>
@@ -10,8 +10,8 @@
 #include "FoundationRecords.h"
 #include "foundation/compose.h"
 #include "foundation/convert.h"
-#include "foundation/getters.h"
 #include "foundation/member.h"
+#include "foundation/read_rules.h"
 
 namespace kvjxml {
 
@@ -32,7 +32,7 @@ namespace kvjxml::put {
 
 /// A decimal number.
 template <auto Member>
-inline constexpr Writer<RecordOf<Member>> number{
+inline constexpr WriteRule<RecordOf<Member>> number{
     {nameOf<Member>(), "number"},
     [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
         if constexpr (std::is_unsigned_v<ValueOf<Member>>) {
@@ -44,7 +44,7 @@ inline constexpr Writer<RecordOf<Member>> number{
 
 /// A number with four decimals.
 template <auto Member>
-inline constexpr Writer<RecordOf<Member>> decimal{
+inline constexpr WriteRule<RecordOf<Member>> decimal{
     {nameOf<Member>(), "number with four decimals"},
     [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
         return addTag(parent, name, convert::fromDouble(record.*Member, 4).c_str());
@@ -52,7 +52,7 @@ inline constexpr Writer<RecordOf<Member>> decimal{
 
 /// A text, which need not be terminated in its field.
 template <auto Member>
-inline constexpr Writer<RecordOf<Member>> text{
+inline constexpr WriteRule<RecordOf<Member>> text{
     {nameOf<Member>(), "text"},
     [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
         const auto& field = record.*Member;
@@ -61,7 +61,7 @@ inline constexpr Writer<RecordOf<Member>> text{
 
 /// One of two words.
 template <auto Member, Literal True, Literal False>
-inline constexpr Writer<RecordOf<Member>> either{
+inline constexpr WriteRule<RecordOf<Member>> either{
     {.field = nameOf<Member>(),
      .conversion = "when true",
      .argument = literal<True>.characters,
@@ -77,7 +77,7 @@ inline constexpr const auto& enabledOrNot = either<Member, "enabled", "disabled"
 
 /// The word of a code; a code without one is written as `Otherwise`.
 template <auto Member, const auto& Table, Literal Otherwise = "">
-inline constexpr Writer<RecordOf<Member>> word{
+inline constexpr WriteRule<RecordOf<Member>> word{
     {.field = nameOf<Member>(),
      .conversion = "word of the code",
      .otherwise = literal<Otherwise>.characters,
@@ -87,9 +87,17 @@ inline constexpr Writer<RecordOf<Member>> word{
         return addTag(parent, name, wordOf(Table, record.*Member, literal<Otherwise>.characters));
     }};
 
+/// The word of a code that is all that is written: the record is the code.
+template <const auto& Table>
+inline constexpr WriteRule<int> wordItself{
+    {.field = {}, .conversion = "word of the code", .tableName = nameOfTable<Table>(), .table = Table},
+    [](TiXmlElement* parent, const char* name, const int& code, const Selection&) {
+        return addTag(parent, name, wordOf(Table, code, ""));
+    }};
+
 /// A setting with its range.
 template <auto Member>
-inline constexpr Writer<RecordOf<Member>> setting{
+inline constexpr WriteRule<RecordOf<Member>> setting{
     {nameOf<Member>(), std::is_same_v<ValueOf<Member>, Kavrin::_MinMaxVal>
                            ? "attributes `min` and `max`, and the value"
                            : "attributes `min` and `max`, and the maximum once more, with two decimals"},
@@ -99,23 +107,40 @@ inline constexpr Writer<RecordOf<Member>> setting{
 
 /// Six bytes, "00:1a:2b:3c:4d:5e".
 template <auto Member>
-inline constexpr Writer<RecordOf<Member>> hardwareAddress{
+inline constexpr WriteRule<RecordOf<Member>> hardwareAddress{
     {nameOf<Member>(), "hardware address"},
     [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
         static_assert(sizeof(ValueOf<Member>) == sizeof(convert::HardwareAddress));
         return addTag(parent, name, convert::fromHardwareAddress(record.*Member).c_str());
     }};
 
+/// "192.168.1.20"
+template <auto Member>
+inline constexpr WriteRule<RecordOf<Member>> ipAddress{
+    {nameOf<Member>(), "IPv4 address"},
+    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
+        return addTag(parent, name, convert::fromIpAddress(record.*Member).c_str());
+    }};
+
+/// "0x0a"
+template <auto Member>
+inline constexpr WriteRule<RecordOf<Member>> prefixedHex{
+    {nameOf<Member>(), "hexadecimal behind `0x`, at least two digits"},
+    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
+        return addTag(parent, name, convert::fromPrefixedHex(record.*Member).c_str());
+    }};
+
 /// A word that is always the same.
 template <class Record, Literal Word>
-inline constexpr Writer<Record> constant{{.field = {}, .conversion = "always", .argument = literal<Word>.characters},
-                                         [](TiXmlElement* parent, const char* name, const Record&, const Selection&) {
-                                             return addTag(parent, name, literal<Word>.characters);
-                                         }};
+inline constexpr WriteRule<Record> constant{
+    {.field = {}, .conversion = "always", .argument = literal<Word>.characters},
+    [](TiXmlElement* parent, const char* name, const Record&, const Selection&) {
+        return addTag(parent, name, literal<Word>.characters);
+    }};
 
 /// An element for each bit of a number that has a word, in the order of the words.
 template <auto Member, const auto& Table>
-inline constexpr Writer<RecordOf<Member>> bits{
+inline constexpr WriteRule<RecordOf<Member>> bits{
     {.field = nameOf<Member>(),
      .conversion = "an element for each bit",
      .tableName = nameOfTable<Table>(),
@@ -130,7 +155,7 @@ inline constexpr Writer<RecordOf<Member>> bits{
 
 /// A list: an element `EntryName` for each entry of an array.
 template <auto Count, auto Array, Literal EntryName, const auto& Entry>
-inline constexpr Writer<RecordOf<Array>> list{
+inline constexpr WriteRule<RecordOf<Array>> list{
     {.field = nameOf<Array>(),
      .conversion = "a list of",
      .argument = literal<EntryName>.characters,
@@ -141,7 +166,7 @@ inline constexpr Writer<RecordOf<Array>> list{
 
 /// A group of elements, composed with a table of its own from the same record.
 template <const auto& Table>
-inline constexpr Writer<RecordOfTable<Table>> group{
+inline constexpr WriteRule<RecordOfTable<Table>> group{
     {.field = {}, .conversion = "group", .group = described<Table>},
     [](TiXmlElement* parent, const char* name, const RecordOfTable<Table>& record, const Selection& selection) {
         return addGroup(parent, name, record, Table, selection);
@@ -149,7 +174,7 @@ inline constexpr Writer<RecordOfTable<Table>> group{
 
 /// A group of elements, composed with a table of its own from a record inside the record.
 template <auto Member, const auto& Table>
-inline constexpr Writer<RecordOf<Member>> part{
+inline constexpr WriteRule<RecordOf<Member>> part{
     {.field = nameOf<Member>(), .conversion = "group", .group = described<Table>},
     [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection& selection) {
         return addGroup(parent, name, record.*Member, Table, selection);

@@ -1,0 +1,21 @@
+/// @file configuration/ribbon_name.h
+/// The name of a ribbon or film as the configuration has it.
+#ifndef KVJXML_CONFIGURATION_RIBBON_NAME_H
+#define KVJXML_CONFIGURATION_RIBBON_NAME_H
+
+#include <cstddef>
+
+#include "foundation/element.h"
+
+namespace kvjxml::configuration {
+
+/// How much of a ribbon's name is read, with its terminator.
+inline constexpr std::size_t ribbonNameCapacity = 32;
+
+/// A ribbon's name, without the word that all one-coloured ribbons begin with. Hosts watch the two lines that go to the
+/// standard error stream for it, often on a terminal.
+bool readRibbonName(Element element, char (&description)[64]);
+
+}  // namespace kvjxml::configuration
+
+#endif
