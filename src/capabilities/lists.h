@@ -34,7 +34,7 @@ inline constexpr ReadRule<Reading> plain{
 /// child elements, whatever their names; else the largest such number, for the host to come again with.
 template <auto Count, auto Array, const auto& Table>
 inline constexpr ReadRule<Reading> list{
-    {.field = nameOf<Array>(), .conversion = "list", .group = described<Table>}, [](Element section, Reading& reading) {
+    {.field = fieldOf<Array>, .kind = Kind::list, .group = described<Table>}, [](Element section, Reading& reading) {
         if (!section) return false;
         const std::size_t needed = countChildren(section);
         auto* const array = reading.caps.*Array;

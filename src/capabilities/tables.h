@@ -66,16 +66,15 @@ inline constexpr WordTable sharpeningLevels({{"off", 0x1}, {"normal", 0x2}, {"hi
 
 /// Device ports all go to the first entry: hosts know a printer by its last one.
 template <const auto& Table>
-inline constexpr ReadRule<List<RecordOfTable<Table>>> firstEntry{
-    {.field = {}, .conversion = "the first entry of a list, each time", .group = described<Table>},
-    [](Element element, List<RecordOfTable<Table>>& list) {
-        list.filled = 0;
-        return entry<Table>.read(element, list);
-    }};
+inline constexpr ReadRule<List<RecordOfTable<Table>>> firstEntry{{.kind = Kind::firstEntry, .group = described<Table>},
+                                                                 [](Element element, List<RecordOfTable<Table>>& list) {
+                                                                     list.filled = 0;
+                                                                     return entry<Table>.read(element, list);
+                                                                 }};
 
 /// The print system that the printer expects is the one that it is told to use, not the one that it reported.
 inline constexpr WriteRule<_Capabilities> requestedPrintSystem{
-    {.field = {}, .conversion = "`direct_to_card` or `retransfer`, as the composer is told"},
+    {.kind = Kind::toldWord, .word = "direct_to_card", .otherWord = "retransfer"},
     [](TiXmlElement* parent, const char* name, const _Capabilities&, const Selection& selection) {
         return addTag(parent, name, wordOf(printSystemsWritten, selection.directToCard ? 1 : 0));
     }};
@@ -83,7 +82,7 @@ inline constexpr WriteRule<_Capabilities> requestedPrintSystem{
 /// The last word that the printer was told of its laminator. In the whole description it expects that one in the
 /// magnetic encoder's elements as well; it takes a head type only by itself.
 inline constexpr WriteRule<_Capabilities> laminatorWord{
-    {.field = {}, .conversion = "the word of `laminator_type`; without a laminator `notpresent`"},
+    {.kind = Kind::laminatorWord, .words = named<laminatorTypesWritten>, .otherWord = "notpresent"},
     [](TiXmlElement* parent, const char* name, const _Capabilities& caps, const Selection&) {
         return addTag(parent, name,
                       caps.laminator ? wordOf(laminatorTypesWritten, caps.laminatorType, "") : "notpresent");
@@ -346,7 +345,7 @@ inline constexpr auto encoderAloneTags = tags<_InternalEncoderInfo>({
 });
 
 inline constexpr WriteRule<_InternalEncoderInfo> encoderAloneGroup{
-    {.field = {}, .conversion = "group", .group = described<encoderAloneTags>},
+    {.kind = Kind::group, .group = described<encoderAloneTags>},
     [](TiXmlElement* parent, const char* name, const _InternalEncoderInfo& info, const Selection&) {
         TiXmlElement* element = addTag(parent, name);
         // Written even when there is nothing to say in it.

@@ -26,7 +26,10 @@ inline constexpr WordTable usbSpeeds({{"full", usbSpeedFull}, {"high", usbSpeedH
 
 /// The one word that no text stands for as well.
 inline constexpr ReadRule<_KVConfiguration> errorControl{
-    {.field = "errorControl", .conversion = "code of the word", .tableName = "errorControls", .table = errorControls},
+    {.field = fieldOf<&_KVConfiguration::errorControl>,
+     .kind = Kind::word,
+     .words = named<errorControls>,
+     .withoutText = WithoutText::isOther},
     [](Element element, _KVConfiguration& configuration) {
         const char* content = element.text();
         configuration.errorControl = static_cast<ErrorControl>(anyCodeOf(errorControls, content));
@@ -35,10 +38,10 @@ inline constexpr ReadRule<_KVConfiguration> errorControl{
 
 /// A second contactless encoder, and any further one, has a field of its own.
 inline constexpr ReadRule<_InternalEncoderInfo> contactlessEncoder{
-    {.field = "contactlessEncoder",
-     .conversion = "code of the word; when that is not 0, to `contactlessEncoder2`",
-     .tableName = "contactlessEncoders",
-     .table = contactlessEncoders},
+    {.field = fieldOf<&_InternalEncoderInfo::contactlessEncoder>,
+     .kind = Kind::wordOrNext,
+     .words = named<contactlessEncoders>,
+     .otherField = fieldOf<&_InternalEncoderInfo::contactlessEncoder2>},
     [](Element element, _InternalEncoderInfo& info) {
         using Info = _InternalEncoderInfo;
         return info.contactlessEncoder == 0 ? word<&Info::contactlessEncoder, contactlessEncoders>.read(element, info)

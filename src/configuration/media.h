@@ -18,7 +18,10 @@ using namespace Kavrin;  // the records
 // ---- Ribbon and film ----
 
 inline constexpr ReadRule<_RibbonInfo> ribbonName{
-    {.field = "description", .conversion = "text without a leading `MONO`", .capacity = ribbonNameCapacity},
+    {.field = fieldOf<&_RibbonInfo::description>,
+     .kind = Kind::textWithoutWord,
+     .capacity = ribbonNameCapacity,
+     .word = "MONO"},
     [](Element element, _RibbonInfo& ribbon) { return readRibbonName(element, ribbon.description); }};
 
 inline constexpr WordTable transferTypes{0, {{"single", 1}, {"dual", 2}}};
@@ -98,8 +101,10 @@ inline constexpr auto cardTags = tags<_CustomCardInfo>({
 
 /// One of the two custom cards, by its description.
 inline constexpr ReadRule<_KVConfiguration> customCard{
-    {.field = "customCard1",
-     .conversion = "the last with the description `Custom 1`; the last other one to `customCard2`",
+    {.field = fieldOf<&_KVConfiguration::customCard1>,
+     .kind = Kind::byDescription,
+     .word = "Custom 1",
+     .otherField = fieldOf<&_KVConfiguration::customCard2>,
      .group = described<card>},
     [](Element element, _KVConfiguration& configuration) {
         _CustomCardInfo info{};

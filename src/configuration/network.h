@@ -64,7 +64,7 @@ inline bool readIpAddress(Element element, unsigned long& address) {
 
 template <auto Member>
 inline constexpr ReadRule<RecordOf<Member>> ipAddress{
-    {nameOf<Member>(), "IPv4 address"},
+    {.field = fieldOf<Member>, .kind = Kind::ipAddress, .withoutText = WithoutText::isZero},
     [](Element element, RecordOf<Member>& record) { return readIpAddress(element, record.*Member); }};
 
 /// A network whose addresses the host does not want to touch keeps them when they are not written.

@@ -1,6 +1,6 @@
 /// @file compose.h
 /// A request is a table too: one row per element, saying its name, how it is written and when. One loop writes them
-/// all, in the table's order. The conversions that rows are made with are in write_rules.h.
+/// all, in the table's order. The rules that rows are made with are in write_rules.h.
 ///
 ///     constexpr auto cardTags = tags<_CardInfo>({
 ///         {"transfer_temps",        put::part<&_CardInfo::transferTemps, transferTempTags>, withTransfer},

@@ -20,23 +20,34 @@ using RecordOf = typename MemberOf<decltype(Member)>::Record;
 template <auto Member>
 using ValueOf = typename MemberOf<decltype(Member)>::Value;
 
-/// The last name in what a compiler calls a function template's argument, "Argument = &Record::name".
-consteval std::string_view lastNameOf(std::string_view function) {
-    function.remove_prefix(function.find("Argument = "));
-    function = function.substr(0, function.find_first_of(";]"));
-    return function.substr(function.find_last_of(":&= ") + 1);
+/// A function template's argument as a compiler writes it, "Argument = &Record::name".
+consteval std::string_view argumentOf(std::string_view function) {
+    constexpr std::string_view before = "Argument = ";
+    function.remove_prefix(function.find(before) + before.size());
+    return function.substr(0, function.find_first_of(";]"));
 }
+
+/// The last name of a qualified one.
+consteval std::string_view lastOf(std::string_view name) { return name.substr(name.find_last_of(":&= ") + 1); }
 
 /// The name of a member.
 template <auto Argument>
 consteval std::string_view nameOf() {
-    return lastNameOf(__PRETTY_FUNCTION__);
+    return lastOf(argumentOf(__PRETTY_FUNCTION__));
 }
 
-/// The name of a table.
+/// The name of a record.
+template <class Argument>
+consteval std::string_view nameOfType() {
+    return lastOf(argumentOf(__PRETTY_FUNCTION__));
+}
+
+/// The name of a table, with the namespaces that it is in below the library's own.
 template <const auto& Argument>
 consteval std::string_view nameOfTable() {
-    return lastNameOf(__PRETTY_FUNCTION__);
+    constexpr std::string_view library = "kvjxml::";
+    const std::string_view name = argumentOf(__PRETTY_FUNCTION__);
+    return name.starts_with(library) ? name.substr(library.size()) : name;
 }
 
 /// The name of a type, with its namespace.

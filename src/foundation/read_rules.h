@@ -19,25 +19,25 @@
 
 namespace kvjxml {
 
+/// The integer that readNumber makes of a text.
 template <class Value>
-inline constexpr std::string_view numberKind = "number";
+inline constexpr Number numberRead = numberOf<Value>;
 template <>
-inline constexpr std::string_view numberKind<unsigned short> = "number, its low 16 bits";
-template <>
-inline constexpr std::string_view numberKind<unsigned long> = "number, its low 16 bits";
-template <>
-inline constexpr std::string_view numberKind<float> = "number with a decimal point";
+inline constexpr Number numberRead<unsigned long> = numberOf<unsigned short>;
+
+template <class Value>
+inline constexpr Kind kindOfNumber = std::is_floating_point_v<Value> ? Kind::decimal : Kind::number;
 
 /// A number of the member's type.
 template <auto Member>
 inline constexpr ReadRule<RecordOf<Member>> number{
-    {nameOf<Member>(), numberKind<ValueOf<Member>>},
+    {.field = fieldOf<Member>, .kind = kindOfNumber<ValueOf<Member>>, .number = numberRead<ValueOf<Member>>},
     [](Element element, RecordOf<Member>& record) { return readNumber(element, record.*Member); }};
 
 /// A text, cut to the size of its field.
 template <auto Member>
 inline constexpr ReadRule<RecordOf<Member>> text{
-    {.field = nameOf<Member>(), .conversion = "text", .capacity = std::extent_v<ValueOf<Member>>},
+    {.field = fieldOf<Member>, .kind = Kind::text, .capacity = std::extent_v<ValueOf<Member>>},
     [](Element element, RecordOf<Member>& record) {
         constexpr auto capacity = static_cast<int>(std::extent_v<ValueOf<Member>>);
         return readText(element, record.*Member, capacity);
@@ -55,15 +55,12 @@ bool readWord(Element element, Value& value, const Words& table) {
 
 template <auto Member, const auto& Table>
 inline constexpr ReadRule<RecordOf<Member>> word{
-    {.field = nameOf<Member>(), .conversion = "code of the word", .tableName = nameOfTable<Table>(), .table = Table},
+    {.field = fieldOf<Member>, .kind = Kind::word, .words = named<Table>},
     [](Element element, RecordOf<Member>& record) { return readWord(element, record.*Member, Table); }};
 
 /// The bits of words, added to those that are set already; an unknown word adds none.
 template <auto Member, const auto& Table>
-inline constexpr ReadRule<RecordOf<Member>> bits{{.field = nameOf<Member>(),
-                                                  .conversion = "bit of the word, added",
-                                                  .tableName = nameOfTable<Table>(),
-                                                  .table = Table},
+inline constexpr ReadRule<RecordOf<Member>> bits{{.field = fieldOf<Member>, .kind = Kind::bits, .words = named<Table>},
                                                  [](Element element, RecordOf<Member>& record) {
                                                      const char* content = element.text();
                                                      if (const auto bit = codeOf(Table, content))
@@ -74,7 +71,9 @@ inline constexpr ReadRule<RecordOf<Member>> bits{{.field = nameOf<Member>(),
 /// A truth word.
 template <auto Member>
 inline constexpr ReadRule<RecordOf<Member>> flag{
-    {nameOf<Member>(), "true for exactly `enabled` and `yes`"},
+    {.field = fieldOf<Member>,
+     .kind = Kind::flag,
+     .withoutText = std::is_same_v<ValueOf<Member>, bool> ? WithoutText::isFalse : WithoutText::isKept},
     [](Element element, RecordOf<Member>& record) { return readTruth(element, record.*Member); }};
 
 /// A word as a template argument.
@@ -89,12 +88,10 @@ struct Literal {
 template <Literal Word>
 inline constexpr Literal literal = Word;
 
-enum class WithoutText { isFalse, isKept };
-
 /// A flag that is true for exactly one word. Without text it is stored as false, or kept as it was.
 template <auto Member, Literal Word, WithoutText Otherwise = WithoutText::isFalse>
 inline constexpr ReadRule<RecordOf<Member>> is{
-    {.field = nameOf<Member>(), .conversion = "true for exactly", .argument = literal<Word>.characters},
+    {.field = fieldOf<Member>, .kind = Kind::isWord, .word = literal<Word>.characters, .withoutText = Otherwise},
     [](Element element, RecordOf<Member>& record) {
         bool& flag = record.*Member;
         const char* content = element.text();
@@ -107,7 +104,7 @@ inline constexpr ReadRule<RecordOf<Member>> is{
 /// A flag that is false for exactly one word and true for any other. Without text it is kept as it was.
 template <auto Member, Literal Word>
 inline constexpr ReadRule<RecordOf<Member>> isNot{
-    {.field = nameOf<Member>(), .conversion = "false for exactly", .argument = literal<Word>.characters},
+    {.field = fieldOf<Member>, .kind = Kind::isNotWord, .word = literal<Word>.characters},
     [](Element element, RecordOf<Member>& record) {
         bool& flag = record.*Member;
         const char* content = element.text();
@@ -117,16 +114,19 @@ inline constexpr ReadRule<RecordOf<Member>> isNot{
 
 /// An integer attribute of the element; its text does not count.
 template <auto Member, Literal Name>
-inline constexpr ReadRule<RecordOf<Member>> attribute{
-    {.field = nameOf<Member>(), .conversion = "attribute", .argument = literal<Name>.characters},
-    [](Element element, RecordOf<Member>& record) {
-        return readAttribute(element, literal<Name>.characters, record.*Member);
-    }};
+inline constexpr ReadRule<RecordOf<Member>> attribute{{.field = fieldOf<Member>,
+                                                       .kind = Kind::attribute,
+                                                       .number = {.onlyNumbers = true},
+                                                       .word = literal<Name>.characters},
+                                                      [](Element element, RecordOf<Member>& record) {
+                                                          return readAttribute(element, literal<Name>.characters,
+                                                                               record.*Member);
+                                                      }};
 
 /// Six bytes.
 template <auto Member>
 inline constexpr ReadRule<RecordOf<Member>> hardwareAddress{
-    {nameOf<Member>(), "hardware address"}, [](Element element, RecordOf<Member>& record) {
+    {.field = fieldOf<Member>, .kind = Kind::hardwareAddress}, [](Element element, RecordOf<Member>& record) {
         static_assert(sizeof(ValueOf<Member>) == sizeof(convert::HardwareAddress));
         return readHardwareAddress(element, record.*Member);
     }};
@@ -143,45 +143,48 @@ bool readSetting(Element element, Setting& setting) {
     return result;
 }
 
+template <class Setting>
+inline constexpr Kind kindOfSetting =
+    std::is_same_v<Setting, Kavrin::_MinMaxVal> ? Kind::setting : Kind::decimalSetting;
+
 template <auto Member>
 inline constexpr ReadRule<RecordOf<Member>> setting{
-    {nameOf<Member>(), std::is_same_v<ValueOf<Member>, Kavrin::_MinMaxVal>
-                           ? "number, brought into the range of `min` and `max`"
-                           : "number with a decimal point, brought into the range of `min` and `max`"},
+    {.field = fieldOf<Member>, .kind = kindOfSetting<ValueOf<Member>>},
     [](Element element, RecordOf<Member>& record) { return readSetting(element, record.*Member); }};
 
 /// A bit set in hexadecimal behind a literal "0x"; any other text leaves it alone and counts as read.
 template <auto Member>
-inline constexpr ReadRule<RecordOf<Member>> prefixedHex{{nameOf<Member>(), "hexadecimal behind `0x`"},
-                                                        [](Element element, RecordOf<Member>& record) {
-                                                            const char* content = element.text();
-                                                            if (content != nullptr)
-                                                                convert::scanPrefixedHex(content, record.*Member);
-                                                            return content != nullptr;
-                                                        }};
+inline constexpr ReadRule<RecordOf<Member>> prefixedHex{
+    {.field = fieldOf<Member>,
+     .kind = Kind::number,
+     .number = {.isSigned = false, .base = Base::hexadecimal, .onlyNumbers = true}},
+    [](Element element, RecordOf<Member>& record) {
+        const char* content = element.text();
+        if (content != nullptr) convert::scanPrefixedHex(content, record.*Member);
+        return content != nullptr;
+    }};
 
 /// A group of elements, walked with a table of its own into the same record.
 template <const auto& Table>
 inline constexpr ReadRule<RecordOfTable<Table>> group{
-    {.field = {}, .conversion = "group", .group = described<Table>},
+    {.kind = Kind::group, .group = described<Table>},
     [](Element element, RecordOfTable<Table>& record) { return walk(element, record, Table); }};
 
 /// A group of elements, walked with a table of its own into a record inside the record.
 template <auto Member, const auto& Table>
 inline constexpr ReadRule<RecordOf<Member>> part{
-    {.field = nameOf<Member>(), .conversion = "group", .group = described<Table>},
+    {.field = fieldOf<Member>, .kind = Kind::part, .group = described<Table>},
     [](Element element, RecordOf<Member>& record) { return walk(element, record.*Member, Table); }};
 
 /// A number that is all that is read: the record is the number.
-template <class Number>
-inline constexpr ReadRule<Number> itself{{{}, numberKind<Number>},
-                                         [](Element element, Number& number) { return readNumber(element, number); }};
+template <class Value>
+inline constexpr ReadRule<Value> itself{{.kind = kindOfNumber<Value>, .number = numberRead<Value>},
+                                        [](Element element, Value& value) { return readNumber(element, value); }};
 
 /// A word that is all that is read: the record is its code.
 template <const auto& Table>
-inline constexpr ReadRule<int> wordItself{
-    {.field = {}, .conversion = "code of the word", .tableName = nameOfTable<Table>(), .table = Table},
-    [](Element element, int& code) { return readWord(element, code, Table); }};
+inline constexpr ReadRule<int> wordItself{{.kind = Kind::word, .words = named<Table>},
+                                          [](Element element, int& code) { return readWord(element, code, Table); }};
 
 /// A list being filled: entries of the host's, as many as it has room for.
 template <class Entry>
@@ -202,7 +205,7 @@ bool readNext(Element element, List<Entry>& list, const ReadRule<Entry>& rule) {
 /// An entry that is a group of elements, walked with a table of its own.
 template <const auto& Table>
 inline constexpr ReadRule<List<RecordOfTable<Table>>> entry{
-    {.field = {}, .conversion = "entry of a list", .group = described<Table>},
+    {.kind = Kind::entry, .group = described<Table>},
     [](Element element, List<RecordOfTable<Table>>& list) { return readNext(element, list, group<Table>); }};
 
 template <class Record>

@@ -1,6 +1,6 @@
 /// @file rows.h
 /// A message is a table: one row per element, saying its name and how its content gets into the record. One loop walks
-/// them all. The conversions that rows are made with are in read_rules.h.
+/// them all. The rules that rows are made with are in read_rules.h.
 ///
 ///     constexpr auto jobStatus = rows<KVJobStatus>({
 ///         {"uuid",               text<&KVJobStatus::uuid>},
@@ -8,7 +8,7 @@
 ///         {"status_printing",    group<statusPrinting>},
 ///     });
 ///
-/// A row does not compile when its conversion does not fit the member, when the member is another record's, or when its
+/// A row does not compile when its rule does not fit the member, when the member is another record's, or when its
 /// name stands in the table already.
 #ifndef KVJXML_FOUNDATION_ROWS_H
 #define KVJXML_FOUNDATION_ROWS_H
@@ -16,40 +16,18 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <span>
 #include <string_view>
 
 #include "foundation/element.h"
-#include "foundation/words.h"
+#include "foundation/kinds.h"
 
 namespace kvjxml {
-
-struct DescribedRow;
-
-/// What the reference says of a row; reading does not need it.
-struct Description {
-    std::string_view field;                 ///< the record's field; empty for a group in the same record
-    std::string_view conversion;            ///< in words
-    std::string_view argument{};            ///< the word that a flag is compared with or written as
-    std::string_view otherwise{};           ///< the word that any other value is written as
-    std::size_t capacity{};                 ///< the size of a text field in bytes
-    std::string_view tableName{};           ///< of the table that words are looked up in
-    Words table{};                          ///< that table
-    std::span<const DescribedRow> group{};  ///< the rows of a group
-};
-
-struct DescribedRow {
-    std::string_view name;
-    Description description;
-    std::string_view condition{};  ///< when it is written, in words; empty for always
-    long section{};                ///< the bit that it is written for; 0 when it is no section
-};
 
 /// How the content of an element gets into a record.
 template <class Record>
 struct ReadRule {
     Description description;
-    /// False when there was nothing to read or it did not fit; the field then has what the conversion says.
+    /// False when there was nothing to read or it did not fit; the field then has what the rule says.
     bool (*read)(Element element, Record& record);
 };
 

@@ -4,6 +4,9 @@
 
 namespace Kavrin {
 
-const char* const COERCIVITYTYPES[3] = {"none", "low", "high"};
+namespace {
+constexpr auto coercivities = kvjxml::Words(kvjxml::coercivitiesWritten).rows;
+}
+const char* const COERCIVITYTYPES[3] = {coercivities[0].word, coercivities[1].word, coercivities[2].word};
 
 }  // namespace Kavrin

@@ -68,8 +68,9 @@ inline constexpr WordTable smartEncoders{
 /// Both directions.
 inline constexpr WordTable cardMaterials{-1, {{"pvc", 1}, {"composite", 0}}, Match::part};
 
-/// Read; Kavrin::COERCIVITYTYPES is the other direction, where 0 is "none".
 inline constexpr WordTable coercivities{0, {{"low", 1}, {"high", 2}}};
+/// "none" reads as any other word does. Hosts have the same words as Kavrin::COERCIVITYTYPES.
+inline constexpr WordTable coercivitiesWritten({{"none", 0}, {"low", 1}, {"high", 2}});
 
 /// Read only.
 inline constexpr WordTable laminationTypes{0, {{"2_side", 2}, {"1_side", 1}}};

@@ -33,7 +33,7 @@ namespace kvjxml::put {
 /// A decimal number.
 template <auto Member>
 inline constexpr WriteRule<RecordOf<Member>> number{
-    {nameOf<Member>(), "number"},
+    {.field = fieldOf<Member>, .kind = Kind::number, .number = numberOf<ValueOf<Member>>},
     [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
         if constexpr (std::is_unsigned_v<ValueOf<Member>>) {
             return addTag(parent, name, convert::fromUnsigned(record.*Member).c_str());
@@ -45,7 +45,7 @@ inline constexpr WriteRule<RecordOf<Member>> number{
 /// A number with four decimals.
 template <auto Member>
 inline constexpr WriteRule<RecordOf<Member>> decimal{
-    {nameOf<Member>(), "number with four decimals"},
+    {.field = fieldOf<Member>, .kind = Kind::decimal, .decimals = 4},
     [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
         return addTag(parent, name, convert::fromDouble(record.*Member, 4).c_str());
     }};
@@ -53,7 +53,7 @@ inline constexpr WriteRule<RecordOf<Member>> decimal{
 /// A text, which need not be terminated in its field.
 template <auto Member>
 inline constexpr WriteRule<RecordOf<Member>> text{
-    {nameOf<Member>(), "text"},
+    {.field = fieldOf<Member>, .kind = Kind::text, .capacity = std::extent_v<ValueOf<Member>>},
     [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
         const auto& field = record.*Member;
         return addTag(parent, name, std::string(field, strnlen(field, sizeof field)).c_str());
@@ -62,10 +62,10 @@ inline constexpr WriteRule<RecordOf<Member>> text{
 /// One of two words.
 template <auto Member, Literal True, Literal False>
 inline constexpr WriteRule<RecordOf<Member>> either{
-    {.field = nameOf<Member>(),
-     .conversion = "when true",
-     .argument = literal<True>.characters,
-     .otherwise = literal<False>.characters},
+    {.field = fieldOf<Member>,
+     .kind = Kind::either,
+     .word = literal<True>.characters,
+     .otherWord = literal<False>.characters},
     [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
         return addTag(parent, name, record.*Member ? literal<True>.characters : literal<False>.characters);
     }};
@@ -78,11 +78,7 @@ inline constexpr const auto& enabledOrNot = either<Member, "enabled", "disabled"
 /// The word of a code; a code without one is written as `Otherwise`.
 template <auto Member, const auto& Table, Literal Otherwise = "">
 inline constexpr WriteRule<RecordOf<Member>> word{
-    {.field = nameOf<Member>(),
-     .conversion = "word of the code",
-     .otherwise = literal<Otherwise>.characters,
-     .tableName = nameOfTable<Table>(),
-     .table = Table},
+    {.field = fieldOf<Member>, .kind = Kind::word, .words = named<Table>, .otherWord = literal<Otherwise>.characters},
     [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
         return addTag(parent, name, wordOf(Table, record.*Member, literal<Otherwise>.characters));
     }};
@@ -90,7 +86,7 @@ inline constexpr WriteRule<RecordOf<Member>> word{
 /// The word of a code that is all that is written: the record is the code.
 template <const auto& Table>
 inline constexpr WriteRule<int> wordItself{
-    {.field = {}, .conversion = "word of the code", .tableName = nameOfTable<Table>(), .table = Table},
+    {.kind = Kind::word, .words = named<Table>},
     [](TiXmlElement* parent, const char* name, const int& code, const Selection&) {
         return addTag(parent, name, wordOf(Table, code, ""));
     }};
@@ -98,9 +94,7 @@ inline constexpr WriteRule<int> wordItself{
 /// A setting with its range.
 template <auto Member>
 inline constexpr WriteRule<RecordOf<Member>> setting{
-    {nameOf<Member>(), std::is_same_v<ValueOf<Member>, Kavrin::_MinMaxVal>
-                           ? "attributes `min` and `max`, and the value"
-                           : "attributes `min` and `max`, and the maximum once more, with two decimals"},
+    {.field = fieldOf<Member>, .kind = kindOfSetting<ValueOf<Member>>, .decimals = 2},
     [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
         return addSetting(parent, name, record.*Member);
     }};
@@ -108,7 +102,7 @@ inline constexpr WriteRule<RecordOf<Member>> setting{
 /// Six bytes, "00:1a:2b:3c:4d:5e".
 template <auto Member>
 inline constexpr WriteRule<RecordOf<Member>> hardwareAddress{
-    {nameOf<Member>(), "hardware address"},
+    {.field = fieldOf<Member>, .kind = Kind::hardwareAddress},
     [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
         static_assert(sizeof(ValueOf<Member>) == sizeof(convert::HardwareAddress));
         return addTag(parent, name, convert::fromHardwareAddress(record.*Member).c_str());
@@ -117,7 +111,7 @@ inline constexpr WriteRule<RecordOf<Member>> hardwareAddress{
 /// "192.168.1.20"
 template <auto Member>
 inline constexpr WriteRule<RecordOf<Member>> ipAddress{
-    {nameOf<Member>(), "IPv4 address"},
+    {.field = fieldOf<Member>, .kind = Kind::ipAddress},
     [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
         return addTag(parent, name, convert::fromIpAddress(record.*Member).c_str());
     }};
@@ -125,7 +119,9 @@ inline constexpr WriteRule<RecordOf<Member>> ipAddress{
 /// "0x0a"
 template <auto Member>
 inline constexpr WriteRule<RecordOf<Member>> prefixedHex{
-    {nameOf<Member>(), "hexadecimal behind `0x`, at least two digits"},
+    {.field = fieldOf<Member>,
+     .kind = Kind::number,
+     .number = {.isSigned = false, .base = Base::hexadecimal, .digits = 2}},
     [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
         return addTag(parent, name, convert::fromPrefixedHex(record.*Member).c_str());
     }};
@@ -133,7 +129,7 @@ inline constexpr WriteRule<RecordOf<Member>> prefixedHex{
 /// A word that is always the same.
 template <class Record, Literal Word>
 inline constexpr WriteRule<Record> constant{
-    {.field = {}, .conversion = "always", .argument = literal<Word>.characters},
+    {.kind = Kind::constant, .word = literal<Word>.characters},
     [](TiXmlElement* parent, const char* name, const Record&, const Selection&) {
         return addTag(parent, name, literal<Word>.characters);
     }};
@@ -141,10 +137,7 @@ inline constexpr WriteRule<Record> constant{
 /// An element for each bit of a number that has a word, in the order of the words.
 template <auto Member, const auto& Table>
 inline constexpr WriteRule<RecordOf<Member>> bits{
-    {.field = nameOf<Member>(),
-     .conversion = "an element for each bit",
-     .tableName = nameOfTable<Table>(),
-     .table = Table},
+    {.field = fieldOf<Member>, .kind = Kind::bits, .words = named<Table>},
     [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
         bool result = false;
         for (const Word& row : Words(Table).rows) {
@@ -156,9 +149,9 @@ inline constexpr WriteRule<RecordOf<Member>> bits{
 /// A list: an element `EntryName` for each entry of an array.
 template <auto Count, auto Array, Literal EntryName, const auto& Entry>
 inline constexpr WriteRule<RecordOf<Array>> list{
-    {.field = nameOf<Array>(),
-     .conversion = "a list of",
-     .argument = literal<EntryName>.characters,
+    {.field = fieldOf<Array>,
+     .kind = Kind::list,
+     .word = literal<EntryName>.characters,
      .group = Entry.description.group},
     [](TiXmlElement* parent, const char* name, const RecordOf<Array>& record, const Selection&) {
         return addList(parent, name, literal<EntryName>.characters, record.*Array, record.*Count, Entry);
@@ -167,7 +160,7 @@ inline constexpr WriteRule<RecordOf<Array>> list{
 /// A group of elements, composed with a table of its own from the same record.
 template <const auto& Table>
 inline constexpr WriteRule<RecordOfTable<Table>> group{
-    {.field = {}, .conversion = "group", .group = described<Table>},
+    {.kind = Kind::group, .group = described<Table>},
     [](TiXmlElement* parent, const char* name, const RecordOfTable<Table>& record, const Selection& selection) {
         return addGroup(parent, name, record, Table, selection);
     }};
@@ -175,7 +168,7 @@ inline constexpr WriteRule<RecordOfTable<Table>> group{
 /// A group of elements, composed with a table of its own from a record inside the record.
 template <auto Member, const auto& Table>
 inline constexpr WriteRule<RecordOf<Member>> part{
-    {.field = nameOf<Member>(), .conversion = "group", .group = described<Table>},
+    {.field = fieldOf<Member>, .kind = Kind::part, .group = described<Table>},
     [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection& selection) {
         return addGroup(parent, name, record.*Member, Table, selection);
     }};

@@ -21,12 +21,14 @@ bool scanned(Element element, RecordOf<Member>& record) {
 
 template <auto Member>
 inline constexpr ReadRule<RecordOf<Member>> serial{
-    {nameOf<Member>(), "number; any other text leaves it alone"},
+    {.field = fieldOf<Member>, .kind = Kind::number, .number = {.isSigned = false, .onlyNumbers = true}},
     [](Element element, RecordOf<Member>& record) { return scanned<Member, convert::scanUnsigned>(element, record); }};
 
 template <auto Member>
 inline constexpr ReadRule<RecordOf<Member>> hexByte{
-    {nameOf<Member>(), "at most two hexadecimal digits behind `0x`; any other text leaves it alone"},
+    {.field = fieldOf<Member>,
+     .kind = Kind::number,
+     .number = {.isSigned = false, .base = Base::hexadecimal, .digits = 2, .onlyNumbers = true}},
     [](Element element, RecordOf<Member>& record) {
         return scanned<Member, convert::scanPrefixedHexByte>(element, record);
     }};

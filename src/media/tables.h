@@ -18,13 +18,13 @@ using namespace Kavrin;  // the records
 /// The value of a setting as it stands: the catalogue knows no ranges.
 template <auto Member>
 inline constexpr ReadRule<RecordOf<Member>> value{
-    {nameOf<Member>(), numberKind<decltype(ValueOf<Member>::value)>},
+    {.field = fieldOf<Member>, .kind = kindOfNumber<decltype(ValueOf<Member>::value)>},
     [](Element element, RecordOf<Member>& record) { return readNumber(element, (record.*Member).value); }};
 
 /// A new entry of a list, also for an element with nothing in it.
 template <auto Member, const auto& Table>
 inline constexpr ReadRule<_KVMediaInfo> append{
-    {.field = nameOf<Member>(), .conversion = "a new entry of the list", .group = described<Table>},
+    {.field = fieldOf<Member>, .kind = Kind::newEntry, .group = described<Table>},
     [](Element element, _KVMediaInfo& catalogue) {
         auto* const entries = catalogue.*Member;
         if (!element || entries == nullptr) return false;

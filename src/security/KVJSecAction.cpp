@@ -26,10 +26,9 @@ const char* actionNameIn(const char* text) {
 }
 
 bool readKeyExchange(Element element, _tagHostDHKeys& keys, long& printerKey) {
-    tables::KeyExchange exchange{keys.modulus, keys.base, keys.host_interim_key, static_cast<unsigned long>(printerKey),
-                                 false};
+    tables::KeyExchange exchange{keys, static_cast<unsigned long>(printerKey), false};
     walk(element, exchange, tables::keyExchange);
-    keys = {exchange.modulus, exchange.base, exchange.host_interim_key};
+    keys = exchange;
     printerKey = static_cast<long>(exchange.printer_interim_key);
     return exchange.any;
 }

@@ -16,10 +16,7 @@ namespace kvjxml::security {
 using namespace Kavrin;  // the records
 
 /// The four values of a key exchange, which two readers share.
-struct KeyExchange {
-    unsigned long modulus;
-    unsigned long base;
-    unsigned long host_interim_key;
+struct KeyExchange : _tagHostDHKeys {
     unsigned long printer_interim_key;
     bool any;  ///< whether any of them had a text
 };
@@ -27,14 +24,17 @@ struct KeyExchange {
 /// Hexadecimal behind "0x", else decimal; a text that is no number leaves the value alone, and counts as read. An
 /// element without text does not take back what came before it.
 template <auto Member>
-inline constexpr ReadRule<KeyExchange> keyNumber{{nameOf<Member>(), "number, hexadecimal behind `0x`"},
-                                                 [](Element element, KeyExchange& exchange) {
-                                                     if (const char* content = element.text()) {
-                                                         convert::scanKeyNumber(content, exchange.*Member);
-                                                         exchange.any = true;
-                                                     }
-                                                     return exchange.any;
-                                                 }};
+inline constexpr ReadRule<KeyExchange> keyNumber{
+    {.field = fieldOf<Member>,
+     .kind = Kind::number,
+     .number = {.bits = 64, .isSigned = false, .base = Base::either, .onlyNumbers = true}},
+    [](Element element, KeyExchange& exchange) {
+        if (const char* content = element.text()) {
+            convert::scanKeyNumber(content, exchange.*Member);
+            exchange.any = true;
+        }
+        return exchange.any;
+    }};
 
 /// Sets an attribute of the received element from a field that need not be terminated.
 template <std::size_t N>
@@ -43,24 +43,25 @@ void setFromField(Element element, const char* name, const char (&field)[N]) {
     element.setAttribute(name, value.c_str());
 }
 
+inline constexpr std::string_view printerAttributes[] = {"model", "serial", "nonce"};
+inline constexpr std::string_view actionAttributes[] = {"name"};
+
 /// The printer's identity is the host's to know: the received element is given what the record holds, and the record is
 /// left alone.
 template <class Record>
-inline constexpr ReadRule<Record> printerIdentity{
-    {.field = {}, .conversion = "nothing: its attributes `model`, `serial` and `nonce` are set from the record"},
-    [](Element element, Record& record) {
-        setFromField(element, "model", record.model);
-        setFromField(element, "serial", record.serial);
-        setFromField(element, "nonce", record.nonce);
-        return true;
-    }};
+inline constexpr ReadRule<Record> printerIdentity{{.kind = Kind::givenAttributes, .attributes = printerAttributes},
+                                                  [](Element element, Record& record) {
+                                                      setFromField(element, "model", record.model);
+                                                      setFromField(element, "serial", record.serial);
+                                                      setFromField(element, "nonce", record.nonce);
+                                                      return true;
+                                                  }};
 
-inline constexpr ReadRule<_tagSecReqXML> actionIdentity{
-    {.field = {}, .conversion = "nothing: its attribute `name` is set from the record"},
-    [](Element element, _tagSecReqXML& request) {
-        setFromField(element, "name", request.action);
-        return true;
-    }};
+inline constexpr ReadRule<_tagSecReqXML> actionIdentity{{.kind = Kind::givenAttributes, .attributes = actionAttributes},
+                                                        [](Element element, _tagSecReqXML& request) {
+                                                            setFromField(element, "name", request.action);
+                                                            return true;
+                                                        }};
 
 /// The protected actions, in the order that they are looked for: "unlock_printer" contains "lock_printer". The codes
 /// count the rows; the name itself is the action's identity.

@@ -4,8 +4,6 @@
 #ifndef KVJXML_SHARED_CARD_H
 #define KVJXML_SHARED_CARD_H
 
-#include <iterator>
-
 #include "ConfigurationRecords.h"
 #include "foundation/read_rules.h"
 #include "foundation/vocabulary.h"
@@ -33,31 +31,22 @@ struct NonContactEncode {
 
 /// A truth word into one bit; the bits beside it stay as they are. Without text the bit is cleared.
 template <class Card, class Bit>
-inline constexpr ReadRule<Card> bit{{Bit::name, "true for exactly `enabled` and `yes`"},
-                                    [](Element element, Card& card) {
-                                        bool flag = false;
-                                        const bool result = readTruth(element, flag);
-                                        Bit::set(card, flag);
-                                        return result;
-                                    }};
+inline constexpr ReadRule<Card> bit{
+    {.field = {nameOfType<Card>(), Bit::name}, .kind = Kind::flag, .withoutText = WithoutText::isFalse},
+    [](Element element, Card& card) {
+        bool flag = false;
+        const bool result = readTruth(element, flag);
+        Bit::set(card, flag);
+        return result;
+    }};
 
 namespace put {
 
 template <class Card, class Bit>
 inline constexpr WriteRule<Card> bit{
-    {.field = Bit::name, .conversion = "when true", .argument = "yes", .otherwise = "no"},
+    {.field = {nameOfType<Card>(), Bit::name}, .kind = Kind::either, .word = "yes", .otherWord = "no"},
     [](TiXmlElement* parent, const char* name, const Card& card, const Selection&) {
         return addTag(parent, name, Bit::get(card) ? "yes" : "no");
-    }};
-
-/// The word of a coercivity; a code without one is written empty.
-template <class Card>
-inline constexpr WriteRule<Card> coercivity{
-    {"coercivity", "`none`, `low` or `high`"},
-    [](TiXmlElement* parent, const char* name, const Card& card, const Selection&) {
-        // The other way round clang 14 would take "<" for the beginning of template arguments.
-        const bool known = std::size(Kavrin::COERCIVITYTYPES) > card.coercivity;
-        return addTag(parent, name, known ? Kavrin::COERCIVITYTYPES[card.coercivity] : "");
     }};
 
 }  // namespace put
@@ -82,7 +71,7 @@ inline constexpr auto cardInformationTags = tags<Card>({
     {"vessa_part_number",  put::text<&Card::partNumber>},
     {"description",        put::text<&Card::description>},
     {"thickness",          put::decimal<&Card::thickness>},
-    {"coercivity",         put::coercivity<Card>},
+    {"coercivity",         put::word<&Card::coercivity, coercivitiesWritten>},
     {"mag_stripe",         put::bit<Card, MagStripe>},
     {"contact_encode",     put::bit<Card, ContactEncode>},
     {"non_contact_encode", put::bit<Card, NonContactEncode>},

@@ -21,7 +21,8 @@ inline constexpr int descriptionCapacity = sizeof(_MediaStatusInfo::description)
 
 /// The word of one panel, appended without a separator: the panels Y, M and C make "YMC". What does not fit is cut.
 inline constexpr ReadRule<PanelSequence> panel{
-    {"description", "text, appended"}, [](Element element, PanelSequence& sequence) {
+    {.field = fieldOf<&_MediaStatusInfo::description>, .kind = Kind::appendedText, .capacity = descriptionCapacity},
+    [](Element element, PanelSequence& sequence) {
         const auto used = static_cast<int>(strnlen(sequence.description, descriptionCapacity));
         return used < descriptionCapacity && readText(element, sequence.description + used, descriptionCapacity - used);
     }};
@@ -35,8 +36,8 @@ inline constexpr auto panelSequence = rows<PanelSequence>({
 
 /// The ribbon's description is made longer by its panels, and the code is that of the whole.
 inline constexpr ReadRule<_MediaStatusInfo> sequence{
-    {.field = "code", .conversion = "code of the description with the panels behind it",
-     .tableName = "ribbonDescriptions", .table = ribbonDescriptions, .group = described<panelSequence>},
+    {.field = fieldOf<&_MediaStatusInfo::code>, .kind = Kind::wordOfPanels, .words = named<ribbonDescriptions>,
+     .group = described<panelSequence>},
     [](Element element, _MediaStatusInfo& ribbon) {
         PanelSequence panels{ribbon.description};
         if (!walk(element, panels, panelSequence)) return false;
@@ -46,8 +47,8 @@ inline constexpr ReadRule<_MediaStatusInfo> sequence{
 
 /// A description, and its code when it fits the field.
 inline constexpr ReadRule<_MediaStatusInfo> description{
-    {.field = "description", .conversion = "text, and its code to `code`", .capacity = descriptionCapacity,
-     .tableName = "ribbonNames", .table = ribbonNames},
+    {.field = fieldOf<&_MediaStatusInfo::description>, .kind = Kind::textAndCode, .capacity = descriptionCapacity,
+     .words = named<ribbonNames>, .otherField = fieldOf<&_MediaStatusInfo::code>},
     [](Element element, _MediaStatusInfo& medium) {
         if (!text<&_MediaStatusInfo::description>.read(element, medium)) return false;
         medium.code = anyCodeOf(ribbonNames, medium.description);

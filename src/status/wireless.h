@@ -63,10 +63,7 @@ inline bool combine(Element element, unsigned int& codes, Words table) {
 
 template <auto Member, const auto& Table>
 inline constexpr ReadRule<RecordOf<Member>> combined{
-    {.field = nameOf<Member>(),
-     .conversion = "code of the word, OR-ed in",
-     .tableName = nameOfTable<Table>(),
-     .table = Table},
+    {.field = fieldOf<Member>, .kind = Kind::combinedCodes, .words = named<Table>},
     [](Element element, RecordOf<Member>& record) { return combine(element, record.*Member, Table); }};
 
 // clang-format off

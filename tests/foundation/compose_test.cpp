@@ -386,7 +386,7 @@ TEST(DescribedRequest, HasItsRowsInOrderWithTheirConditions) {
     const auto& rows = kvjxml::described<conditional>;
     ASSERT_EQ(rows.size(), 4U);
     EXPECT_EQ(rows[0].name, "always");
-    EXPECT_EQ(rows[0].description.field, "integer");
+    EXPECT_EQ(rows[0].description.field.name, "integer");
     EXPECT_EQ(rows[0].condition, "");
     EXPECT_EQ(rows[0].section, 0);
     EXPECT_EQ(rows[1].condition, "when ready");
@@ -406,29 +406,31 @@ TEST(DescribedRequest, ASectionSaysItsBitAndItsCondition) {
 
 TEST(DescribedRequest, AFlagSaysBothItsWords) {
     const kvjxml::Description description = put::either<&Record::ready, "on", "off">.description;
-    EXPECT_EQ(description.field, "ready");
-    EXPECT_EQ(description.argument, "on");
-    EXPECT_EQ(description.otherwise, "off");
+    EXPECT_EQ(description.kind, kvjxml::Kind::either);
+    EXPECT_EQ(description.field.name, "ready");
+    EXPECT_EQ(description.word, "on");
+    EXPECT_EQ(description.otherWord, "off");
 }
 
 TEST(DescribedRequest, AWordSaysItsTableAndTheWordOfOtherCodes) {
     const kvjxml::Description description = put::word<&Record::state, states, "none">.description;
-    EXPECT_EQ(description.field, "state");
-    EXPECT_EQ(description.tableName, "states");
-    EXPECT_EQ(description.otherwise, "none");
-    ASSERT_EQ(description.table.rows.size(), 2U);
-    EXPECT_STREQ(description.table.rows[1].word, "printing");
+    EXPECT_EQ(description.kind, kvjxml::Kind::word);
+    EXPECT_EQ(description.field.name, "state");
+    EXPECT_EQ(description.otherWord, "none");
+    EXPECT_TRUE(description.words.name.ends_with("states"));
+    EXPECT_EQ(description.words.words.rows.data(), kvjxml::Words(states).rows.data());
 }
 
 TEST(DescribedRequest, GroupsPartsAndListsSayTheirRows) {
-    EXPECT_EQ(put::group<three>.description.field, "");
+    EXPECT_TRUE(put::group<three>.description.field.empty());
     EXPECT_EQ(put::group<three>.description.group.size(), 3U);
     const kvjxml::Description part = put::part<&Record::inner, innerTags>.description;
-    EXPECT_EQ(part.field, "inner");
+    EXPECT_EQ(part.kind, kvjxml::Kind::part);
+    EXPECT_EQ(part.field.name, "inner");
     ASSERT_EQ(part.group.size(), 2U);
     EXPECT_EQ(part.group[0].name, "number");
-    EXPECT_EQ(listRule.description.field, "entries");
-    EXPECT_EQ(listRule.description.argument, "entry");
+    EXPECT_EQ(listRule.description.field.name, "entries");
+    EXPECT_EQ(listRule.description.word, "entry");
     ASSERT_EQ(listRule.description.group.size(), 1U);
     EXPECT_EQ(listRule.description.group[0].name, "number");
 }

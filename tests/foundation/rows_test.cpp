@@ -5,11 +5,23 @@
 
 #include <climits>
 #include <string>
+#include <utility>
 
 #include "foundation/read_rules.h"
 #include "support/xml.h"
 
 using kvjxml::tests::Xml;
+
+// Tables of the same name in different places.
+namespace kvjxml::here {
+constexpr WordTable levels({{"low", 1}});
+}
+namespace kvjxml::there {
+constexpr WordTable levels({{"low", 2}});
+}
+namespace kvjxml {
+constexpr WordTable levels({{"low", 3}});
+}
 
 namespace {
 
@@ -300,37 +312,84 @@ TEST(GroupRow, ARepeatedGroupIsReadAgain) {
 
 // ---- What rows say of themselves ----
 
-TEST(Description, NamesTheFieldOfEachKindOfRow) {
-    EXPECT_EQ(kvjxml::number<&Record::integer>.description.field, "integer");
-    EXPECT_EQ(kvjxml::text<&Record::uuid>.description.field, "uuid");
-    EXPECT_EQ((kvjxml::word<&Record::state, states>.description.field), "state");
-    EXPECT_EQ((kvjxml::is<&Record::ready, "yes">.description.field), "ready");
-    EXPECT_EQ(kvjxml::prefixedHex<&Record::alarms>.description.field, "alarms");
-    EXPECT_EQ(kvjxml::group<inner>.description.field, "");
+using kvjxml::Kind;
+
+TEST(Description, NamesTheRecordAndTheFieldOfEachKindOfRow) {
+    const auto named = [](const auto& rule) {
+        return std::string(rule.description.field.record) + "::" + std::string(rule.description.field.name);
+    };
+    EXPECT_EQ(named(kvjxml::number<&Record::integer>), "Record::integer");
+    EXPECT_EQ(named(kvjxml::text<&Record::uuid>), "Record::uuid");
+    EXPECT_EQ((named(kvjxml::word<&Record::state, states>)), "Record::state");
+    EXPECT_EQ((named(kvjxml::is<&Record::ready, "yes">)), "Record::ready");
+    EXPECT_EQ(named(kvjxml::prefixedHex<&Record::alarms>), "Record::alarms");
+    EXPECT_TRUE(kvjxml::group<inner>.description.field.empty());
 }
 
-TEST(Description, SaysTheSizeOfATextField) {
-    EXPECT_EQ(kvjxml::text<&Record::uuid>.description.capacity, 8U);
-    EXPECT_EQ(kvjxml::number<&Record::integer>.description.capacity, 0U);
+TEST(Description, SaysTheKindOfEachRow) {
+    const auto kind = [](const auto& rule) { return rule.description.kind; };
+    EXPECT_EQ(kind(kvjxml::number<&Record::integer>), Kind::number);
+    EXPECT_EQ(kind(kvjxml::number<&Record::real>), Kind::decimal);
+    EXPECT_EQ(kind(kvjxml::prefixedHex<&Record::alarms>), Kind::number);
+    EXPECT_EQ(kind(kvjxml::text<&Record::uuid>), Kind::text);
+    EXPECT_EQ((kind(kvjxml::word<&Record::state, states>)), Kind::word);
+    EXPECT_EQ(kind(kvjxml::flag<&Record::ready>), Kind::flag);
+    EXPECT_EQ((kind(kvjxml::is<&Record::ready, "yes">)), Kind::isWord);
+    EXPECT_EQ((kind(kvjxml::isNot<&Record::ready, "no">)), Kind::isNotWord);
+    EXPECT_EQ((kind(kvjxml::attribute<&Record::integer, "count">)), Kind::attribute);
+    EXPECT_EQ(kind(kvjxml::group<inner>), Kind::group);
 }
 
-TEST(Description, SaysTheWordOfAFlag) { EXPECT_EQ((kvjxml::is<&Record::ready, "yes">.description.argument), "yes"); }
+TEST(Description, SaysTheSizeOfATextField) { EXPECT_EQ(kvjxml::text<&Record::uuid>.description.capacity, 8U); }
+
+TEST(Description, SaysTheWordOfAFlag) { EXPECT_EQ((kvjxml::is<&Record::ready, "yes">.description.word), "yes"); }
 
 TEST(Description, SaysTheTableOfAWord) {
-    const kvjxml::Description description = kvjxml::word<&Record::state, states>.description;
-    EXPECT_EQ(description.tableName, "states");
-    ASSERT_EQ(description.table.rows.size(), 2U);
-    EXPECT_STREQ(description.table.rows[1].word, "printing");
-    EXPECT_EQ(description.table.rows[1].code, 2);
-    EXPECT_EQ(description.table.other, -1);
-    EXPECT_EQ((kvjxml::word<&Record::colour, colours>.description.table.other), std::nullopt);
+    const kvjxml::NamedWords words = kvjxml::word<&Record::state, states>.description.words;
+    EXPECT_TRUE(words.name.ends_with("::states")) << words.name;
+    EXPECT_EQ(words.words.rows.data(), kvjxml::Words(states).rows.data());
+    ASSERT_EQ(words.words.rows.size(), 2U);
+    EXPECT_STREQ(words.words.rows[1].word, "printing");
+    EXPECT_EQ(words.words.rows[1].code, 2);
+    EXPECT_EQ(words.words.other, -1);
+    EXPECT_EQ((kvjxml::word<&Record::colour, colours>.description.words.words.other), std::nullopt);
 }
 
-TEST(Description, TellsNumbersOfSixteenBitsFromWholeOnes) {
-    const auto conversion = [](const auto& rule) { return rule.description.conversion; };
-    EXPECT_EQ(conversion(kvjxml::number<&Record::shortInteger>), conversion(kvjxml::number<&Record::counter>));
-    EXPECT_NE(conversion(kvjxml::number<&Record::shortInteger>), conversion(kvjxml::number<&Record::integer>));
-    EXPECT_NE(conversion(kvjxml::number<&Record::real>), conversion(kvjxml::number<&Record::integer>));
+TEST(Description, ATableOfWordsIsKnownByItsPlace) {
+    EXPECT_EQ((kvjxml::word<&Record::state, kvjxml::here::levels>.description.words.name), "here::levels");
+    EXPECT_EQ((kvjxml::word<&Record::state, kvjxml::there::levels>.description.words.name), "there::levels");
+    EXPECT_EQ((kvjxml::word<&Record::state, kvjxml::levels>.description.words.name), "levels");
+}
+
+TEST(Description, SaysHowManyBitsOfANumberAreStored) {
+    const auto bits = [](const auto& rule) {
+        const kvjxml::Number number = rule.description.number;
+        return std::pair(number.bits, number.isSigned);
+    };
+    EXPECT_EQ(bits(kvjxml::number<&Record::integer>), std::pair(32, true));
+    EXPECT_EQ(bits(kvjxml::number<&Record::unsignedInteger>), std::pair(32, false));
+    EXPECT_EQ(bits(kvjxml::number<&Record::shortInteger>), std::pair(16, false));
+    EXPECT_EQ(bits(kvjxml::number<&Record::counter>), std::pair(16, false));
+    EXPECT_EQ(bits(kvjxml::number<&Record::large>), std::pair(64, true));
+    EXPECT_EQ(bits(kvjxml::prefixedHex<&Record::alarms>), std::pair(32, false));
+}
+
+TEST(Description, TellsHexadecimalNumbersFromDecimalOnes) {
+    const kvjxml::Number decimal = kvjxml::number<&Record::integer>.description.number;
+    EXPECT_EQ(decimal.base, kvjxml::Base::decimal);
+    EXPECT_FALSE(decimal.onlyNumbers);
+    const kvjxml::Number hexadecimal = kvjxml::prefixedHex<&Record::alarms>.description.number;
+    EXPECT_EQ(hexadecimal.base, kvjxml::Base::hexadecimal);
+    EXPECT_TRUE(hexadecimal.onlyNumbers);
+}
+
+TEST(Description, SaysWhatBecomesOfAFieldWithoutText) {
+    using kvjxml::WithoutText;
+    EXPECT_EQ(kvjxml::number<&Record::integer>.description.withoutText, WithoutText::isKept);
+    EXPECT_EQ(kvjxml::flag<&Record::ready>.description.withoutText, WithoutText::isFalse);
+    EXPECT_EQ((kvjxml::is<&Record::ready, "yes">.description.withoutText), WithoutText::isFalse);
+    EXPECT_EQ((kvjxml::is<&Record::ready, "yes", WithoutText::isKept>.description.withoutText), WithoutText::isKept);
+    EXPECT_EQ((kvjxml::isNot<&Record::ready, "no">.description.withoutText), WithoutText::isKept);
 }
 
 TEST(Description, OfATableHasItsRowsInOrderWithThoseOfItsGroups) {
@@ -338,11 +397,11 @@ TEST(Description, OfATableHasItsRowsInOrderWithThoseOfItsGroups) {
     ASSERT_EQ(rows.size(), 11U);
     EXPECT_EQ(rows.front().name, "integer");
     EXPECT_EQ(rows[1].name, "unsigned");
-    EXPECT_EQ(rows[1].description.field, "unsignedInteger");
+    EXPECT_EQ(rows[1].description.field.name, "unsignedInteger");
     EXPECT_EQ(rows.back().name, "group");
     ASSERT_EQ(rows.back().description.group.size(), 2U);
     EXPECT_EQ(rows.back().description.group[0].name, "real");
-    EXPECT_EQ(rows.back().description.group[1].description.field, "alarms");
+    EXPECT_EQ(rows.back().description.group[1].description.field.name, "alarms");
 }
 
 }  // namespace

@@ -52,8 +52,9 @@ constexpr std::string_view marks[] = {"<?xml version=\"1.0\" encoding=\"UTF-8\"?
 void collect(std::span<const kvjxml::DescribedRow> rows, Entries& entries) {
     for (const auto& row : rows) {
         entries.emplace(row.name);
-        entries.emplace(row.description.argument);
-        for (const auto& word : row.description.table.rows) entries.emplace(word.word);
+        entries.emplace(row.description.word);
+        for (const auto& attribute : row.description.attributes) entries.emplace(attribute);
+        for (const auto& word : row.description.words.words.rows) entries.emplace(word.word);
         collect(row.description.group, entries);
     }
 }

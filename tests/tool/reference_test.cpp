@@ -1,14 +1,24 @@
 // The reference and the headers say what the tables do.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <regex>
+#include <span>
+#include <sstream>
 #include <string>
+#include <string_view>
+#include <vector>
 
+#include "foundation/kinds.h"
+#include "messages.h"
+#include "requests.h"
 #include "tool/tool.h"
 
 namespace {
 
+using kvjxml::DescribedRow;
+using kvjxml::Kind;
 using kvjxml::tests::contentOf;
 using kvjxml::tests::runTool;
 
@@ -23,11 +33,140 @@ std::vector<std::smatch> matchesOf(const std::string& text, const std::regex& pa
     return {std::sregex_iterator(text.begin(), text.end(), pattern), {}};
 }
 
+std::vector<std::string> linesOf(const std::string& text) {
+    std::vector<std::string> lines;
+    std::istringstream in(text);
+    for (std::string line; std::getline(in, line);) lines.push_back(line);
+    return lines;
+}
+
+/// The lines of two texts between the beginning and the end that they share, as a diff shows them.
+std::string differenceOf(const std::string& expected, const std::string& actual) {
+    const auto old = linesOf(expected);
+    const auto made = linesOf(actual);
+    const auto [oldFirst, madeFirst] = std::ranges::mismatch(old, made);
+    auto oldLast = old.end();
+    auto madeLast = made.end();
+    while (oldLast != oldFirst && madeLast != madeFirst && *(oldLast - 1) == *(madeLast - 1)) --oldLast, --madeLast;
+    std::string text;
+    for (auto line = oldFirst; line != oldLast; ++line) text += "-" + *line + "\n";
+    for (auto line = madeFirst; line != madeLast; ++line) text += "+" + *line + "\n";
+    return text;
+}
+
+/// All rows that the library reads and writes with, those of groups behind their group.
+// Groups nest as deep as the tables are written, so the recursion ends. NOLINTNEXTLINE(misc-no-recursion)
+void collect(std::span<const DescribedRow> rows, std::vector<DescribedRow>& all) {
+    for (const auto& row : rows) {
+        all.push_back(row);
+        collect(row.description.group, all);
+    }
+}
+std::vector<DescribedRow> allRows() {
+    std::vector<DescribedRow> all;
+    for (const auto& message : kvjxml::tool::messages()) collect(message.table, all);
+    for (const auto& request : kvjxml::tool::recordRequests()) collect(request.table, all);
+    return all;
+}
+
 TEST(Reference, ThePageIsWhatTheToolPrints) {
     const auto outcome = runTool("messages");
     EXPECT_EQ(outcome.code, 0);
-    EXPECT_EQ(outcome.out, contentOf(std::string(KVJXML_DOCS) + "/messages.md"))
-        << "make it anew: kvjxml messages >docs/messages.md";
+    const std::string page = contentOf(std::string(KVJXML_DOCS) + "/messages.md");
+    EXPECT_TRUE(outcome.out == page) << "make it anew, kvjxml messages >docs/messages.md:\n"
+                                     << differenceOf(page, outcome.out);
+}
+
+TEST(Reference, NoTwoTablesOfWordsHaveOneName) {
+    std::map<std::string_view, const kvjxml::Word*> tables;
+    for (const auto& row : allRows()) {
+        const auto& words = row.description.words;
+        if (words.name.empty()) continue;
+        const auto [known, isNew] = tables.emplace(words.name, words.words.rows.data());
+        EXPECT_EQ(known->second, words.words.rows.data()) << words.name;
+    }
+    EXPECT_GT(tables.size(), 30U);
+}
+
+TEST(Reference, EveryTableOfWordsIsThereOnce) {
+    std::map<std::string, int> headings;
+    for (const auto& heading : matchesOf(runTool("messages").out, std::regex("\n### ([^\n]+)"))) ++headings[heading[1]];
+    for (const auto& [name, count] : headings) EXPECT_EQ(count, 1) << name;
+    EXPECT_EQ(headings.count("configuration::securityWords"), 1U);
+    EXPECT_EQ(headings.count("status::securityWords"), 1U);
+}
+
+TEST(Reference, ARowHasWhatItsKindSays) {
+    for (const auto& row : allRows()) {
+        const auto& [field, kind, number, decimals, capacity, words, word, otherWord, otherField, withoutText,
+                     attributes, group] = row.description;
+        switch (kind) {
+            case Kind::number:
+            case Kind::attribute:
+                EXPECT_TRUE(number.bits == 16 || number.bits == 32 || number.bits == 64) << row.name;
+                EXPECT_EQ(kind == Kind::attribute, !word.empty()) << row.name;
+                break;
+            case Kind::text:
+            case Kind::textWithoutWord:
+            case Kind::appendedText:
+                EXPECT_GT(capacity, 1U) << row.name;
+                EXPECT_EQ(kind == Kind::textWithoutWord, !word.empty()) << row.name;
+                break;
+            case Kind::textAndCode:
+                EXPECT_GT(capacity, 1U) << row.name;
+                EXPECT_FALSE(words.words.rows.empty() || otherField.empty()) << row.name;
+                break;
+            case Kind::word:
+            case Kind::bits:
+            case Kind::combinedCodes:
+                EXPECT_FALSE(words.words.rows.empty()) << row.name;
+                EXPECT_TRUE(withoutText != kvjxml::WithoutText::isOther || words.words.other) << row.name;
+                break;
+            case Kind::laminatorWord:
+                EXPECT_FALSE(words.words.rows.empty() || otherWord.empty()) << row.name;
+                break;
+            case Kind::wordOrNext:
+                EXPECT_FALSE(words.words.rows.empty() || otherField.empty()) << row.name;
+                break;
+            case Kind::wordOfPanels:
+                EXPECT_FALSE(words.words.rows.empty() || group.empty()) << row.name;
+                break;
+            case Kind::isWord:
+            case Kind::isNotWord:
+            case Kind::constant:
+                EXPECT_FALSE(word.empty()) << row.name;
+                break;
+            case Kind::either:
+            case Kind::toldWord:
+                EXPECT_FALSE(word.empty() || otherWord.empty()) << row.name;
+                break;
+            case Kind::decimal:
+            case Kind::setting:
+            case Kind::decimalSetting:
+            case Kind::flag:
+            case Kind::hardwareAddress:
+            case Kind::ipAddress:
+                EXPECT_FALSE(field.empty()) << row.name;
+                break;
+            case Kind::list:
+                EXPECT_FALSE(field.empty()) << row.name;
+                break;
+            case Kind::group:
+            case Kind::part:
+            case Kind::entry:
+            case Kind::firstEntry:
+            case Kind::newEntry:
+                EXPECT_FALSE(group.empty()) << row.name;
+                EXPECT_EQ(kind == Kind::part || kind == Kind::newEntry, !field.empty()) << row.name;
+                break;
+            case Kind::byDescription:
+                EXPECT_FALSE(word.empty() || otherField.empty() || group.empty()) << row.name;
+                break;
+            case Kind::givenAttributes:
+                EXPECT_FALSE(attributes.empty()) << row.name;
+                break;
+        }
+    }
 }
 
 TEST(Reference, TheHeadersNameTheElementOfEveryFieldBesideIt) {

@@ -29,7 +29,7 @@ std::vector<NamedSection> sectionsOf(std::span<const DescribedRow> rows) {
             continue;
         }
         const bool taken = std::ranges::find(sections, row.name, &NamedSection::name) != sections.end();
-        sections.push_back({std::string(taken ? row.description.field : row.name), row.section, contentOf(row)});
+        sections.push_back({std::string(taken ? row.description.field.name : row.name), row.section, contentOf(row)});
     }
     return sections;
 }
@@ -42,7 +42,7 @@ Names fieldsWritten(std::span<const DescribedRow> rows, long mask) {
         if (row.description.field.empty()) {
             names.merge(fieldsWritten(row.description.group));
         } else {
-            names.insert(row.description.field);
+            names.insert(row.description.field.name);
         }
     }
     return names;
