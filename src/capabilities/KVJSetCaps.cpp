@@ -49,24 +49,24 @@ bool KVJSetCaps::addPorts(TiXmlElement* under, const _PortCaps* ports, int count
 
 bool KVJSetCaps::addSWInterfaces(TiXmlElement* under, const _InterfaceCaps* interfaces, int count) {
     return count != 0 && addList(under, "software_interfaces", "software_interface", interfaces, count,
-                                 put::group<tables::swInterfaceTags>);
+                                 put::group<tables::swInterface>);
 }
 
 bool KVJSetCaps::addOcpLanguages(TiXmlElement* under, const _OCPLanguageCaps* languages, int count) {
     return count != 0 &&
-           addList(under, "ocp_languages", "ocp_language", languages, count, put::group<kvjxml::panelLanguageTags>);
+           addList(under, "ocp_languages", "ocp_language", languages, count, put::group<kvjxml::panelLanguage>);
 }
 
 bool KVJSetCaps::addImageSharpeningLevels(TiXmlElement* under, const _Capabilities& caps) {
-    return addGroup(under, "image_sharpening_levels", caps, tables::imageSharpeningTags);
+    return addGroup(under, "image_sharpening_levels", caps, tables::imageSharpening);
 }
 
 bool KVJSetCaps::addSecurityCaps(TiXmlElement* under, const _SecurityCaps& security) {
-    return addGroup(under, "security", security, tables::securityTags);
+    return addGroup(under, "security", security, tables::security);
 }
 
 bool KVJSetCaps::addMemoryCaps(TiXmlElement* under, const _Capabilities& caps) {
-    return addGroup(under, "memory", caps, tables::memoryTags);
+    return addGroup(under, "memory", caps, tables::memory);
 }
 
 bool KVJSetCaps::addGraphicFormatsCaps(TiXmlElement* under, const int* formats, int count) {
@@ -82,15 +82,15 @@ bool KVJSetCaps::addTemplateCaps(TiXmlElement* under, const _TemplateCaps* templ
 }
 
 bool KVJSetCaps::addGraphicsCaps(TiXmlElement* under, const _TemplateCaps* graphics, int count) {
-    return addList(under, "graphics", "graphic", graphics, count, put::group<tables::graphicTags>);
+    return addList(under, "graphics", "graphic", graphics, count, put::group<tables::stored>);
 }
 
 bool KVJSetCaps::addMediaPathCaps(TiXmlElement* under, const _Capabilities& caps) {
-    return addGroup(under, "media_path", caps, tables::mediaPathTags);
+    return addGroup(under, "media_path", caps, tables::mediaPath);
 }
 
 bool KVJSetCaps::addImageCaps(TiXmlElement* under, const _Capabilities& caps) {
-    return addGroup(under, "image", caps, tables::imageTags);
+    return addGroup(under, "image", caps, tables::image);
 }
 
 bool KVJSetCaps::addInternalEncoder(TiXmlElement* under, const _InternalEncoderInfo& encoder) {

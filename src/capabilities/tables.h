@@ -6,11 +6,10 @@
 
 #include "CapabilitiesRecords.h"
 #include "capabilities/lists.h"
-#include "foundation/read_rules.h"
+#include "foundation/both.h"
 #include "foundation/rows.h"
 #include "foundation/vocabulary.h"
 #include "foundation/words.h"
-#include "foundation/write_rules.h"
 #include "shared/encoder.h"
 #include "shared/panel.h"
 
@@ -110,15 +109,10 @@ inline constexpr auto portTags = tags<_PortCaps>({
 });
 
 /// "software_interface"
-inline constexpr auto swInterface = rows<_InterfaceCaps>({
-    {"protocol",  word<&_InterfaceCaps::protocol, protocols>},
-    {"transport", word<&_InterfaceCaps::transport, transports>},
-    {"port",      number<&_InterfaceCaps::port>},
-});
-inline constexpr auto swInterfaceTags = tags<_InterfaceCaps>({
-    {"protocol",  put::word<&_InterfaceCaps::protocol, protocols>},
-    {"transport", put::word<&_InterfaceCaps::transport, transports>},
-    {"port",      put::number<&_InterfaceCaps::port>},
+inline constexpr auto swInterface = bothWays<_InterfaceCaps>({
+    {"protocol",  both::word<&_InterfaceCaps::protocol, protocols>},
+    {"transport", both::word<&_InterfaceCaps::transport, transports>},
+    {"port",      both::number<&_InterfaceCaps::port>},
 });
 
 /// "font". The printer expects the flag under a second "name", so a composed font reads back with "yes" or "no" for its
@@ -135,16 +129,12 @@ inline constexpr auto fontTags = tags<_FontCaps>({
 });
 
 /// "template", "graphic". A printer is not told where a template is.
-inline constexpr auto stored = rows<_TemplateCaps>({
-    {"name",     text<&_TemplateCaps::name>},
-    {"location", text<&_TemplateCaps::location>},
+inline constexpr auto stored = bothWays<_TemplateCaps>({
+    {"name",     both::text<&_TemplateCaps::name>},
+    {"location", both::text<&_TemplateCaps::location>},
 });
 inline constexpr auto templateTags = tags<_TemplateCaps>({
     {"name", put::text<&_TemplateCaps::name>},
-});
-inline constexpr auto graphicTags = tags<_TemplateCaps>({
-    {"name",     put::text<&_TemplateCaps::name>},
-    {"location", put::text<&_TemplateCaps::location>},
 });
 
 /// The text of "barcode" itself.
@@ -165,73 +155,45 @@ inline constexpr auto barCodes          = rows<List<_BarCodeCaps>>({{"barcode", 
 // ---- Sections ----
 
 /// "image_sharpening_levels"
-inline constexpr auto imageSharpening = rows<_Capabilities>({
-    {"image_sharpening_level", bits<&Caps::imageSharpeningLevels, sharpeningLevels>},
-});
-inline constexpr auto imageSharpeningTags = tags<_Capabilities>({
-    {"image_sharpening_level", put::bits<&Caps::imageSharpeningLevels, sharpeningLevels>},
+inline constexpr auto imageSharpening = bothWays<_Capabilities>({
+    {"image_sharpening_level", both::bits<&Caps::imageSharpeningLevels, sharpeningLevels>},
 });
 
 /// "security"
-inline constexpr auto security = rows<_SecurityCaps>({
-    {"passkey_protection",   flag<&_SecurityCaps::passkeyProtection>},
-    {"encryption_algorithm", word<&_SecurityCaps::encryptionAlgorithm, encryptionAlgorithms>},
-});
-inline constexpr auto securityTags = tags<_SecurityCaps>({
-    {"passkey_protection",   put::yesOrNo<&_SecurityCaps::passkeyProtection>},
-    {"encryption_algorithm", put::word<&_SecurityCaps::encryptionAlgorithm, encryptionAlgorithms, "none">},
+inline constexpr auto security = bothWays<_SecurityCaps>({
+    {"passkey_protection",   both::yesOrNo<&_SecurityCaps::passkeyProtection>},
+    {"encryption_algorithm", both::word<&_SecurityCaps::encryptionAlgorithm, encryptionAlgorithms, "none">},
 });
 
 /// "memory"
-inline constexpr auto memory = rows<_Capabilities>({
-    {"ram",   number<&Caps::ramSize>},
-    {"flash", number<&Caps::flashSize>},
-});
-inline constexpr auto memoryTags = tags<_Capabilities>({
-    {"ram",   put::number<&Caps::ramSize>},
-    {"flash", put::number<&Caps::flashSize>},
+inline constexpr auto memory = bothWays<_Capabilities>({
+    {"ram",   both::number<&Caps::ramSize>},
+    {"flash", both::number<&Caps::flashSize>},
 });
 
 /// "media_path"
-inline constexpr auto mediaPath = rows<_Capabilities>({
-    {"atm",               flag<&Caps::atm>},
-    {"magazine_capacity", number<&Caps::magazineCapacity>},
-});
-inline constexpr auto mediaPathTags = tags<_Capabilities>({
-    {"atm",               put::yesOrNo<&Caps::atm>},
-    {"magazine_capacity", put::number<&Caps::magazineCapacity>},
+inline constexpr auto mediaPath = bothWays<_Capabilities>({
+    {"atm",               both::yesOrNo<&Caps::atm>},
+    {"magazine_capacity", both::number<&Caps::magazineCapacity>},
 });
 
 /// "logical_page"
-inline constexpr auto logicalPage = rows<_Capabilities>({
-    {"length", number<&Caps::logicalPageLength>},
-    {"width",  number<&Caps::logicalPageWidth>},
-});
-inline constexpr auto logicalPageTags = tags<_Capabilities>({
-    {"length", put::number<&Caps::logicalPageLength>},
-    {"width",  put::number<&Caps::logicalPageWidth>},
+inline constexpr auto logicalPage = bothWays<_Capabilities>({
+    {"length", both::number<&Caps::logicalPageLength>},
+    {"width",  both::number<&Caps::logicalPageWidth>},
 });
 
 /// "physical_page"
-inline constexpr auto physicalPage = rows<_Capabilities>({
-    {"length", number<&Caps::physicalPageLength>},
-    {"width",  number<&Caps::physicalPageWidth>},
-});
-inline constexpr auto physicalPageTags = tags<_Capabilities>({
-    {"length", put::number<&Caps::physicalPageLength>},
-    {"width",  put::number<&Caps::physicalPageWidth>},
+inline constexpr auto physicalPage = bothWays<_Capabilities>({
+    {"length", both::number<&Caps::physicalPageLength>},
+    {"width",  both::number<&Caps::physicalPageWidth>},
 });
 
 /// "image"
-inline constexpr auto image = rows<_Capabilities>({
-    {"logical_page",     group<logicalPage>},
-    {"physical_page",    group<physicalPage>},
-    {"print_resolution", number<&Caps::printResolution>},
-});
-inline constexpr auto imageTags = tags<_Capabilities>({
-    {"logical_page",     put::group<logicalPageTags>},
-    {"physical_page",    put::group<physicalPageTags>},
-    {"print_resolution", put::number<&Caps::printResolution>},
+inline constexpr auto image = bothWays<_Capabilities>({
+    {"logical_page",     both::group<logicalPage>},
+    {"physical_page",    both::group<physicalPage>},
+    {"print_resolution", both::number<&Caps::printResolution>},
 });
 
 /// "internal_encoder"
@@ -282,26 +244,26 @@ inline constexpr auto wholeTags = tags<_Capabilities>({
     hostPortsTag,
     devicePortsTag,
     {"software_interfaces",     put::list<&Caps::swInterfaceCount, &Caps::swInterfaces,
-                                          "software_interface", put::group<swInterfaceTags>>,
+                                          "software_interface", put::group<swInterface>>,
                                 unlessZero<&Caps::swInterfaceCount>},
     {"ocp_languages",           put::list<&Caps::ocpLanguageCount, &Caps::ocpLanguages,
-                                          "ocp_language", put::group<panelLanguageTags>>,
+                                          "ocp_language", put::group<panelLanguage>>,
                                 unlessZero<&Caps::ocpLanguageCount>},
-    {"image_sharpening_levels", put::group<imageSharpeningTags>},
-    {"security",                put::part<&Caps::security, securityTags>},
-    {"memory",                  put::group<memoryTags>},
+    {"image_sharpening_levels", put::group<imageSharpening>},
+    {"security",                put::part<&Caps::security, security>},
+    {"memory",                  put::group<memory>},
     {"graphic_formats",         put::list<&Caps::graphicFormatCount, &Caps::graphicFormats,
                                           "graphic_format", put::wordItself<graphicFormats>>},
     {"fonts",                   put::list<&Caps::fontCount, &Caps::fonts, "font", put::group<fontTags>>},
     {"templates",               put::list<&Caps::templateCount, &Caps::templates,
                                           "template", put::group<templateTags>>},
-    {"graphics",                put::list<&Caps::graphicCount, &Caps::graphics, "graphic", put::group<graphicTags>>},
+    {"graphics",                put::list<&Caps::graphicCount, &Caps::graphics, "graphic", put::group<stored>>},
     {"print_system",            requestedPrintSystem},
     {"print_type",              put::word<&Caps::printType, laminationTypes>},
     {"laminator",               put::either<&Caps::laminator, "present", "notpresent">},
     {"laminator_type",          laminatorWord, withLaminator},
-    {"media_path",              put::group<mediaPathTags>},
-    {"image",                   put::group<imageTags>},
+    {"media_path",              put::group<mediaPath>},
+    {"image",                   put::group<image>},
     {"mag_encoder",             laminatorWord},
     {"mag_stripe",              laminatorWord},
     {"internal_encoder",        put::part<&Caps::internalEncoder, encoderTags>},

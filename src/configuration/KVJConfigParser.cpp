@@ -112,15 +112,15 @@ bool KVJConfigParser::getCardInformation(TiXmlElement* element, _CustomCardInfo&
 }
 
 bool KVJConfigParser::getTransferTemp(TiXmlElement* element, _TransferTempInfo& temperatures) {
-    return walk(element, temperatures, tables::transferTemps);
+    return walk(element, temperatures, kvjxml::transferTemps);
 }
 
 bool KVJConfigParser::getTransferSpeed(TiXmlElement* element, _TransferSpeedInfo& speeds) {
-    return walk(element, speeds, tables::transferSpeeds);
+    return walk(element, speeds, kvjxml::transferSpeeds);
 }
 
 bool KVJConfigParser::getLaminatorAdjustments(TiXmlElement* element, _LaminationAdjustmentsNew& adjustments) {
-    return walk(element, adjustments, tables::laminatorAdjustments);
+    return walk(element, adjustments, kvjxml::laminatorAdjustments);
 }
 
 bool KVJConfigParser::getTransferSettings(TiXmlElement* element, _ImageTransferInfo& transfer) {

@@ -46,7 +46,7 @@ bool KVJSetConfig::addWirelessParams(TiXmlElement* element, const _WirelessParam
 }
 
 bool KVJSetConfig::addOCPLanguage(TiXmlElement* under, const _OCPLanguageCaps& language) {
-    return addGroup(under, "ocp_language", language, kvjxml::panelLanguageTags);
+    return addGroup(under, "ocp_language", language, kvjxml::panelLanguage);
 }
 
 bool KVJSetConfig::addErrorControl(TiXmlElement* under, ErrorControl errorControl) {
@@ -58,11 +58,11 @@ bool KVJSetConfig::addUSBSpeed(TiXmlElement* under, USB_Speed speed) {
 }
 
 bool KVJSetConfig::addUsageCounters(TiXmlElement* under, const _KVConfiguration& cfg) {
-    return addGroup(under, "usage_counters", cfg, tables::usageCountersTags);
+    return addGroup(under, "usage_counters", cfg, tables::usageCounters);
 }
 
 bool KVJSetConfig::addUSBTimeout(TiXmlElement* under, const _KVConfiguration& cfg) {
-    return addGroup(under, "usb_timeout", cfg.usbTimeout, tables::usbTimeoutTags);
+    return addGroup(under, "usb_timeout", cfg.usbTimeout, tables::usbTimeout);
 }
 
 bool KVJSetConfig::addFeederParams(TiXmlElement* under, const _eFeedMode& mode) {
@@ -84,7 +84,7 @@ bool KVJSetConfig::addPowerAdjustments(TiXmlElement* element, const _PowerAdjust
 }
 
 bool KVJSetConfig::addTricolorSettings(TiXmlElement* under, const _RGBINT& colors) {
-    return addGroup(under, "tricolor_settings", colors, tables::tricolorTags);
+    return addGroup(under, "tricolor_settings", colors, tables::tricolor);
 }
 
 bool KVJSetConfig::addRibbonMotorParams(TiXmlElement* under, const _RibbonMotorParams& motor) {
@@ -114,23 +114,23 @@ bool KVJSetConfig::addCardInformation(TiXmlElement* under, const _CustomCardInfo
 }
 
 bool KVJSetConfig::addTransferTemps(TiXmlElement* under, const _TransferTempInfo& temperatures) {
-    return addGroup(under, "transfer_temps", temperatures, kvjxml::transferTempTags);
+    return addGroup(under, "transfer_temps", temperatures, kvjxml::transferTemps);
 }
 
 bool KVJSetConfig::addTransferSpeeds(TiXmlElement* under, const _TransferSpeedInfo& speeds) {
-    return addGroup(under, "transfer_speeds", speeds, kvjxml::transferSpeedTags);
+    return addGroup(under, "transfer_speeds", speeds, kvjxml::transferSpeeds);
 }
 
 bool KVJSetConfig::addLamAdjustments(TiXmlElement* under, const _LaminationAdjustmentsNew& adjustments) {
-    return addGroup(under, "laminator_adjustments", adjustments, kvjxml::laminatorAdjustmentTags);
+    return addGroup(under, "laminator_adjustments", adjustments, kvjxml::laminatorAdjustments);
 }
 
 bool KVJSetConfig::addTransferSettings(TiXmlElement* under, const _ImageTransferInfo& transfer) {
-    return addGroup(under, "transfer_settings", transfer, tables::transferSettingsTags);
+    return addGroup(under, "transfer_settings", transfer, tables::transferSettings);
 }
 
 bool KVJSetConfig::addTransferTemps(TiXmlElement* under, const _ImageTransferTempInfo& temperatures) {
-    return addGroup(under, "transfer_temps", temperatures, tables::imageTransferTempTags);
+    return addGroup(under, "transfer_temps", temperatures, tables::imageTransferTemps);
 }
 
 bool KVJSetConfig::addLaminationInfo(TiXmlElement* under, _LaminationIfo& lamination) {

@@ -5,8 +5,7 @@
 #define KVJXML_CONFIGURATION_CALIBRATION_H
 
 #include "ConfigurationRecords.h"
-#include "foundation/read_rules.h"
-#include "foundation/write_rules.h"
+#include "foundation/both.h"
 
 namespace kvjxml::configuration {
 
@@ -57,15 +56,10 @@ inline constexpr auto imagingTags = tags<_ImagingParams>({
 });
 
 /// "tricolor_settings"
-inline constexpr auto tricolor = rows<_RGBINT>({
-    {"red",   number<&_RGBINT::red>},
-    {"green", number<&_RGBINT::green>},
-    {"blue",  number<&_RGBINT::blue>},
-});
-inline constexpr auto tricolorTags = tags<_RGBINT>({
-    {"red",   put::number<&_RGBINT::red>},
-    {"green", put::number<&_RGBINT::green>},
-    {"blue",  put::number<&_RGBINT::blue>},
+inline constexpr auto tricolor = bothWays<_RGBINT>({
+    {"red",   both::number<&_RGBINT::red>},
+    {"green", both::number<&_RGBINT::green>},
+    {"blue",  both::number<&_RGBINT::blue>},
 });
 
 /// "takeup_motor". The printer measures "VtoI" itself and takes none.

@@ -57,23 +57,15 @@ inline constexpr Condition<_KVConfiguration> withLaminate{
 // clang-format off
 
 /// "usb_timeout"
-inline constexpr auto usbTimeout = rows<_USBTimeout>({
-    {"read",  setting<&_USBTimeout::read>},
-    {"write", setting<&_USBTimeout::write>},
-});
-inline constexpr auto usbTimeoutTags = tags<_USBTimeout>({
-    {"read",  put::setting<&_USBTimeout::read>},
-    {"write", put::setting<&_USBTimeout::write>},
+inline constexpr auto usbTimeout = bothWays<_USBTimeout>({
+    {"read",  both::setting<&_USBTimeout::read>},
+    {"write", both::setting<&_USBTimeout::write>},
 });
 
 /// "usage_counters"
-inline constexpr auto usageCounters = rows<_KVConfiguration>({
-    {"num_cards_printed", number<&_KVConfiguration::numCardsPrinted>},
-    {"num_lines_printed", number<&_KVConfiguration::numLinesPrinted>},
-});
-inline constexpr auto usageCountersTags = tags<_KVConfiguration>({
-    {"num_cards_printed", put::number<&_KVConfiguration::numCardsPrinted>},
-    {"num_lines_printed", put::number<&_KVConfiguration::numLinesPrinted>},
+inline constexpr auto usageCounters = bothWays<_KVConfiguration>({
+    {"num_cards_printed", both::number<&_KVConfiguration::numCardsPrinted>},
+    {"num_lines_printed", both::number<&_KVConfiguration::numLinesPrinted>},
 });
 
 /// "internal_encoder"
@@ -116,23 +108,23 @@ inline constexpr auto documentSections = sections<_KVConfiguration>({
     {0x1,      "physical_address",        put::hardwareAddress<&_KVConfiguration::physicalAddress>},
     {0x2,      "ethernet",                put::part<&_KVConfiguration::ethernet, networkTags>},
     {0x4,      "ethernet",                put::part<&_KVConfiguration::wireless, wirelessTags>},
-    {0x8,      "ocp_language",            put::part<&_KVConfiguration::ocpLanguage, panelLanguageTags>},
+    {0x8,      "ocp_language",            put::part<&_KVConfiguration::ocpLanguage, panelLanguage>},
     {0x10,     "error_control",           put::word<&_KVConfiguration::errorControl, errorControlsWritten, "med">},
     {0x10,     "usb_speed",               put::word<&_KVConfiguration::usbSpeed, usbSpeeds, "high">},
-    {0x20,     "usage_counters",          put::group<usageCountersTags>},
+    {0x20,     "usage_counters",          put::group<usageCounters>},
     {0x40,     "standby_timeout",         put::number<&_KVConfiguration::standbyTimeout>},
     {0x80,     "imaging_parameters",      put::part<&_KVConfiguration::imagingParameters, imagingTags>},
     {0x200,    "ribbon_motor_parameters", put::part<&_KVConfiguration::ribbonMotorParameters, ribbonMotorTags>},
     {0x400,    "ribbon_sensor_offset",    put::setting<&_KVConfiguration::ribbonSensorOffset>},
     {0x1000,   "mech_adjustments",        put::part<&_KVConfiguration::mechAdjustments, mechanicsTags>},
-    {0x1000,   "usb_timeout",             put::part<&_KVConfiguration::usbTimeout, usbTimeoutTags>},
+    {0x1000,   "usb_timeout",             put::part<&_KVConfiguration::usbTimeout, usbTimeout>},
     {0x2000,   "media_info",              put::group<mediaInfoTags>},
     {0x40000,  "lamination",              put::part<&_KVConfiguration::lamination, laminationTags>, withLaminate},
-    {0x20000,  "cleaning",                put::part<&_KVConfiguration::cleaning, cleaningTags>},
-    {0x20000,  "cleaning_thresholds",     put::part<&_KVConfiguration::cleaning, cleaningThresholdsTags>},
+    {0x20000,  "cleaning",                put::part<&_KVConfiguration::cleaning, cleaning>},
+    {0x20000,  "cleaning_thresholds",     put::part<&_KVConfiguration::cleaning, cleaningThresholds>},
     {0x400000, "feeder_mode",             put::word<&_KVConfiguration::feederMode, feederModes, "hopper">},
     {0x4000,   "cards",                   put::group<cardsTags>, always, forCardAlone},
-    {0x8000,   "transfer_settings",       put::part<&_KVConfiguration::transferSettings, transferSettingsTags>,
+    {0x8000,   "transfer_settings",       put::part<&_KVConfiguration::transferSettings, transferSettings>,
                                           withTransfer},
     {0x10000,  "lcd_contrast",            put::setting<&_KVConfiguration::lcdContrast>},
     {0x80000,  "internal_encoder",        put::part<&_KVConfiguration::internalEncoder, encoderTags>},

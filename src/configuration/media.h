@@ -6,9 +6,8 @@
 
 #include "ConfigurationRecords.h"
 #include "configuration/ribbon_name.h"
-#include "foundation/read_rules.h"
+#include "foundation/both.h"
 #include "foundation/vocabulary.h"
-#include "foundation/write_rules.h"
 #include "shared/card.h"
 
 namespace kvjxml::configuration {
@@ -60,29 +59,6 @@ inline constexpr auto mediaInfoTags = tags<_KVConfiguration>({
 
 // ---- Cards ----
 
-/// "transfer_temps" of a card
-inline constexpr auto transferTemps = rows<_TransferTempInfo>({
-    {"top_single", setting<&_TransferTempInfo::topSingle>},
-    {"bot_single", setting<&_TransferTempInfo::botSingle>},
-    {"top_double", setting<&_TransferTempInfo::topDouble>},
-    {"bot_double", setting<&_TransferTempInfo::botDouble>},
-});
-
-/// "transfer_speeds"
-inline constexpr auto transferSpeeds = rows<_TransferSpeedInfo>({
-    {"input_single",  setting<&_TransferSpeedInfo::inputSingle>},
-    {"output_single", setting<&_TransferSpeedInfo::outputSingle>},
-    {"input_double",  setting<&_TransferSpeedInfo::inputDouble>},
-    {"output_double", setting<&_TransferSpeedInfo::outputDouble>},
-});
-
-/// "laminator_adjustments"
-inline constexpr auto laminatorAdjustments = rows<_LaminationAdjustmentsNew>({
-    {"top_temp_adjust", setting<&_LaminationAdjustmentsNew::topTempAdjust>},
-    {"bot_temp_adjust", setting<&_LaminationAdjustmentsNew::botTempAdjust>},
-    {"speed_adjust",    setting<&_LaminationAdjustmentsNew::speedAdjust>},
-});
-
 /// "card"
 inline constexpr auto card = rows<_CustomCardInfo>({
     {"information",           group<cardInformation<_CustomCardInfo>>},
@@ -93,10 +69,10 @@ inline constexpr auto card = rows<_CustomCardInfo>({
 });
 inline constexpr auto cardTags = tags<_CustomCardInfo>({
     {"information",           put::group<cardInformationTags<_CustomCardInfo>>},
-    {"transfer_temps",        put::part<&_CustomCardInfo::transferTemps, transferTempTags>, withTransfer},
-    {"transfer_speeds",       put::part<&_CustomCardInfo::transferSpeeds, transferSpeedTags>, withTransfer},
+    {"transfer_temps",        put::part<&_CustomCardInfo::transferTemps, transferTemps>, withTransfer},
+    {"transfer_speeds",       put::part<&_CustomCardInfo::transferSpeeds, transferSpeeds>, withTransfer},
     {"cal_table",             put::number<&_CustomCardInfo::calTable>},
-    {"laminator_adjustments", put::part<&_CustomCardInfo::laminatorAdjustments, laminatorAdjustmentTags>},
+    {"laminator_adjustments", put::part<&_CustomCardInfo::laminatorAdjustments, laminatorAdjustments>},
 });
 
 /// One of the two custom cards, by its description.
@@ -132,61 +108,36 @@ inline constexpr auto cardsTags = tags<_KVConfiguration>({
 // ---- Transfer ----
 
 /// "transfer_temps" in "transfer_settings"
-inline constexpr auto imageTransferTemps = rows<_ImageTransferTempInfo>({
-    {"top_single",        setting<&_ImageTransferTempInfo::topSingle>},
-    {"bot_single",        setting<&_ImageTransferTempInfo::botSingle>},
-    {"top_double",        setting<&_ImageTransferTempInfo::topDouble>},
-    {"bot_double",        setting<&_ImageTransferTempInfo::botDouble>},
-    {"top_single_offset", setting<&_ImageTransferTempInfo::topSingleOffset>},
-    {"bot_single_offset", setting<&_ImageTransferTempInfo::botSingleOffset>},
-    {"top_double_offset", setting<&_ImageTransferTempInfo::topDoubleOffset>},
-    {"bot_double_offset", setting<&_ImageTransferTempInfo::botDoubleOffset>},
-    {"top_temp_cal",      setting<&_ImageTransferTempInfo::topTempCal>},
-    {"bot_temp_cal",      setting<&_ImageTransferTempInfo::botTempCal>},
-    {"top_temp_tilt",     setting<&_ImageTransferTempInfo::topTempTilt>},
-    {"bot_temp_tilt",     setting<&_ImageTransferTempInfo::botTempTilt>},
-});
-inline constexpr auto imageTransferTempTags = tags<_ImageTransferTempInfo>({
-    {"top_single",        put::setting<&_ImageTransferTempInfo::topSingle>},
-    {"bot_single",        put::setting<&_ImageTransferTempInfo::botSingle>},
-    {"top_double",        put::setting<&_ImageTransferTempInfo::topDouble>},
-    {"bot_double",        put::setting<&_ImageTransferTempInfo::botDouble>},
-    {"top_single_offset", put::setting<&_ImageTransferTempInfo::topSingleOffset>},
-    {"bot_single_offset", put::setting<&_ImageTransferTempInfo::botSingleOffset>},
-    {"top_double_offset", put::setting<&_ImageTransferTempInfo::topDoubleOffset>},
-    {"bot_double_offset", put::setting<&_ImageTransferTempInfo::botDoubleOffset>},
-    {"top_temp_cal",      put::setting<&_ImageTransferTempInfo::topTempCal>},
-    {"bot_temp_cal",      put::setting<&_ImageTransferTempInfo::botTempCal>},
-    {"top_temp_tilt",     put::setting<&_ImageTransferTempInfo::topTempTilt>},
-    {"bot_temp_tilt",     put::setting<&_ImageTransferTempInfo::botTempTilt>},
+inline constexpr auto imageTransferTemps = bothWays<_ImageTransferTempInfo>({
+    {"top_single",        both::setting<&_ImageTransferTempInfo::topSingle>},
+    {"bot_single",        both::setting<&_ImageTransferTempInfo::botSingle>},
+    {"top_double",        both::setting<&_ImageTransferTempInfo::topDouble>},
+    {"bot_double",        both::setting<&_ImageTransferTempInfo::botDouble>},
+    {"top_single_offset", both::setting<&_ImageTransferTempInfo::topSingleOffset>},
+    {"bot_single_offset", both::setting<&_ImageTransferTempInfo::botSingleOffset>},
+    {"top_double_offset", both::setting<&_ImageTransferTempInfo::topDoubleOffset>},
+    {"bot_double_offset", both::setting<&_ImageTransferTempInfo::botDoubleOffset>},
+    {"top_temp_cal",      both::setting<&_ImageTransferTempInfo::topTempCal>},
+    {"bot_temp_cal",      both::setting<&_ImageTransferTempInfo::botTempCal>},
+    {"top_temp_tilt",     both::setting<&_ImageTransferTempInfo::topTempTilt>},
+    {"bot_temp_tilt",     both::setting<&_ImageTransferTempInfo::botTempTilt>},
 });
 
 /// "transfer_settings"
-inline constexpr auto transferSettings = rows<_ImageTransferInfo>({
-    {"transfer_type",   word<&_ImageTransferInfo::transferType, transferTypes>},
-    {"transfer_temps",  part<&_ImageTransferInfo::transferTemps, imageTransferTemps>},
-    {"transfer_speeds", part<&_ImageTransferInfo::transferSpeeds, transferSpeeds>},
-});
-inline constexpr auto transferSettingsTags = tags<_ImageTransferInfo>({
-    {"transfer_type",   put::word<&_ImageTransferInfo::transferType, transferTypes>},
-    {"transfer_temps",  put::part<&_ImageTransferInfo::transferTemps, imageTransferTempTags>},
-    {"transfer_speeds", put::part<&_ImageTransferInfo::transferSpeeds, transferSpeedTags>},
+inline constexpr auto transferSettings = bothWays<_ImageTransferInfo>({
+    {"transfer_type",   both::word<&_ImageTransferInfo::transferType, transferTypes>},
+    {"transfer_temps",  both::part<&_ImageTransferInfo::transferTemps, imageTransferTemps>},
+    {"transfer_speeds", both::part<&_ImageTransferInfo::transferSpeeds, transferSpeeds>},
 });
 
 // ---- Lamination ----
 
 /// "laminate_common"
-inline constexpr auto laminateCommon = rows<_laminate_common>({
-    {"patch_length_adj",   setting<&_laminate_common::patchLengthAdj>},
-    {"coarse_x_offset",    setting<&_laminate_common::coarseXOffset>},
-    {"speed_adjust",       setting<&_laminate_common::speedAdjust>},
-    {"passthru_speed_adj", setting<&_laminate_common::passthruSpeedAdj>},
-});
-inline constexpr auto laminateCommonTags = tags<_laminate_common>({
-    {"patch_length_adj",   put::setting<&_laminate_common::patchLengthAdj>},
-    {"coarse_x_offset",    put::setting<&_laminate_common::coarseXOffset>},
-    {"speed_adjust",       put::setting<&_laminate_common::speedAdjust>},
-    {"passthru_speed_adj", put::setting<&_laminate_common::passthruSpeedAdj>},
+inline constexpr auto laminateCommon = bothWays<_laminate_common>({
+    {"patch_length_adj",   both::setting<&_laminate_common::patchLengthAdj>},
+    {"coarse_x_offset",    both::setting<&_laminate_common::coarseXOffset>},
+    {"speed_adjust",       both::setting<&_laminate_common::speedAdjust>},
+    {"passthru_speed_adj", both::setting<&_laminate_common::passthruSpeedAdj>},
 });
 
 /// "laminate_installed". The printer names width and registration by words and takes them as numbers.
@@ -249,7 +200,7 @@ inline constexpr auto lamination = rows<_LaminationIfo>({
     {"bottom_laminate", part<&_LaminationIfo::bottomLaminate, laminate>},
 });
 inline constexpr auto laminationTags = tags<_LaminationIfo>({
-    {"laminate_common", put::part<&_LaminationIfo::laminateCommon, laminateCommonTags>},
+    {"laminate_common", put::part<&_LaminationIfo::laminateCommon, laminateCommon>},
     {"top_laminate",    put::part<&_LaminationIfo::topLaminate, laminateTags<topControlTags>>, withTopLaminate},
     {"bottom_laminate", put::part<&_LaminationIfo::bottomLaminate, laminateTags<bottomControlTags>>, withTopLaminate},
 });
@@ -257,25 +208,18 @@ inline constexpr auto laminationTags = tags<_LaminationIfo>({
 // ---- Cleaning ----
 
 /// "cleaning"
-inline constexpr auto cleaning = rows<_CleaningParams>({
-    {"cleaning_deadline_is_soft", text<&_CleaningParams::cleaningDeadlineIsSoft>},
-});
-inline constexpr auto cleaningTags = tags<_CleaningParams>({
-    {"cleaning_deadline_is_soft", put::text<&_CleaningParams::cleaningDeadlineIsSoft>},
+inline constexpr auto cleaning = bothWays<_CleaningParams>({
+    {"cleaning_deadline_is_soft", both::text<&_CleaningParams::cleaningDeadlineIsSoft>},
 });
 
 /// "cleaning_thresholds"
-inline constexpr auto cleaningThresholds = rows<_CleaningParams>({
-    {"alcohol_card_cleaning", setting<&_CleaningParams::alcoholCardCleaning>},
-    {"pre_warning",           setting<&_CleaningParams::preWarning>},
-});
-inline constexpr auto cleaningThresholdsTags = tags<_CleaningParams>({
-    {"alcohol_card_cleaning", put::setting<&_CleaningParams::alcoholCardCleaning>},
-    {"pre_warning",           put::setting<&_CleaningParams::preWarning>},
+inline constexpr auto cleaningThresholds = bothWays<_CleaningParams>({
+    {"alcohol_card_cleaning", both::setting<&_CleaningParams::alcoholCardCleaning>},
+    {"pre_warning",           both::setting<&_CleaningParams::preWarning>},
 });
 inline constexpr auto cleaningSections = tags<_CleaningParams>({
-    {"cleaning",            put::group<cleaningTags>},
-    {"cleaning_thresholds", put::group<cleaningThresholdsTags>},
+    {"cleaning",            put::group<cleaning>},
+    {"cleaning_thresholds", put::group<cleaningThresholds>},
 });
 
 // clang-format on

@@ -3,8 +3,8 @@
 /// all, in the table's order. The rules that rows are made with are in write_rules.h.
 ///
 ///     constexpr auto cardTags = tags<_CardInfo>({
-///         {"transfer_temps",        put::part<&_CardInfo::transferTemps, transferTempTags>, withTransfer},
-///         {"laminator_adjustments", put::part<&_CardInfo::laminationAdjustments, adjustmentTags>},
+///         {"transfer_temps",        put::part<&_CardInfo::transferTemps, transferTemps>, withTransfer},
+///         {"laminator_adjustments", put::part<&_CardInfo::laminationAdjustments, laminatorAdjustments>},
 ///         {"cal_table",             put::number<&_CardInfo::calTable>},
 ///     });
 #ifndef KVJXML_FOUNDATION_COMPOSE_H
@@ -64,7 +64,7 @@ inline constexpr SelectionCondition directToCard("when printing is direct to car
 
 template <class Record>
 struct Tag {
-    const char* name;
+    std::string_view name;
     WriteRule<Record> rule;
     Condition<Record> when = always;
 };
@@ -83,7 +83,7 @@ bool isWanted(const Tag<Record>& tag, const Record& record, const Selection& sel
 template <class Record>
 struct Section {
     long bit;
-    const char* name;
+    std::string_view name;
     WriteRule<Record> rule;
     Condition<Record> when = always;
     bool ofCards = false;  ///< whether it is written for a card alone as well
@@ -100,6 +100,17 @@ bool isWanted(const Section<Record>& section, const Record& record, const Select
            section.when.holds(record, selection);
 }
 
+/// What a row that is written says of itself.
+constexpr DescribedRow describeWritten(const auto& row) { return describe(row); }
+
+/// A table as it is written, for the reference.
+template <const auto& Table>
+inline constexpr auto describedWritten = [] {
+    std::array<DescribedRow, Table.size()> list{};
+    std::ranges::transform(Table, list.begin(), [](const auto& row) { return describeWritten(row); });
+    return list;
+}();
+
 /// Makes a table.
 template <class Record, std::size_t N>
 consteval std::array<Tag<Record>, N> tags(const Tag<Record> (&list)[N]) {
@@ -110,12 +121,15 @@ consteval std::array<Section<Record>, N> sections(const Section<Record> (&list)[
     return std::to_array(list);
 }
 
+/// The name of a row, for TinyXML. It is a literal, so that it has its terminator.
+constexpr const char* terminated(std::string_view name) { return name.data(); }
+
 /// The one loop. The result is that of the last element written; `result` when there was none.
 template <class Record, template <class> class RowOf, std::size_t N>
 bool compose(TiXmlElement* parent, const Record& record, const std::array<RowOf<Record>, N>& table,
              const Selection& selection = {}, bool result = false) {
     for (const auto& row : table) {
-        if (isWanted(row, record, selection)) result = row.rule.write(parent, row.name, record, selection);
+        if (isWanted(row, record, selection)) result = row.rule.write(parent, terminated(row.name), record, selection);
     }
     return result;
 }
@@ -123,7 +137,7 @@ bool compose(TiXmlElement* parent, const Record& record, const std::array<RowOf<
 /// One row alone, for the operation that is named after it.
 template <class Record>
 bool compose(TiXmlElement* parent, const Record& record, const Tag<Record>& tag, const Selection& selection = {}) {
-    return isWanted(tag, record, selection) && tag.rule.write(parent, tag.name, record, selection);
+    return isWanted(tag, record, selection) && tag.rule.write(parent, terminated(tag.name), record, selection);
 }
 
 /// Adds the element `name` and composes it with a table of its own.

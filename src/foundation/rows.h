@@ -42,12 +42,9 @@ constexpr DescribedRow describe(const Row<Record>& row) {
     return {row.name, row.rule.description};
 }
 
-template <class Record, std::size_t N>
-using Rows = std::array<Row<Record>, N>;
-
-/// Makes a table.
-template <class Record, std::size_t N>
-consteval Rows<Record, N> rows(const Row<Record> (&list)[N]) {
+/// A table, when no name stands twice in it.
+template <class AnyRow, std::size_t N>
+consteval std::array<AnyRow, N> withoutRepeats(const AnyRow (&list)[N]) {
     for (std::size_t i = 0; i < N; ++i) {
         for (std::size_t k = 0; k < i; ++k) {
             if (list[i].name == list[k].name) throw "a name stands twice in its table";
@@ -56,14 +53,20 @@ consteval Rows<Record, N> rows(const Row<Record> (&list)[N]) {
     return std::to_array(list);
 }
 
+/// Makes a table.
+template <class Record, std::size_t N>
+consteval std::array<Row<Record>, N> rows(const Row<Record> (&list)[N]) {
+    return withoutRepeats(list);
+}
+
 /// The one loop. Visits the children of `element` in document order and reads each that has a row: a name is compared
 /// exactly, one without a row is skipped, one that comes again is read again.
 /// @return the result of the last child that had a row; false for a null element and one without such a child.
-template <class Record, std::size_t N>
-bool walk(Element element, Record& record, const Rows<Record, N>& table) {
+template <class Record, template <class> class RowOf, std::size_t N>
+bool walk(Element element, Record& record, const std::array<RowOf<Record>, N>& table) {
     bool result = false;
     for (const Element child : element.children()) {
-        const auto row = std::ranges::find(table, child.name(), &Row<Record>::name);
+        const auto row = std::ranges::find(table, child.name(), &RowOf<Record>::name);
         if (row != table.end()) result = row->rule.read(child, record);
     }
     return result;

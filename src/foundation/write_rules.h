@@ -160,7 +160,7 @@ inline constexpr WriteRule<RecordOf<Array>> list{
 /// A group of elements, composed with a table of its own from the same record.
 template <const auto& Table>
 inline constexpr WriteRule<RecordOfTable<Table>> group{
-    {.kind = Kind::group, .group = described<Table>},
+    {.kind = Kind::group, .group = describedWritten<Table>},
     [](TiXmlElement* parent, const char* name, const RecordOfTable<Table>& record, const Selection& selection) {
         return addGroup(parent, name, record, Table, selection);
     }};
@@ -168,7 +168,7 @@ inline constexpr WriteRule<RecordOfTable<Table>> group{
 /// A group of elements, composed with a table of its own from a record inside the record.
 template <auto Member, const auto& Table>
 inline constexpr WriteRule<RecordOf<Member>> part{
-    {.field = fieldOf<Member>, .kind = Kind::part, .group = described<Table>},
+    {.field = fieldOf<Member>, .kind = Kind::part, .group = describedWritten<Table>},
     [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection& selection) {
         return addGroup(parent, name, record.*Member, Table, selection);
     }};

@@ -49,15 +49,15 @@ bool KVJSetMedia::addCardInformation(TiXmlElement* under, const _CardInfo& card)
 }
 
 bool KVJSetMedia::addTransferTemps(TiXmlElement* under, const _TransferTempInfo& temperatures) {
-    return addGroup(under, "transfer_temps", temperatures, kvjxml::transferTempTags);
+    return addGroup(under, "transfer_temps", temperatures, kvjxml::transferTemps);
 }
 
 bool KVJSetMedia::addTransferSpeeds(TiXmlElement* under, const _TransferSpeedInfo& speeds) {
-    return addGroup(under, "transfer_speeds", speeds, kvjxml::transferSpeedTags);
+    return addGroup(under, "transfer_speeds", speeds, kvjxml::transferSpeeds);
 }
 
 bool KVJSetMedia::addLaminationAdjustments(TiXmlElement* under, const _LaminationAdjustmentsNew& adjustments) {
-    return addGroup(under, "laminator_adjustments", adjustments, kvjxml::laminatorAdjustmentTags);
+    return addGroup(under, "laminator_adjustments", adjustments, kvjxml::laminatorAdjustments);
 }
 
 bool KVJSetMedia::saveJob(wchar_t* out, int outLen) { return kvjxml::print(*this, out, outLen); }

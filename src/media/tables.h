@@ -70,9 +70,9 @@ inline constexpr auto card = rows<_CardInfo>({
 });
 inline constexpr auto cardTags = tags<_CardInfo>({
     {"information",           put::group<cardInformationTags<_CardInfo>>},
-    {"transfer_temps",        put::part<&_CardInfo::transferTemps, transferTempTags>, withTransfer},
-    {"transfer_speeds",       put::part<&_CardInfo::transferSpeeds, transferSpeedTags>, withTransfer},
-    {"laminator_adjustments", put::part<&_CardInfo::laminationAdjustments, laminatorAdjustmentTags>},
+    {"transfer_temps",        put::part<&_CardInfo::transferTemps, kvjxml::transferTemps>, withTransfer},
+    {"transfer_speeds",       put::part<&_CardInfo::transferSpeeds, kvjxml::transferSpeeds>, withTransfer},
+    {"laminator_adjustments", put::part<&_CardInfo::laminationAdjustments, laminatorAdjustments>},
     {"cal_table",             put::number<&_CardInfo::calTable>},
 });
 

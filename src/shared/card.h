@@ -5,9 +5,8 @@
 #define KVJXML_SHARED_CARD_H
 
 #include "ConfigurationRecords.h"
-#include "foundation/read_rules.h"
+#include "foundation/both.h"
 #include "foundation/vocabulary.h"
-#include "foundation/write_rules.h"
 
 namespace kvjxml {
 
@@ -78,26 +77,26 @@ inline constexpr auto cardInformationTags = tags<Card>({
 });
 
 /// "transfer_temps"
-inline constexpr auto transferTempTags = tags<Kavrin::_TransferTempInfo>({
-    {"top_single", put::setting<&Kavrin::_TransferTempInfo::topSingle>},
-    {"bot_single", put::setting<&Kavrin::_TransferTempInfo::botSingle>},
-    {"top_double", put::setting<&Kavrin::_TransferTempInfo::topDouble>},
-    {"bot_double", put::setting<&Kavrin::_TransferTempInfo::botDouble>},
+inline constexpr auto transferTemps = bothWays<Kavrin::_TransferTempInfo>({
+    {"top_single", both::setting<&Kavrin::_TransferTempInfo::topSingle>},
+    {"bot_single", both::setting<&Kavrin::_TransferTempInfo::botSingle>},
+    {"top_double", both::setting<&Kavrin::_TransferTempInfo::topDouble>},
+    {"bot_double", both::setting<&Kavrin::_TransferTempInfo::botDouble>},
 });
 
 /// "transfer_speeds"
-inline constexpr auto transferSpeedTags = tags<Kavrin::_TransferSpeedInfo>({
-    {"input_single",  put::setting<&Kavrin::_TransferSpeedInfo::inputSingle>},
-    {"output_single", put::setting<&Kavrin::_TransferSpeedInfo::outputSingle>},
-    {"input_double",  put::setting<&Kavrin::_TransferSpeedInfo::inputDouble>},
-    {"output_double", put::setting<&Kavrin::_TransferSpeedInfo::outputDouble>},
+inline constexpr auto transferSpeeds = bothWays<Kavrin::_TransferSpeedInfo>({
+    {"input_single",  both::setting<&Kavrin::_TransferSpeedInfo::inputSingle>},
+    {"output_single", both::setting<&Kavrin::_TransferSpeedInfo::outputSingle>},
+    {"input_double",  both::setting<&Kavrin::_TransferSpeedInfo::inputDouble>},
+    {"output_double", both::setting<&Kavrin::_TransferSpeedInfo::outputDouble>},
 });
 
 /// "laminator_adjustments"
-inline constexpr auto laminatorAdjustmentTags = tags<Kavrin::_LaminationAdjustmentsNew>({
-    {"top_temp_adjust", put::setting<&Kavrin::_LaminationAdjustmentsNew::topTempAdjust>},
-    {"bot_temp_adjust", put::setting<&Kavrin::_LaminationAdjustmentsNew::botTempAdjust>},
-    {"speed_adjust",    put::setting<&Kavrin::_LaminationAdjustmentsNew::speedAdjust>},
+inline constexpr auto laminatorAdjustments = bothWays<Kavrin::_LaminationAdjustmentsNew>({
+    {"top_temp_adjust", both::setting<&Kavrin::_LaminationAdjustmentsNew::topTempAdjust>},
+    {"bot_temp_adjust", both::setting<&Kavrin::_LaminationAdjustmentsNew::botTempAdjust>},
+    {"speed_adjust",    both::setting<&Kavrin::_LaminationAdjustmentsNew::speedAdjust>},
 });
 
 // clang-format on

@@ -4,21 +4,16 @@
 #define KVJXML_SHARED_PANEL_H
 
 #include "CapabilitiesRecords.h"
-#include "foundation/read_rules.h"
-#include "foundation/write_rules.h"
+#include "foundation/both.h"
 
 namespace kvjxml {
 
 // clang-format off
 
 /// "ocp_language"
-inline constexpr auto panelLanguage = rows<Kavrin::_OCPLanguageCaps>({
-    {"type", number<&Kavrin::_OCPLanguageCaps::type>},
-    {"name", text<&Kavrin::_OCPLanguageCaps::name>},
-});
-inline constexpr auto panelLanguageTags = tags<Kavrin::_OCPLanguageCaps>({
-    {"type", put::number<&Kavrin::_OCPLanguageCaps::type>},
-    {"name", put::text<&Kavrin::_OCPLanguageCaps::name>},
+inline constexpr auto panelLanguage = bothWays<Kavrin::_OCPLanguageCaps>({
+    {"type", both::number<&Kavrin::_OCPLanguageCaps::type>},
+    {"name", both::text<&Kavrin::_OCPLanguageCaps::name>},
 });
 
 // clang-format on

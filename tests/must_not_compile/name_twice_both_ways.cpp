@@ -1,0 +1,12 @@
+// error: a name stands twice in its table
+#include "StatusRecords.h"
+#include "foundation/both.h"
+
+using namespace kvjxml;
+using Kavrin::KVJobStatus;
+
+constexpr auto table = bothWays<KVJobStatus>({
+    {"copies_done", both::number<&KVJobStatus::copiesDone>},
+    {"uuid", both::text<&KVJobStatus::uuid>},
+    {"copies_done", both::number<&KVJobStatus::copiesTotalSpecified>},
+});
