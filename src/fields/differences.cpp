@@ -16,7 +16,7 @@ std::string shown(const Field& field, const void* record) {
         case FieldType::bit:
             return flagOf(field, record) ? "true" : "false";
         case FieldType::number:
-            return std::to_string(numberOf(field, record));
+            return std::to_string(wholeNumberOf(field, record));
         case FieldType::decimal: {
             // All digits, so that neighbours differ.
             char digits[64];

@@ -29,13 +29,13 @@ bool isZero(const void* value, std::size_t size) {
 
 }  // namespace
 
-std::int64_t numberOf(const Field& field, const void* record) {
+std::int64_t wholeNumberOf(const Field& field, const void* record) {
     return withNumberType(field, [&]<class Number>(Number /*type*/) {
         return static_cast<std::int64_t>(valueOf<Number>(field, record));
     });
 }
 
-bool setNumber(const Field& field, void* record, std::int64_t value) {
+bool setWholeNumber(const Field& field, void* record, std::int64_t value) {
     return withNumberType(field, [&]<class Number>(Number /*type*/) {
         if (!std::in_range<Number>(value)) return false;
         setValue(field, record, static_cast<Number>(value));

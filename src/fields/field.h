@@ -99,9 +99,9 @@ inline void setFlag(const Field& field, void* record, bool value) {
 }
 
 /// A whole number of any size and sign. Of an unsigned one of 64 bits the value keeps its bits.
-std::int64_t numberOf(const Field& field, const void* record);
+std::int64_t wholeNumberOf(const Field& field, const void* record);
 /// @return false, and nothing is stored, for a number that the field cannot hold.
-bool setNumber(const Field& field, void* record, std::int64_t value);
+bool setWholeNumber(const Field& field, void* record, std::int64_t value);
 
 /// How many entries of a list say something: as many as it counts; none while its count is more than there is room for
 /// in the record, as a host sets it to ask for all; and of an array without a count, those up to the last that is not

@@ -85,10 +85,10 @@ inline constexpr AddressField<Member> address{};
 
 /// A value by itself, as a field at its own address.
 template <class Value>
-constexpr Field fieldOf(std::string_view name);
+constexpr Field fieldOfType(std::string_view name);
 
 template <class Entry>
-inline constexpr Field entryField = fieldOf<Entry>({});
+inline constexpr Field entryField = fieldOfType<Entry>({});
 
 /// An array of records by itself, without a count.
 template <class Entry, std::size_t Room>
@@ -100,7 +100,7 @@ inline constexpr Entries arrayOf{
     .at = [](const void* array, std::size_t index) -> const void* { return static_cast<const Entry*>(array) + index; }};
 
 template <class Value>
-constexpr Field fieldOf(std::string_view name) {
+constexpr Field fieldOfType(std::string_view name) {
     const auto itself = [](const void* value) { return value; };
     // NOLINTNEXTLINE(bugprone-sizeof-expression): a field may be a pointer.
     Field field{.name = name, .type = FieldType::number, .size = sizeof(Value), .at = itself};
@@ -222,7 +222,7 @@ struct FieldTraits {
     }
     template <class Value>
     static constexpr Field of(std::type_identity<Value> /*value*/) {
-        Field member = fieldOf<Value>(nameOf<Member>());
+        Field member = fieldOfType<Value>(nameOf<Member>());
         member.at = addressOf<Member>;
         return member;
     }
@@ -299,7 +299,7 @@ constexpr auto fieldArray(FieldList<Fields...> /*list*/) {
 template <class Record>
 struct RecordTypeOf {
     static constexpr auto all = fieldArray<Record>(fields<Record>);
-    static constexpr RecordType value{nameOfType<Record>(), sizeof(Record), alignof(Record), all};
+    static constexpr RecordType value{qualifiedNameOf<Record>(), sizeof(Record), alignof(Record), all};
 };
 
 }  // namespace kvjxml

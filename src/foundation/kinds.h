@@ -88,14 +88,14 @@ enum class WithoutText {
 };
 
 /// A field of a record, by the names that the source has for them.
-struct Field {
+struct FieldName {
     std::string_view record;
     std::string_view name;
     [[nodiscard]] constexpr bool empty() const { return name.empty(); }
 };
 
 template <auto Member>
-inline constexpr Field fieldOf{nameOfType<RecordOf<Member>>(), nameOf<Member>()};
+inline constexpr FieldName fieldOf{nameOfType<RecordOf<Member>>(), nameOf<Member>()};
 
 /// A table of words with its name. Two are the same table when they have the same rows in memory, not the same name.
 struct NamedWords {
@@ -110,7 +110,7 @@ struct DescribedRow;
 
 /// What a row says of itself; reading and writing do not need it.
 struct Description {
-    Field field{};  ///< empty for a group in the same record, and for a record that is a single value
+    FieldName field{};  ///< empty for a group in the same record, and for a record that is a single value
     Kind kind;
     Number number{};
     int decimals{};          ///< how many digits stand behind the decimal point
@@ -118,7 +118,7 @@ struct Description {
     NamedWords words{};
     std::string_view word{};
     std::string_view otherWord{};
-    Field otherField{};
+    FieldName otherField{};
     WithoutText withoutText = WithoutText::isKept;
     std::span<const std::string_view> attributes{};
     std::span<const DescribedRow> group{};

@@ -50,12 +50,10 @@ consteval std::string_view nameOfTable() {
     return name.starts_with(library) ? name.substr(library.size()) : name;
 }
 
-/// The name of a type, with its namespace.
+/// The name of a record with its namespace.
 template <class Argument>
-consteval std::string_view nameOfType() {
-    std::string_view function = __PRETTY_FUNCTION__;
-    function.remove_prefix(function.find("Argument = ") + std::string_view("Argument = ").size());
-    return function.substr(0, function.find_first_of(";]"));
+consteval std::string_view qualifiedNameOf() {
+    return argumentOf(__PRETTY_FUNCTION__);
 }
 
 }  // namespace kvjxml

@@ -148,7 +148,7 @@ constexpr Message message(std::string_view root, const Special& special = {}) {
             special.otherRoot,
             nameOf<Operation>(),
             described<Table>,
-            fieldOf<Record>(special.recordName),
+            fieldOfType<Record>(special.recordName),
             special.lists,
             Taken<decltype(Operation)>::wide,
             special.saysWhetherRead,

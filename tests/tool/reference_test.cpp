@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "foundation/kinds.h"
-#include "messages.h"
-#include "requests.h"
+#include "messages/message.h"
+#include "messages/request.h"
 #include "tool/tool.h"
 
 namespace {
@@ -52,8 +52,8 @@ void collect(std::span<const DescribedRow> rows, std::vector<DescribedRow>& all)
 }
 std::vector<DescribedRow> allRows() {
     std::vector<DescribedRow> all;
-    for (const auto& message : kvjxml::tool::messages()) collect(message.table, all);
-    for (const auto& request : kvjxml::tool::recordRequests()) collect(request.table, all);
+    for (const auto& message : kvjxml::messages()) collect(message.table, all);
+    for (const auto& request : kvjxml::requests()) collect(request.table, all);
     return all;
 }
 

@@ -21,7 +21,7 @@ void printDecimal(JsonPrinter& json, float value) {
 }
 
 void printNumber(JsonPrinter& json, const Field& field, const void* record) {
-    const std::int64_t number = numberOf(field, record);
+    const std::int64_t number = wholeNumberOf(field, record);
     if (field.isSigned) {
         json.value(number);
     } else {
@@ -117,7 +117,7 @@ void read(const Place& place, const Field& field, void* record, Arrays& arrays) 
         case FieldType::bit:
             return setFlag(field, record, place.flag());
         case FieldType::number:
-            if (!setNumber(field, record, place.wholeNumber())) place.refuse("is out of range");
+            if (!setWholeNumber(field, record, place.wholeNumber())) place.refuse("is out of range");
             return;
         case FieldType::decimal:
             return setValue(field, record, place.decimal());
