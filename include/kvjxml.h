@@ -29,5 +29,6 @@
 #include "SecurityRecords.h"
 #include "StatusRecords.h"
 #include "kvjxml_export.h"
+#include "kvjxml_version.h"
 
 #endif

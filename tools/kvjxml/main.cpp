@@ -14,6 +14,7 @@
 #include "decode.h"
 #include "encode.h"
 #include "failure.h"
+#include "kvjxml_version.h"
 #include "messages/message.h"
 #include "messages/request.h"
 #include "reference.h"
