@@ -5,12 +5,19 @@
 
 #include "kvjxml_export.h"
 
-/// The version of these headers as text.
-#define KVJXML_VERSION "0.1.0"
+/// The version of these headers. The first number is that of the SONAME as well.
+#define KVJXML_VERSION_MAJOR 0
+#define KVJXML_VERSION_MINOR 1
+#define KVJXML_VERSION_PATCH 0
+
 /// A version as a number, to be compared: KVJXML_VERSION_OF(1, 2, 3) is 10203.
 #define KVJXML_VERSION_OF(major, minor, patch) ((major)*10000 + (minor)*100 + (patch))
 /// The version of these headers as such a number: #if KVJXML_VERSION_NUMBER >= KVJXML_VERSION_OF(0, 2, 0)
-#define KVJXML_VERSION_NUMBER KVJXML_VERSION_OF(0, 1, 0)
+#define KVJXML_VERSION_NUMBER KVJXML_VERSION_OF(KVJXML_VERSION_MAJOR, KVJXML_VERSION_MINOR, KVJXML_VERSION_PATCH)
+/// The same as text, "0.1.0".
+#define KVJXML_VERSION KVJXML_VERSION_TEXT(KVJXML_VERSION_MAJOR, KVJXML_VERSION_MINOR, KVJXML_VERSION_PATCH)
+#define KVJXML_VERSION_TEXT(major, minor, patch) KVJXML_VERSION_JOINED(major, minor, patch)
+#define KVJXML_VERSION_JOINED(major, minor, patch) #major "." #minor "." #patch
 
 #ifdef __cplusplus
 extern "C" {

@@ -1,23 +1,16 @@
-// The command line: options, help, README's commands as they are written, and an output that cannot be written.
+// The command line: options, help, and an output that cannot be written.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <regex>
-#include <sstream>
-#include <vector>
+#include <string>
 
 #include "tool/tool.h"
 
 namespace {
 
-using kvjxml::tests::contentOf;
 using kvjxml::tests::Outcome;
-using kvjxml::tests::runShell;
 using kvjxml::tests::runTool;
-using kvjxml::tests::TemporaryFolder;
 using testing::HasSubstr;
-namespace fs = std::filesystem;
 
 const std::string reply = std::string(KVJXML_REPLIES) + "/get_job_status.xml";
 
@@ -75,43 +68,6 @@ TEST(CommandLine, TheFileStandsBeforeAndBehindOptions) {
         EXPECT_EQ(behind.code, 0) << option << ": " << behind.error;
         EXPECT_NE(behind.out, "") << option;
         EXPECT_EQ(runTool(verb + " " + file + " " + option).out, behind.out) << option;
-    }
-}
-
-// ---- README ----
-
-/// The lines of README's code blocks that call the tool.
-std::vector<std::string> commandsOfReadme() {
-    const std::regex command(R"((?:.*\| )?kvjxml .*)");
-    std::vector<std::string> commands;
-    std::istringstream lines(contentOf(KVJXML_README));
-    bool isFenced = false;
-    for (std::string line; std::getline(lines, line);) {
-        if (line.starts_with("```")) isFenced = !isFenced;
-        if (!isFenced && !line.starts_with("    ")) continue;
-        line.erase(0, line.find_first_not_of(' '));
-        if (std::regex_match(line, command)) commands.push_back(line);
-    }
-    return commands;
-}
-
-TEST(CommandLine, ReadmesCommandsDoWhatTheyAreShownFor) {
-    const TemporaryFolder folder;
-    for (const char* samples : {KVJXML_REPLIES, KVJXML_REQUESTS}) {
-        for (const auto& file : fs::directory_iterator(samples)) fs::copy(file, folder / "");
-    }
-    fs::copy(reply, folder / "reply.xml");
-    kvjxml::tests::write(folder / "capture", "#!/bin/sh\ncat reply.xml\n");
-    fs::permissions(folder / "capture", fs::perms::owner_all);
-    const std::string setting = "cd " + (folder / "").string() + " && PATH=\"" +
-                                fs::path(KVJXML_TOOL).parent_path().string() + ":$PWD:$PATH\"\n";
-    const auto commands = commandsOfReadme();
-    EXPECT_THAT(commands, testing::Contains(HasSubstr("kvjxml encode configuration --sections")));
-    for (const auto& command : commands) {
-        const Outcome outcome = runShell(setting + command);
-        EXPECT_EQ(outcome.code, 0) << command;
-        EXPECT_NE(outcome.out, "") << command;
-        EXPECT_EQ(outcome.error, "") << command;
     }
 }
 
