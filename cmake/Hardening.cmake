@@ -5,8 +5,9 @@ if(NOT KVJXML_HARDENING)
 endif()
 include(CheckCXXCompilerFlag)
 
-# kvjxml_harden(FLAG SUBJECT): compile with FLAG where the compiler knows it.
+# kvjxml_harden(FLAG SUBJECT): compile with FLAG where the compiler knows it, and it means something for the processor.
 function(kvjxml_harden flag subject)
+    set(CMAKE_REQUIRED_FLAGS -Werror)
     string(MAKE_C_IDENTIFIER "KVJXML_HAS_${flag}" has_flag)
     check_cxx_compiler_flag("${flag}" ${has_flag})
     if(${has_flag} AND NOT CMAKE_CXX_FLAGS MATCHES "${subject}")
