@@ -2,14 +2,14 @@
 /// What a printer can do: the record that KVJCapsParser fills and that KVJSetCaps composes a request from.
 ///
 /// Records are plain structures. The host owns them, and every array that they point to; it sets a record to zero
-/// before the first call, and a reader never clears one, so a field whose element the reply does not carry keeps the
-/// value that it had. Texts are terminated; a longer one is cut to its field and that read reports false.
+/// before the first call, and a reader never clears one, so a field whose element is not in the reply keeps its value.
+/// Texts are terminated; a longer one is cut to its field and that read reports false.
 #ifndef KVJXML_CAPABILITIES_RECORDS_H
 #define KVJXML_CAPABILITIES_RECORDS_H
 
 namespace Kavrin {
 
-// The leading underscores are the names that host applications know these records by.
+// Host applications know these records by names with leading underscores.
 // NOLINTBEGIN(bugprone-reserved-identifier)
 
 /// A port of the printer.
@@ -78,15 +78,15 @@ enum _laminatorType : int { laminatorNone = 0, laminatorOneSided = 1, laminatorT
 /// **Lists.** Each list is a count and an array of the host's with at least that many entries. In: the capacity of the
 /// array. Out: when the reply has more child elements in the list's section than that, of whatever name, the count
 /// becomes that number and nothing is filled; the host then provides an array of that size and reads again. Otherwise
-/// the entries are filled from index 0 on and the count stays what it was: how many were filled is not told, so set the
-/// array to zero before. A null array has room for nothing. A section that stands twice is measured against the
-/// capacity both times, and the count becomes the largest number that did not fit, also when the other section did.
+/// the entries are filled from index 0 on and the count stays what it was: how many were filled is not reported, so set
+/// the array to zero first. A null array has room for nothing. A section that comes twice is measured against the
+/// capacity both times, and the count becomes the largest number that did not fit, even when the other section did.
 ///
 /// **A count is the size of the array only when it is no larger than the one passed in**: after each call compare them,
 /// and go over the array only then; KVJCapsParser shows how. Composing writes as many entries as the count says.
 ///
 /// Sizes of memory and pages, and the resolution, are in the printer's own units.
-// The order is the one that hosts are built with. NOLINTNEXTLINE(clang-analyzer-optin.performance.Padding)
+// Hosts are compiled with this order. NOLINTNEXTLINE(clang-analyzer-optin.performance.Padding)
 struct _Capabilities {
     int hostPortCount;               ///< Entries of `hostPorts`.
     _PortCaps* hostPorts;            ///< "host_ports" / "host_port"

@@ -3,9 +3,9 @@
 /// the records of its sections, of which the media catalogue shares some.
 ///
 /// Records are plain structures that the host owns. Every setting is a _MinMaxVal or _MinMaxValFloat: its range from
-/// the attributes "min" and "max", its value from the element's text, which reading brings into the range: up to the
-/// minimum, then down to the maximum. Units are the printer's own. Texts are terminated; a longer one is cut to its
-/// field and that read reports false.
+/// the attributes "min" and "max", its value from the element's text, which is brought into the range when it is read:
+/// up to the minimum, then down to the maximum. Units are the printer's own. Texts are terminated; a longer one is cut
+/// to its field and that read reports false.
 #ifndef KVJXML_CONFIGURATION_RECORDS_H
 #define KVJXML_CONFIGURATION_RECORDS_H
 
@@ -41,7 +41,7 @@ enum WirelessCrypto : int {
     wirelessCryptoCcmp = 3
 };
 
-// The leading underscores are the names that host applications know these records by.
+// Host applications know these records by names with leading underscores.
 // NOLINTBEGIN(bugprone-reserved-identifier)
 
 /// "feeder_mode": "manual" 0, "hopper" 1, "alreadyinprinter" 2, "auto" 3. Any other word reads, and any other code is
@@ -242,7 +242,7 @@ struct _LaminateInstalled {
     int panelsRemaining;  ///< "panels_remaining"
 };
 
-/// "laminate_control". Which laminate it is of shows in its place alone: both names of each element are read.
+/// "laminate_control". Only its place shows which laminate it belongs to: both names of each element are read.
 struct _laminateControl {
     _MinMaxVal xFineAdjustment;        ///< "top_x_adj_fine_offset" and "bot_x_adj_fine_offset"
     _MinMaxVal temperatureAdjustment;  ///< "top_temp_adjust" and "bot_temp_adjust"

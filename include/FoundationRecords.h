@@ -10,7 +10,7 @@
 
 namespace Kavrin {
 
-// The leading underscore and capital are the names that host applications know these records by.
+// Host applications know these records by names with a leading underscore and a capital.
 // NOLINTBEGIN(bugprone-reserved-identifier)
 
 /// An integer setting with its permitted range: an element with the attributes "min" and "max" and the value as text,

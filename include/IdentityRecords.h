@@ -3,13 +3,13 @@
 /// KVJGetEIN fill.
 ///
 /// Records are plain structures. The host owns them and sets them to zero before the first call; a reader never clears
-/// one, so a field whose element the reply does not carry keeps the value that it had.
+/// one, so a field whose element is not in the reply keeps its value.
 #ifndef KVJXML_IDENTITY_RECORDS_H
 #define KVJXML_IDENTITY_RECORDS_H
 
 namespace Kavrin {
 
-// The leading underscores are the names that host applications know these records by.
+// Host applications know these records by names with leading underscores.
 // NOLINTBEGIN(bugprone-reserved-identifier)
 
 /// One entry of the service history.
@@ -66,7 +66,7 @@ struct KVPrinterInfo {
     char mab_fw_version[32];            ///< "mab_fw_version". Never written.
     char kavrin_version[32];            ///< "kavrin_version": of the printer's command-language firmware.
     char ethernet_deviceid[256];        ///< "ethernet_deviceid"
-    /// "media_auth_cfg": setting of the media authentication, at most two hexadecimal digits behind "0x", "0x1f" as 31;
+    /// "media_auth_cfg": setting of the media authentication, at most two hexadecimal digits after "0x", "0x1f" as 31;
     /// any other text leaves it alone. Written with at least two digits.
     unsigned int media_auth_cfg;
     unsigned int reserved;                       ///< Neither read nor written.

@@ -12,7 +12,7 @@ namespace Kavrin {
 
 /// Stateless. Replies and ownership are as for KVJStatusParser.
 ///
-/// The lists of the record are read by the protocol that _Capabilities tells; in short, for a list of unknown length:
+/// The lists of the record are read as _Capabilities describes; in short, for a list of unknown length:
 ///
 ///     std::vector<_FontCaps> fonts;
 ///     _Capabilities caps = {};  // all counts 0
@@ -25,12 +25,12 @@ namespace Kavrin {
 ///         parser.GetCapabilities(text[0], length, caps);
 ///     }
 ///
-/// Only behind the loop does the count belong to the array: a reply that the printer was asked for anew can have more
-/// entries than the one before.
+/// The count belongs to the array only after the loop: when the printer is asked again, its new reply can have more
+/// entries than the last.
 class KVJXML_API KVJCapsParser {
 public:
-    /// Reads the reply "capabilities", or "get_capabilities" when there is none of the former, of any length.
-    /// @return **always false**: hosts judge from the record what was read.
+    /// Reads the reply "capabilities", or else "get_capabilities", of any length.
+    /// @return **always false**: hosts see in the record what was read.
     bool GetCapabilities(const wchar_t& text, int length, _Capabilities& caps);
 
     // ---- Walkers ----
@@ -41,7 +41,7 @@ public:
     bool parseCapabilities(TiXmlElement* root, _Capabilities& caps);
 
     /// Each reads one list section into its array; see _Capabilities. True, with nothing filled, when the count was
-    /// less than the number of child elements; it then is that number.
+    /// less than the number of child elements; it is then that number.
     bool getHostPorts(TiXmlElement* section, _Capabilities& caps);          ///< "host_ports"
     bool getDevicePorts(TiXmlElement* section, _Capabilities& caps);        ///< "device_ports"
     bool getSwInterfaces(TiXmlElement* section, _Capabilities& caps);       ///< "software_interfaces"
@@ -70,7 +70,7 @@ public:
     bool getFontCaps(TiXmlElement* entry, _FontCaps& font);                 ///< "font"
     bool getTemplate(TiXmlElement* entry, _TemplateCaps& stored);           ///< "template" and "graphic"
 
-    /// Each reads the text of the element itself. False without text: the field stays as it was, but for `laminator`,
+    /// Each reads the text of the element itself. False without text: the field stays as it was, except `laminator`,
     /// which becomes false.
     bool getPrintSystem(TiXmlElement* element, _Capabilities& caps);    ///< "print_system"
     bool getPrintType(TiXmlElement* element, _Capabilities& caps);      ///< "print_type"

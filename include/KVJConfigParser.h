@@ -13,9 +13,9 @@ namespace Kavrin {
 /// Scratch space in which a ribbon's description is read. There is one for the whole process: see KVJConfigParser.
 extern KVJXML_API char szRibbonName[32];
 
-/// One object reads any number of replies, one after the other and in one thread at a time. It is a document for the
-/// sake of what is wrong with a reply: after each call it is empty, and `Error()`, `ErrorId()` and `ErrorDesc()` tell
-/// of the reply that was read. The row and the column of an error are 0. Without a text they tell what they told
+/// One object reads any number of replies, one after the other and in one thread at a time. It is a document only to
+/// report what is wrong with a reply: after each call it is empty, and `Error()`, `ErrorId()` and `ErrorDesc()` report
+/// on the reply that was read. The row and the column of an error are 0. Without a text they report what they did
 /// before.
 ///
 /// **Not in two threads at once:** all parsers read a ribbon's description through Kavrin::szRibbonName. Two threads
@@ -23,13 +23,13 @@ extern KVJXML_API char szRibbonName[32];
 /// other. Everything else of the library, composing a configuration included, may run beside it.
 class KVJXML_API KVJConfigParser : public TiXmlDocument {
 public:
-    /// Reads the reply "configuration", or "set_configuration" when there is none of the former, and sets the record to
-    /// zero first when the reply has either. For every description of a ribbon or film it writes two lines to the
-    /// standard error stream, "DEBUG:RIBBON NAME" and "DEBUG:RIBBON NAME2", in which control characters (0 to 31 and
-    /// 127 to 159, as a byte or in UTF-8) are shown as "?". The record has them as they came.
+    /// Reads the reply "configuration", or else "set_configuration". When the reply has either, the record is set to
+    /// zero first. For every description of a ribbon or film it writes two lines to the standard error stream,
+    /// "DEBUG:RIBBON NAME" and "DEBUG:RIBBON NAME2", in which control characters (0 to 31 and 127 to 159, as a byte or
+    /// in UTF-8) are shown as "?". The record has them as they came.
     /// @param text    the reply as multibyte text, terminated by NUL; null is no reply.
-    /// @param length  does not count.
-    /// @return **always false**: hosts judge from the record what was read.
+    /// @param length  is ignored.
+    /// @return **always false**: hosts see in the record what was read.
     bool GetConfiguration(const char* text, int length, _KVConfiguration& out);
 
     // ---- Walkers ----
@@ -77,8 +77,8 @@ public:
     bool getInternalEncoderInfo(TiXmlElement* element, _InternalEncoderInfo& encoder);
 
     // ---- Single values ----
-    // Each reads the text of the element itself. False for a null element and one without text, with the value as it
-    // was unless it is told otherwise.
+    // Each reads the text of the element itself. False for a null element and one without text; the value is then as it
+    // was, unless stated otherwise.
 
     /// Reads a hardware address into 6 bytes; see KVJHelper::GetPhysicalAddress.
     bool getPhysicalAddress(TiXmlElement* element, unsigned char* address);
@@ -89,14 +89,13 @@ public:
     bool getIP(TiXmlElement* element, char* name, unsigned long& address);
     bool getFeederMode(TiXmlElement* element, _eFeedMode& mode);  ///< Word as in _eFeedMode.
     bool getUSBSpeed(TiXmlElement* element, USB_Speed& speed);    ///< Word as in USB_Speed; any other leaves it alone.
-    /// Word as in WirelessSecurity; any other leaves it alone and is true as well, but for an empty text, which is
-    /// false.
+    /// Word as in WirelessSecurity; any other leaves it alone and is true too, except an empty text, which is false.
     bool GetSecurity(TiXmlElement* element, WirelessSecurity& security);
-    /// Word as in WirelessCrypto; any other leaves it alone and is true as well, but for an empty text, which is false.
+    /// Word as in WirelessCrypto; any other leaves it alone and is true too, except an empty text, which is false.
     bool GetCrypto(TiXmlElement* element, WirelessCrypto& crypto);
-    /// Reads a setting: its range from the attributes "min" and "max", of which a missing one stays as it was, and its
-    /// value from the text; then the value is brought up to the minimum and after that down to the maximum, also when
-    /// there was no text.
+    /// Reads a setting: its range from the attributes "min" and "max", its value from the text. A missing attribute
+    /// leaves its limit as it was. Then the value is brought up to the minimum and after that down to the maximum, even
+    /// when there was no text.
     bool getMinMaxVal(TiXmlElement* element, _MinMaxVal& setting);
     bool getMinMaxVal(TiXmlElement* element, _MinMaxValFloat& setting);  ///< The same; a NaN stays.
 

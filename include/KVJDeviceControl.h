@@ -12,16 +12,16 @@
 /// prints that into the host's buffer. One object composes any number of commands, in one thread at a time.
 ///
 /// **Buffers.** Commands are narrow text. `capacity` is **not applied**: `out` must hold the whole command with its
-/// terminator, 256 characters and six for each character of the texts passed in are always enough.
+/// terminator. 256 characters, and six for each character of the texts passed in, are always enough.
 ///
 /// **Results.** True when the command was printed; false when `out` is null, or the name of a device is. A null text is
 /// left out.
 ///
 /// **Files.** Each command is also left in "/tmp/composedXML" for the service engineer, as Kavrin::KVJSetConfig leaves
-/// its copy: readable by its owner alone, a file of another user keeps its old content, failures are silent, and of
+/// its copy: only its owner can read it, a file of another user keeps its old content, and failures are silent. Of
 /// several objects at the same time the last leaves its command, whole. Without `out` nothing is left.
 ///
-/// **Size.** Hosts are built with the size of the object: it stays what it is.
+/// **Size.** Hosts are compiled with the size of the object, so it stays as it is.
 class KVJXML_API KVJDeviceControl : public TiXmlDocument {
 public:
     /// A motor by its number: 0 "card_feed", 1 "card_x", 2 "ribbon", 3 "head_lift", 4 "options", 5 "flipper"; any other

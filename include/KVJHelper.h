@@ -17,8 +17,8 @@
 class TiXmlElement;
 
 /// Stateless: all operations are static, use only their arguments, and may run in any number of threads at once on
-/// separate elements. None keeps a pointer that it was given. A null element, name or word is answered with false (or,
-/// by the word readers, as an unknown word).
+/// separate elements. None keeps a pointer that it was given. A null element, name or word gives false; to the
+/// operations that look words up, a null word is an unknown word.
 class KVJXML_API KVJHelper {
 public:
     // ---- Element text to value ----

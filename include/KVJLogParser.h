@@ -19,7 +19,7 @@ public:
     /// there is none. A history without elements is false and untouched either way.
     bool ParseLogServiceXML(const wchar_t& reply, unsigned long length, _tagLogServiceXML& log);
     /// Reads the reply "get_log_cleaning_history" into the entries from index 0 on; a 33rd and later ones are ignored.
-    /// How many were filled is not told: set the array to zero before.
+    /// How many were filled is not reported: set the array to zero first.
     bool ParseCleaningLog(const wchar_t& reply, unsigned long length, _tagCleaningLogEntry (&entries)[32]);
 
     // ---- Walkers: the same, for a host that holds the element already. A null element gives false. ----

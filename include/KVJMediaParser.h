@@ -12,16 +12,16 @@ namespace Kavrin {
 
 /// Stateless. One catalogue is read into, written from or released by one thread at a time.
 ///
-/// **Memory.** When it runs out, std::bad_alloc propagates. The catalogue then holds the entries read until then, can
-/// be used on, and DestroyKVMedia releases all of it; TinyXML's tree of the reply, if it was not whole yet, is lost.
+/// **Memory.** When it runs out, std::bad_alloc propagates. The catalogue then holds the entries that were read until
+/// then. It can still be used, and DestroyKVMedia releases all of it.
 class KVJXML_API KVJMediaParser {
 public:
     /// Reads the reply "media" and appends what it holds to the lists of the catalogue: nothing is cleared, and reading
     /// twice doubles the entries. There is no limit to their number.
     /// @param text    the first character of the reply as multibyte text, terminated by NUL.
-    /// @param length  does not count.
+    /// @param length  is ignored.
     /// @param media   prepared with BuildKVMedia. A list that is null is not filled.
-    /// @return **always false**: hosts judge from the lists what was read.
+    /// @return **always false**: hosts see in the lists what was read.
     bool GetMedia(const char& text, int length, _KVMediaInfo& media);
 
     // ---- Walkers ----
@@ -43,7 +43,7 @@ public:
     bool getRibbonInfo(TiXmlElement* entry, _KVMediaInfo& media);    ///< To the ribbons. No section calls it.
     bool getLaminateInfo(TiXmlElement* entry, _KVMediaInfo& media);  ///< To the laminates.
 
-    /// Each reads one part of a card. Of settings it reads the value alone, and brings it into no range.
+    /// Each reads one part of a card. Of settings only the value is read, and it is not brought into any range.
     bool getCardInformation(TiXmlElement* element, _CardInfo& card);               ///< "information"
     bool getTransferTemp(TiXmlElement* element, _TransferTempInfo& temperatures);  ///< "transfer_temps"
     bool getTransferSpeed(TiXmlElement* element, _TransferSpeedInfo& speeds);      ///< "transfer_speeds"

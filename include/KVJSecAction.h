@@ -11,12 +11,12 @@ class TiXmlElement;
 
 namespace Kavrin {
 
-/// Stateless. Replies, results and ownership are as for KVJStatusParser. What passes through is kept nowhere and
-/// written to no file.
+/// Stateless. Replies, results and ownership are as for KVJStatusParser. Nothing that passes through is kept or written
+/// to a file.
 ///
 /// **True does not mean that the reply was whole.** A reply that breaks off is read as far as its text goes, and the
-/// result tells of the last element only: of `<keys><host_authentication_key>HALF` half a key is read, and it is true.
-/// A host that acts on a key or a directive makes sure by other means that it had the whole reply.
+/// result speaks of the last element only: of `<keys><host_authentication_key>HALF` half a key is read, and the result
+/// is true. A host that acts on a key or a directive must make sure by other means that it has the whole reply.
 class KVJXML_API KVJSecAction {
 public:
     /// Copies the text of the reply "nonce", with its terminator.

@@ -13,18 +13,18 @@ namespace Kavrin {
 /// The object is the document that is composed. Composing appends to it: a second SetCapabilities gives a document with
 /// two roots, so take **a fresh object for each request**, in one thread at a time.
 ///
-/// What is written is what the printer expects, and not in every place what it sends: the operations below say where.
-/// Texts of the record need not be terminated. A null `under` adds nothing and gives false; a null array has no
-/// entries, whatever its count.
+/// What is written is what the printer expects, which is not always what it sends; the operations below say where the
+/// two differ. Texts of the record need not be terminated. A null `under` adds nothing and gives false; a null array
+/// has no entries, whatever its count.
 ///
-/// **Size.** Hosts are built with the size of the object: it stays what it is.
+/// **Size.** Hosts are compiled with the size of the object, so it stays as it is.
 class KVJXML_API KVJSetCaps : public TiXmlDocument {
 public:
     /// Composes "capabilities" and prints it.
     /// @param out  room for `outLen` wide characters. The request is converted to them in the process's locale, and its
-    ///             terminator is written when there is room for it. A request that fills the capacity, or that holds a
-    ///             byte that the locale does not know, ends without one: have room to spare, and set the buffer to zero
-    ///             before.
+    ///             terminator is written when there is room for it. A request that fills the capacity, or that contains
+    ///             a byte that the locale does not know, ends without one: leave room to spare, and set the buffer to
+    ///             zero first.
     /// @param mode  0 the whole description, "mag_encoder" 1 alone, 2 the smart-card encoder alone; any other value
     ///              writes an empty root.
     /// @param directToCard  the printer prints on the card itself, without transfer film: "print_system" says so.
@@ -79,7 +79,7 @@ public:
 
     // ---- Codes to words ----
     // Each writes a terminated word to `buf`, which has room for 32 characters; "" for a code without a word. The
-    // result says whether the code had one, unless it is told otherwise. False for a null `buf`.
+    // result says whether the code had one, unless stated otherwise. False for a null `buf`.
 
     /// "usb_2_0" 0, "serial" 1, "ethernet_10_100" 2, "ethernet_10_100_1G" 3.
     bool portTypeToString(char* buf, int code);
@@ -101,11 +101,11 @@ public:
     bool LamTypeToString(char* buf, _laminatorType code);
     /// "present" for any flag but 0, "notpresent" for 0. Always true.
     bool LaminatorToString(char* buf, char flag);
-    /// "direct_to_card" or "retransfer", as the last SetCapabilities was told; the code does not count. Always true.
+    /// "direct_to_card" or "retransfer", as the last SetCapabilities was told; the code is ignored. Always true.
     bool printSystemTypeToString(char* buf, int code);
-    /// "serial" 1, "usb_2_0" 2. Always true; the last argument does not count.
+    /// "serial" 1, "usb_2_0" 2. Always true; the last argument is ignored.
     bool CommsChannelFromInt(int code, char* buf, int ignored);
-    /// "mifare" 1. Always true; the last argument does not count.
+    /// "mifare" 1. Always true; the last argument is ignored.
     bool ContactlessEncFromInt(int code, char* buf, int ignored);
     /// "dye_sub" 0, "resin" 1.
     bool ribbonTypeToString(char* buf, int code);

@@ -39,20 +39,20 @@ namespace Kavrin {
 /// Settings with a fraction are written with their **maximum** as text: the printer never takes their value. Texts of
 /// the record need not be terminated.
 ///
-/// **Size.** Hosts are built with the size of the object: it stays what it is.
+/// **Size.** Hosts are compiled with the size of the object, so it stays as it is.
 // clang-format on
 class KVJXML_API KVJSetConfig : public TiXmlDocument {
 public:
     /// Composes "configuration", leaves a copy of it in the file "/tmp/firmwaresettings" and prints it. The copy is
-    /// written even when `out` is null. It can hold the network key: it is written to a new file that only its owner
-    /// can read, named as the copy with a point and six characters, which takes the place of the old copy when it is
-    /// whole. A link under that name is not followed, and a file of another user keeps its old content, as does one
-    /// that was made read-only or has a second name. Failures are silent: the old copy stays, and no signal comes when
-    /// files may not grow so large.
+    /// written even when `out` is null. It can hold the network key, so it is written to a new file that only its owner
+    /// can read, named like the copy with a dot and six characters added, which replaces the old copy once it is whole.
+    /// A link with that name is not followed, and a file of another user keeps its old content, as does one that is
+    /// read-only or has a second name. Failures are silent: the old copy stays, and no signal comes when the file would
+    /// grow larger than files may.
     /// @param out  room for `outLen` wide characters. The request is converted to them in the process's locale, and its
-    ///             terminator is written when there is room for it. A request that fills the capacity, or that holds a
-    ///             byte that the locale does not know, ends without one: have room to spare, and set the buffer to zero
-    ///             before.
+    ///             terminator is written when there is room for it. A request that fills the capacity, or that contains
+    ///             a byte that the locale does not know, ends without one: leave room to spare, and set the buffer to
+    ///             zero first.
     /// @param mask          bits of the sections that are wanted.
     /// @param cardSelect    0 for the whole document, 1 or 2 for that custom card alone; any other value fails.
     /// @param skipTransfer  printing is direct to card: nothing of film and transfer is written.
@@ -115,7 +115,7 @@ public:
 
     // ---- Codes to words ----
     // Each writes a terminated word to `buf`, which has room for 32 characters; "" for a code without a word. The
-    // result says whether the code had one, unless it is told otherwise. False for a null `buf`.
+    // result says whether the code had one, unless stated otherwise. False for a null `buf`.
 
     /// "YMCKO" 256, "YMCKOK" 257, "1/2 YMCKO" 258, "1/2 YMCKOKO" 259, "YMCPKO" 260, "KdO" 261, "KrO" 262, "Black" 263,
     /// "White" 264, "Red" 265, "Blue" 266, "Gold" 267, "Silver" 268, "YMCKLL" 269, "SrDYMCKO" 270, "Hologram" 271.
@@ -126,9 +126,9 @@ public:
     bool feederTypeToString(char* buf, int code);
     /// "contact" 0, "iclass" 1, "mifare" 2, "prox" 3, "uhf" 4, "legic" 5.
     bool feederSmartToString(char* buf, int code);
-    /// "serial" 1, "usb" 2. Always true; the last argument does not count.
+    /// "serial" 1, "usb" 2. Always true; the last argument is ignored.
     bool CommsChannelFromInt(int code, char* buf, int ignored);
-    /// "mifare" 1. Always true; the last argument does not count.
+    /// "mifare" 1. Always true; the last argument is ignored.
     bool ContactlessEncFromInt(int code, char* buf, int ignored);
 
     /// Leaves the copy and prints the document again; see SetConfiguration.

@@ -15,15 +15,15 @@ namespace Kavrin {
 ///
 /// Films, ribbons and laminates are never written. Texts of the records need not be terminated.
 ///
-/// **Size.** Hosts are built with the size of the object: it stays what it is.
+/// **Size.** Hosts are compiled with the size of the object, so it stays as it is.
 class KVJXML_API KVJSetMedia : public TiXmlDocument {
 public:
     /// Composes "media" / "cards" and prints it.
     /// @param media  a null list of cards counts as an empty one, a null entry is left out.
     /// @param out  room for `outLen` wide characters. The request is converted to them in the process's locale, and its
-    ///             terminator is written when there is room for it. A request that fills the capacity, or that holds a
-    ///             byte that the locale does not know, ends without one: have room to spare, and set the buffer to zero
-    ///             before.
+    ///             terminator is written when there is room for it. A request that fills the capacity, or that contains
+    ///             a byte that the locale does not know, ends without one: leave room to spare, and set the buffer to
+    ///             zero first.
     /// @param allCards      1 writes every card; any other value those of the types 0 and 1 only.
     /// @param omitTransfer  "transfer_temps" and "transfer_speeds" are left out: printing is direct to card.
     /// @return whether it was printed, even if it was cut; false, with nothing written, when `out` is null or `outLen`

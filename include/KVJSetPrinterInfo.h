@@ -11,21 +11,21 @@
 namespace Kavrin {
 
 /// The object is the document that is composed. Composing appends to it: a second SetPrinterInfo gives a document with
-/// two roots, so take **a fresh object for each request**, in one thread at a time. Of two that compose at the same
-/// time on objects of their own, the last leaves its copy, whole.
+/// two roots, so take **a fresh object for each request**, in one thread at a time. When two threads compose at the
+/// same time, each with an object of its own, the last leaves its copy, whole.
 ///
 /// Texts of the record need not be terminated.
 ///
-/// **Size.** Hosts are built with the size of the object: it stays what it is.
+/// **Size.** Hosts are compiled with the size of the object, so it stays as it is.
 class KVJXML_API KVJSetPrinterInfo : public TiXmlDocument {
 public:
     /// Composes "printer_id", leaves a copy of it in the file "/tmp/printidsettings" and prints it. The copy is written
-    /// even when `out` is null. It is left as that of KVJSetConfig is: readable by its owner alone, a file of another
-    /// user keeps its old content, and failures are silent.
+    /// even when `out` is null. It is left as KVJSetConfig leaves its copy: only its owner can read it, a file of
+    /// another user keeps its old content, and failures are silent.
     /// @param out  room for `capacity` wide characters. The request is converted to them in the process's locale, and
     ///             its terminator is written when there is room for it. A request that fills the capacity, or that
-    ///             holds a byte that the locale does not know, ends without one: have room to spare, and set the buffer
-    ///             to zero before.
+    ///             contains a byte that the locale does not know, ends without one: leave room to spare, and set the
+    ///             buffer to zero first.
     /// @param mask  0x1 "printer_model", 0x2 "printhead_serial"; other bits write nothing.
     /// @return whether it was printed, even if it was cut; false when the last element could not be written, and, with
     ///         nothing written to `out`, when that is null or `capacity` negative.

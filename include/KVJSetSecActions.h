@@ -16,14 +16,14 @@ namespace Kavrin {
 /// any file**: messages hold keys.
 ///
 /// **Buffers.** `out` has room for `capacity` wide characters, the message is converted to them in the process's
-/// locale, and its terminator is written when there is room for it. A message that fills the capacity, or that holds a
-/// byte that the locale does not know, ends without one: have room to spare, and set the buffer to zero before.
+/// locale, and its terminator is written when there is room for it. A message that fills the capacity, or that contains
+/// a byte that the locale does not know, ends without one: leave room to spare, and set the buffer to zero first.
 ///
 /// **Results.** True when the message was printed, even if it was cut; false, with nothing written, when `out` is null
 /// or `capacity` negative, with the message composed all the same for saveJob. A null text leaves its element or
 /// attribute out; a null nonce or passkey that is the message itself gives false.
 ///
-/// **Size.** Hosts are built with the size of the object: it stays what it is.
+/// **Size.** Hosts are compiled with the size of the object, so it stays as it is.
 class KVJXML_API KVJSetSecActions : public TiXmlDocument {
 public:
     /// "nonce" with the nonce as its text.

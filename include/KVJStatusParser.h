@@ -14,8 +14,9 @@ namespace Kavrin {
 ///
 /// **Replies.** `reply` is the first character of the reply as wide text, `length` the number of its characters; a
 /// terminator is not needed. The library converts it to multibyte text in the process's locale, and of that takes at
-/// most `length` bytes: for a reply with characters beyond ASCII, append as many blanks or zeros as it has bytes more
-/// than characters and count them in. With a `length` of zero or less the reply is not touched and the result is false.
+/// most `length` bytes: for a reply with characters beyond ASCII, append as many blanks or zeros as it has more bytes
+/// than characters, and count them in `length`. With a `length` of zero or less the reply is not touched and the result
+/// is false.
 ///
 /// **Results.** True means that the reply holds the message and that the last element recognised in it had a value that
 /// fits its field. False means that the message is not in the reply (the record is as it was), that it has no child
@@ -55,11 +56,12 @@ public:
     bool ParseWirlessRadioXML(const wchar_t& reply, int length, _tagWirelessRadioStatus& status);
     /// Reads the reply "AccessPoints", in two calls. With `list.accessPoints` null it sets `list.count` to the number
     /// of elements in the reply and is true. With an array, a count above 0 is its capacity: the entries are filled
-    /// from index 0 on, and the result is that of the last one filled, false when there is none. A reply of more
-    /// elements than that fills so many entries and leaves the count; else the count becomes the number of elements.
+    /// from index 0 on, and the result is that of the last one filled, false when there is none. A reply with more
+    /// elements than that fills as many entries and leaves the count; otherwise the count becomes the number of
+    /// elements.
     ///
     /// **With an array and a count of 0 the array is not measured**: it must then have as many entries as the reply has
-    /// elements, which is sure only for the same reply that was counted.
+    /// elements, which is certain only for the very reply that was counted.
     bool ParseAccessPoints(const wchar_t& reply, int length, _tagAccessPoints& list);
 
     // ---- Walkers: the same, for a host that holds the element already. A null element gives false. ----
@@ -117,7 +119,7 @@ public:
 
     // ---- Elements whose words are combined ----
     // True when the element has text, whether or not its word is known. The code is OR-ed into `codes`, which the host
-    // sets to zero before: a second reading without that combines the codes. Only these spellings are known.
+    // sets to zero first: a second reading into the same one combines the codes. Only these spellings are known.
 
     /// The security of a wireless network: "open" and "none" 0, "WEP", "wep", "WEP40" and "wep40" 1, "WEP104" and
     /// "wep104" 2, "WPA" and "wpa" 3, "WPA2" and "wpa2" 4, "WPA_WPA2", "WPA2_WPA", "wpa_wpa2" and "wpa2_wpa" 5; any

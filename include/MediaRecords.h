@@ -1,6 +1,6 @@
 /// @file MediaRecords.h
-/// The media that a printer knows: a catalogue of card types, films, ribbons and laminates, which unlike the other
-/// records of the library owns heap storage, since its lists grow with the reply.
+/// The media that a printer knows: a catalogue of card types, films, ribbons and laminates, which, unlike the other
+/// records of the library, owns memory on the heap, because its lists grow with the reply.
 ///
 /// The life of a catalogue:
 ///
@@ -10,7 +10,7 @@
 ///     for (const _CardInfo* card : *media->cards) use(*card);
 ///     DestroyKVMedia(media);                                 // released, the record and all that is in it
 ///
-/// or, with all of it done by a smart pointer, also when an exception passes:
+/// or, with a smart pointer that does all of it, even when an exception passes:
 ///
 ///     const KVMediaPointer media = MakeKVMedia();
 ///     KVJMediaParser().GetMedia(text[0], length, *media);
@@ -25,11 +25,11 @@
 
 namespace Kavrin {
 
-// The leading underscores and capitals are the names that host applications know these records by.
+// Host applications know these records by names with leading underscores and capitals.
 // NOLINTBEGIN(bugprone-reserved-identifier)
 
-/// A type of card. The first eight elements stand in its "information". Of its settings only the
-/// values are read, as they are; their ranges stay 0. Settings with a fraction are written with their maximum as text.
+/// A type of card. The first eight elements stand in its "information". Of its settings only the values are read, as
+/// they are; their ranges stay 0. Settings with a fraction are written with their maximum as text.
 struct _CardInfo {
     int type;                                         ///< "type"
     char partNumber[16];                              ///< "vessa_part_number"
@@ -62,8 +62,9 @@ struct _KVMediaInfo {
     std::vector<_MediaRibbonInfo*>* laminates = nullptr;
 
     _KVMediaInfo() = default;
-    /// Releases the lists that are not empty, with their entries. **An empty list it leaves allocated**: DestroyKVMedia
-    /// is the complete release. Of the fields only `laminates` is null afterwards, and only where it was released.
+    /// Releases the lists that are not empty, with their entries. **An empty list stays allocated**: only
+    /// DestroyKVMedia releases everything. Of the fields only `laminates` is null afterwards, and only where it was
+    /// released.
     KVJXML_API ~_KVMediaInfo();
     // Two records would release the same lists.
     _KVMediaInfo(const _KVMediaInfo&) = delete;

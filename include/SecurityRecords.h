@@ -3,18 +3,18 @@
 /// KVJSetSecActions writes.
 ///
 /// Records are plain structures. The host owns them and sets them to zero before the first call; a reader never clears
-/// one, so a field whose element the reply does not carry keeps the value that it had. Texts are terminated; a longer
-/// one is cut to its field, and that read reports false. They can hold keys: the host clears them when it is done.
+/// one, so a field whose element is not in the reply keeps its value. Texts are terminated; a longer one is cut to its
+/// field, and that read reports false. They can hold keys: the host clears them when it is done.
 #ifndef KVJXML_SECURITY_RECORDS_H
 #define KVJXML_SECURITY_RECORDS_H
 
 namespace Kavrin {
 
-// The leading underscores are the names that host applications know these records by.
+// Host applications know these records by names with leading underscores.
 // NOLINTBEGIN(bugprone-reserved-identifier)
 
 /// The Diffie-Hellman values that the printer proposes: the reply "diffie_hellman", read by
-/// KVJSecAction::ParseHostDHKeyValues. Each is hexadecimal behind "0x", else decimal; a text that does not begin with a
+/// KVJSecAction::ParseHostDHKeyValues. Each is hexadecimal after "0x", else decimal; a text that does not begin with a
 /// number leaves its field as it was, and "0x" alone reads as 0.
 struct _tagHostDHKeys {
     unsigned long modulus;           ///< "modulus"

@@ -2,7 +2,7 @@
 /// What the printer reports about itself: the records that KVJStatusParser and KVJSensorParser fill.
 ///
 /// Records are plain structures. The host owns them and sets them to zero before the first call; a reader never clears
-/// one, so a field whose element the reply does not carry keeps the value that it had.
+/// one, so a field whose element is not in the reply keeps its value.
 #ifndef KVJXML_STATUS_RECORDS_H
 #define KVJXML_STATUS_RECORDS_H
 
@@ -124,7 +124,7 @@ constexpr int KVJOBLIST_CAPACITY = 64;
 /// The jobs that the printer holds: the reply "get_job_list", read by KVJStatusParser::ParseJobList.
 struct KVJobList {
     /// In: how many entries of `jobs` may be filled; more than KVJOBLIST_CAPACITY count as that. Out: how many were
-    /// filled. Jobs beyond that are dropped, and nothing tells.
+    /// filled. Jobs beyond that are dropped without notice.
     int count;
     /// "job": filled from index 0 on, in the order of the reply.
     _KVJobInfo jobs[KVJOBLIST_CAPACITY];

@@ -122,7 +122,7 @@ bool KVJSetCaps::magStripeLocationToString(char* buf, int code) {
 }
 
 bool KVJSetCaps::printTypeToString(char* buf, int code) {
-    // Hosts take "2_side" for the case in which they have nothing to do.
+    // False tells hosts that they have nothing to do, and so it is for "2_side".
     return writeWord(buf, kvjxml::laminationTypes, code) && code == 1;
 }
 

@@ -1,5 +1,5 @@
 /// @file capabilities/lists.h
-/// How a list of the capabilities gets into an array of the host's, which need not be large enough.
+/// Reads a list of the capabilities into an array of the host's, which may be too small.
 #ifndef KVJXML_CAPABILITIES_LISTS_H
 #define KVJXML_CAPABILITIES_LISTS_H
 
@@ -16,22 +16,23 @@ namespace kvjxml::capabilities {
 
 using namespace Kavrin;  // the records
 
-/// A record being filled, and what the host passed with it. A list that stands twice must be measured against that both
-/// times: the number that the first was answered with is not the size of any array.
+/// The record being filled, and the record as the host passed it. A list that comes twice is measured against what the
+/// host passed both times: the count that answers the first is not the size of an array.
 struct Reading {
     explicit Reading(_Capabilities& record) : caps(record), passed(record) {}
     _Capabilities& caps;
     const _Capabilities passed;
-    _Capabilities refused{};  ///< The counts alone: of each list, the most children that did not fit.
+    _Capabilities refused{};  ///< Only its counts: of each list, the most children that did not fit.
 };
 
-/// A field that is no list.
+/// A field that is not a list.
 template <const auto& Field>
 inline constexpr ReadRule<Reading> plain{
     Field.description, [](Element element, Reading& reading) { return Field.read(element, reading.caps); }};
 
-/// A list: its entries, read with a table of their own, when the array has room for as many entries as the section has
-/// child elements, whatever their names; else the largest such number, for the host to come again with.
+/// A list. When the array has room for all child elements of the section, whatever their names, the entries are read
+/// with a table of their own. Otherwise the count becomes the most that did not fit, so that the host can come again
+/// with a larger array.
 template <auto Count, auto Array, const auto& Table>
 inline constexpr ReadRule<Reading> list{
     {.field = fieldOf<Array>, .kind = Kind::list, .group = described<Table>}, [](Element section, Reading& reading) {

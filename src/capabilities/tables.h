@@ -34,7 +34,7 @@ inline constexpr WordTable transports{-1, {{"udp", 0}, {"tcp", 1}, {"usb", 2}, {
 /// Both directions; any other code is written as "none", which the printer does not send.
 inline constexpr WordTable encryptionAlgorithms{-1, {{"aes", 1}, {"3des", 2}}};
 
-/// Both directions. The printer numbers formats as its image decoder does; 3 to 7 are none that it takes.
+/// Both directions. The printer numbers formats as its image decoder does; it does not take 3 to 7.
 inline constexpr WordTable graphicFormats{-1, {{"bmp", 1}, {"jpeg", 2}, {"tga", 8}, {"tiff", 9}, {"raw", 10}}};
 
 /// Both directions; any other code is written as "none", which the printer does not send.
@@ -78,8 +78,8 @@ inline constexpr WriteRule<_Capabilities> requestedPrintSystem{
         return addTag(parent, name, wordOf(printSystemsWritten, selection.directToCard ? 1 : 0));
     }};
 
-/// The last word that the printer was told of its laminator. In the whole description it expects that one in the
-/// magnetic encoder's elements as well; it takes a head type only by itself.
+/// The word for the laminator. In the whole description the printer expects it in the elements of the magnetic encoder
+/// as well; it takes a head type only in a request of its own.
 inline constexpr WriteRule<_Capabilities> laminatorWord{
     {.kind = Kind::laminatorWord, .words = named<laminatorTypesWritten>, .otherWord = "notpresent"},
     [](TiXmlElement* parent, const char* name, const _Capabilities& caps, const Selection&) {

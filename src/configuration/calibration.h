@@ -44,7 +44,7 @@ inline constexpr auto powerTags = tags<_PowerAdjustments>({
     {"inhibit",       put::setting<&_PowerAdjustments::inhibit>, withTransfer},
 });
 
-/// "imaging_parameters". The maker's adjustments are not the host's to change.
+/// "imaging_parameters". The maker's adjustments are not for the host to change.
 inline constexpr auto imaging = rows<_ImagingParams>({
     {"printhead_resistance",   setting<&_ImagingParams::printheadResistance>},
     {"mfg_power_adjustments",  part<&_ImagingParams::mfgPowerAdjustments, power>},

@@ -1,6 +1,6 @@
 /// @file configuration/document.h
-/// The whole configuration, section by section: one table to read it with, one to write it by. The two are in different
-/// orders because the printer sends it in one and takes it in another.
+/// The whole configuration, section by section: one table to read it with and one to write it with. Their orders differ
+/// because the printer sends it in one order and takes it in another.
 #ifndef KVJXML_CONFIGURATION_DOCUMENT_H
 #define KVJXML_CONFIGURATION_DOCUMENT_H
 
@@ -24,7 +24,7 @@ inline constexpr WordTable usbSpeeds({{"full", usbSpeedFull}, {"high", usbSpeedH
 
 // ---- Special rows ----
 
-/// The one word that no text stands for as well.
+/// Without text it gets a code too: that of any other word.
 inline constexpr ReadRule<_KVConfiguration> errorControl{
     {.field = fieldOf<&_KVConfiguration::errorControl>,
      .kind = Kind::word,
@@ -36,7 +36,7 @@ inline constexpr ReadRule<_KVConfiguration> errorControl{
         return content != nullptr;
     }};
 
-/// A second contactless encoder, and any further one, has a field of its own.
+/// A second contactless encoder has a field of its own; any further one overwrites it.
 inline constexpr ReadRule<_InternalEncoderInfo> contactlessEncoder{
     {.field = fieldOf<&_InternalEncoderInfo::contactlessEncoder>,
      .kind = Kind::wordOrNext,
@@ -100,7 +100,7 @@ inline constexpr auto document = rows<_KVConfiguration>({
     {"usb_speed",               word<&_KVConfiguration::usbSpeed, usbSpeeds>},
 });
 
-/// Whether a section is written for one custom card alone as well.
+/// The section is also written for one custom card alone.
 constexpr bool forCardAlone = true;
 
 /// The printer takes its wireless network under "ethernet" too, and tells it from the wired one by what is in it.

@@ -54,7 +54,7 @@ inline constexpr ReadRule<RecordOf<Member>> wirelessWord{
     word<Member, Table>.description,
     [](Element element, RecordOf<Member>& record) { return readWirelessWord(element, record.*Member, Table); }};
 
-/// Without text, or with an empty one, the address is 0; a null element has none to store.
+/// Without text, or with an empty one, the address is 0; a null element leaves it alone.
 inline bool readIpAddress(Element element, unsigned long& address) {
     const char* content = element.text();
     const bool isThere = content != nullptr && *content != '\0';
@@ -67,7 +67,7 @@ inline constexpr ReadRule<RecordOf<Member>> ipAddress{
     {.field = fieldOf<Member>, .kind = Kind::ipAddress, .withoutText = WithoutText::isZero},
     [](Element element, RecordOf<Member>& record) { return readIpAddress(element, record.*Member); }};
 
-/// A network whose addresses the host does not want to touch keeps them when they are not written.
+/// The printer keeps the addresses that are not written.
 inline constexpr SelectionCondition withAddresses("unless addresses are left out", [](const Selection& selection) {
     return !selection.withoutAddresses;
 });
@@ -90,7 +90,7 @@ inline constexpr auto networkTags = tags<_NetworkParams>({
     {"snmp",        put::enabledOrNot<&_NetworkParams::snmp>, withAddresses},
 });
 
-/// "wireless". The country is the printer's own; it takes none.
+/// "wireless". The printer has its own country and takes none.
 inline constexpr auto wireless = rows<_WirelessParams>({
     {"ip_address",  ipAddress<&_WirelessParams::ipAddress>},
     {"subnet_mask", ipAddress<&_WirelessParams::subnetMask>},

@@ -15,7 +15,7 @@ bool readRibbonName(Element element, char (&description)[64]) {
     std::memset(szRibbonName, 0, sizeof szRibbonName);
     const bool result = readText(element, szRibbonName, sizeof szRibbonName);
     if (std::strstr(szRibbonName, "MONO") != nullptr) {
-        constexpr std::size_t removed = sizeof "MONO";  // and the blank behind it
+        constexpr std::size_t removed = sizeof "MONO";  // and the blank after it
         std::memmove(szRibbonName, szRibbonName + removed, sizeof szRibbonName - removed);
         std::memset(szRibbonName + sizeof szRibbonName - removed, 0, removed);
     }

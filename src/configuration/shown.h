@@ -1,5 +1,5 @@
 /// @file configuration/shown.h
-/// What of a printer's text may go to a terminal: it must neither drive it nor begin a line of its own.
+/// Makes a printer's text fit to be shown on a terminal: it must neither control it nor begin a line of its own.
 #ifndef KVJXML_CONFIGURATION_SHOWN_H
 #define KVJXML_CONFIGURATION_SHOWN_H
 
@@ -14,7 +14,7 @@ struct Character {
     std::size_t length;
 };
 
-/// In UTF-8; a byte that begins no character of it stands for itself, as it does in Latin-1.
+/// In UTF-8; a byte that begins no character stands for itself, as in Latin-1.
 inline Character firstOf(const char* text) noexcept {
     const auto byte = [text](std::size_t i) { return static_cast<unsigned int>(static_cast<unsigned char>(text[i])); };
     const std::size_t length = byte(0) >= 0xF8   ? 1
@@ -22,7 +22,7 @@ inline Character firstOf(const char* text) noexcept {
                                : byte(0) >= 0xE0 ? 3
                                : byte(0) >= 0xC0 ? 2
                                                  : 1;
-    constexpr unsigned int least[] = {0, 0, 0x80, 0x800, 0x10000};  // A longer form than needed is none.
+    constexpr unsigned int least[] = {0, 0, 0x80, 0x800, 0x10000};  // A longer form than needed is not valid.
     unsigned int code = length == 1 ? byte(0) : byte(0) & (0x7FU >> length);
     for (std::size_t i = 1; i < length; ++i) {
         if ((byte(i) & 0xC0U) != 0x80) return {byte(0), 1};

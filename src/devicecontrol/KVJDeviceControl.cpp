@@ -23,7 +23,7 @@ bool setAttribute(TiXmlElement* element, const char* name, float value) {
     return setAttribute(element, name, convert::fromDouble(value, 1).c_str());
 }
 
-/// Begins a command with its root, and adds the element of its device; null when that has no name.
+/// Begins a command with its root, and adds the element of its device; null when the device has no name.
 TiXmlElement* beginCommand(TiXmlDocument& command, TiXmlElement*& root, const char* device) {
     root = kvjxml::beginRequestAnew(command, "device_control");
     return kvjxml::addTag(root, device);

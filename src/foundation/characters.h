@@ -1,6 +1,6 @@
 /// @file characters.h
-/// What each byte of a reply can be, as TinyXML tells them apart. Bytes from 7F on count as letters; of the control
-/// characters the process's locale says whether they do.
+/// What each byte of a reply can be, as TinyXML tells them apart. Bytes from 7F up count as letters. Whether a control
+/// character does is up to the process's locale.
 #ifndef KVJXML_FOUNDATION_CHARACTERS_H
 #define KVJXML_FOUNDATION_CHARACTERS_H
 
@@ -12,11 +12,11 @@
 
 namespace kvjxml::characters {
 
-/// Kinds of bytes, to be combined.
+/// Kinds of bytes; one byte can be of several.
 enum Kind : std::uint8_t {
     blank = 1,
     letter = 2,      ///< may begin a name
-    inName = 4,      ///< may stand in a name behind its first character
+    inName = 4,      ///< may stand in a name after its first character
     control = 8,     ///< up to the locale
     lead = 16,       ///< begins a character of several bytes in UTF-8
     ampersand = 32,  ///< begins a reference
@@ -55,7 +55,7 @@ inline bool continuesName(char c) noexcept {
     return is(c, inName) || (is(c, control) && std::isalnum(static_cast<unsigned char>(c)) != 0);
 }
 
-/// How many bytes the character takes in UTF-8 that begins with this byte.
+/// How many bytes a UTF-8 character takes that begins with this byte.
 inline std::size_t lengthInUtf8(char first) noexcept {
     const auto byte = static_cast<unsigned char>(first);
     if (!is(first, lead)) return 1;

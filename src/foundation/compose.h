@@ -1,6 +1,6 @@
 /// @file compose.h
-/// A request is a table too: one row per element, saying its name, how it is written and when. One loop writes them
-/// all, in the table's order. The rules that rows are made with are in write_rules.h.
+/// A request is a table too: one row per element, with its name, the rule by which it is written, and when it is. One
+/// loop writes them all, in the table's order. The rules are in write_rules.h.
 ///
 ///     constexpr auto cardTags = tags<_CardInfo>({
 ///         {"transfer_temps",        put::part<&_CardInfo::transferTemps, transferTemps>, withTransfer},
@@ -21,7 +21,7 @@
 
 namespace kvjxml {
 
-/// What a host asks for beside the record.
+/// What a host asks for besides the record.
 struct Selection {
     bool directToCard = false;      ///< The printer prints on the card itself: film and transfer are left out.
     bool withoutAddresses = false;  ///< Network addresses are left out.
@@ -44,7 +44,7 @@ struct Condition {
     bool (*holds)(const Record& record, const Selection& selection);
 };
 
-/// A condition that asks for the selection alone, so that it stands for one of any record.
+/// A condition on the selection alone, which serves for any record.
 template <class Holds>
 struct SelectionCondition {
     consteval SelectionCondition(std::string_view words, Holds) : description(words) {}
@@ -56,7 +56,7 @@ struct SelectionCondition {
 };
 
 inline constexpr SelectionCondition always({}, [](const Selection&) { return true; });
-/// Film and transfer are the retransfer printer's.
+/// Only a retransfer printer has a film and a transfer.
 inline constexpr SelectionCondition withTransfer("unless printing is direct to card",
                                                  [](const Selection& selection) { return !selection.directToCard; });
 inline constexpr SelectionCondition directToCard("when printing is direct to card",

@@ -16,7 +16,8 @@ namespace kvjxml::convert {
 
 namespace {
 
-/// The "C" locale as an object, for the functions that take one. Made once, never changed, and no memory of its own.
+/// The "C" locale as an object, for the functions that take one. It is made once, never changed, and takes no memory of
+/// its own.
 locale_t cLocale() noexcept {
     static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
     return locale;
@@ -38,8 +39,8 @@ bool hasHexPrefix(const char* text) noexcept { return std::strncmp(text, "0x", 2
 
 bool isDigit(char c) noexcept { return c >= '0' && c <= '9'; }
 
-/// Whether a text begins with digits, with or without a sign and a point, and nothing that makes them another form of
-/// number: then "%lf" reads what strtod does, which is faster.
+/// Whether a text begins with plain digits, perhaps with a sign and a point, and not with another form of number. "%lf"
+/// reads such a text as strtod does, and strtod is faster.
 bool isPlainDecimal(const char* text) noexcept {
     if (*text == '-' || *text == '+') ++text;
     if (!isDigit(*text)) return false;
@@ -47,18 +48,18 @@ bool isPlainDecimal(const char* text) noexcept {
     return *text == '\0' || *text == ' ';
 }
 
-/// So many decimal digits are exact in a long and in a double.
+/// This many decimal digits are exact both in a long and in a double.
 constexpr std::ptrdiff_t exactDigits =
     std::min(std::numeric_limits<long>::digits10, std::numeric_limits<double>::digits10);
 
 /// Appends the digits that a text begins with to a number, which wraps.
-/// @return the first character that is none.
+/// @return the first character that is not a digit.
 const char* appendDigits(const char* text, unsigned long& number) noexcept {
     while (isDigit(*text)) number = 10 * number + static_cast<unsigned long>(*text++ - '0');
     return text;
 }
 
-/// "%ld". Printers write few digits and nothing else; the C function has all other forms of numbers.
+/// "%ld". Printers write a few plain digits; every other form is left to the C function.
 bool scanLong(const char* text, long& value) noexcept {
     const bool isNegative = *text == '-';
     const char* const first = isNegative ? text + 1 : text;
@@ -73,8 +74,7 @@ bool scanLong(const char* text, long& value) noexcept {
     return end != text;
 }
 
-/// A number with or without a point that is all of a text and has so few digits that one division, which rounds as
-/// strtod does, makes it.
+/// Reads a text that is a number and nothing else, and so short that a single division gives the same as strtod.
 bool scanExact(const char* text, double& value) noexcept {
     static constexpr double powersOfTen[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6, 1e7,
                                              1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14};
@@ -102,7 +102,7 @@ int hexDigit(char c) noexcept {
     return letter >= 'a' && letter <= 'f' ? letter - 'a' + 10 : -1;
 }
 
-/// Reads an address of six times two digits, which is how printers write it.
+/// Reads an address of six pairs of digits, which is how printers write it.
 bool scanFullAddress(const char* text, HardwareAddress& address) noexcept {
     for (std::size_t i = 0; i < address.size(); ++i) {
         if (i > 0 && *text++ != ':') return false;
@@ -192,7 +192,7 @@ HardwareAddress toHardwareAddress(const char* text) noexcept {
     std::array<unsigned int, 6> bytes{};
     const int matched = std::sscanf(text, "%02x:%02x:%02x:%02x:%02x:%02x", bytes.data(), &bytes[1], &bytes[2],
                                     &bytes[3], &bytes[4], &bytes[5]);
-    static_cast<void>(matched);  // A byte that is not there is 0, and the printer expects no more to be said of it.
+    static_cast<void>(matched);  // A missing byte is 0, and the printer expects no complaint about it.
     HardwareAddress address{};
     for (std::size_t i = 0; i < address.size(); ++i) address[i] = static_cast<unsigned char>(bytes[i]);
     return address;

@@ -1,7 +1,7 @@
 /// @file convert.h
-/// What the printer's texts mean as numbers, truth words and addresses, and how these are written. No XML here. Every
-/// conversion is that of the C function it names, in the "C" locale: a printer knows nothing of the decimal comma that
-/// the host may be set to.
+/// Converts between texts and numbers, truth words and addresses, as the printer writes them. There is no XML here.
+/// Every conversion is that of the C function it names, in the "C" locale: a printer knows nothing of the decimal comma
+/// that the host may be set to.
 #ifndef KVJXML_FOUNDATION_CONVERT_H
 #define KVJXML_FOUNDATION_CONVERT_H
 
@@ -19,13 +19,13 @@ float toFloat(const char* text) noexcept;
 bool scanInt(const char* text, int& value) noexcept;
 /// "0x%x": the prefix has to be there, in lower case.
 bool scanPrefixedHex(const char* text, unsigned int& value) noexcept;
-/// "0x%02x": at most two digits behind the prefix.
+/// "0x%02x": at most two digits after the prefix.
 bool scanPrefixedHexByte(const char* text, unsigned int& value) noexcept;
 /// "%u": a negative number wraps.
 bool scanUnsigned(const char* text, unsigned int& value) noexcept;
 /// "%hu".
 bool scanUnsignedShort(const char* text, unsigned short& value) noexcept;
-/// "%lx" behind "0x", else "%lu".
+/// "%lx" after "0x", else "%lu".
 bool scanKeyNumber(const char* text, unsigned long& value) noexcept;
 /// "%lf", narrowed.
 bool scanFloat(const char* text, float& value) noexcept;
@@ -34,13 +34,13 @@ using HardwareAddress = std::array<unsigned char, 6>;
 /// "%02x:%02x:%02x:%02x:%02x:%02x"; what does not match is 0.
 HardwareAddress toHardwareAddress(const char* text) noexcept;
 
-/// An IPv4 address in network byte order, as inet_addr reads it: 4294967295 for a text that is none.
+/// An IPv4 address in network byte order, as inet_addr reads it: 4294967295 for a text that is not one.
 unsigned long toIpAddress(const char* text) noexcept;
 
 /// Truth words: exactly "enabled" and "yes" are true.
 bool isTrue(const char* text) noexcept;
 bool equal(const char* text, const char* word) noexcept;
-/// Equal but for the case of the letters A to Z.
+/// Equal, apart from the case of the letters A to Z.
 bool equalIgnoringCase(const char* text, const char* word) noexcept;
 
 /// Copies a text with its terminator to `destination`, which holds `capacity` characters; cuts what does not fit.

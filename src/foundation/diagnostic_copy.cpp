@@ -16,13 +16,13 @@ namespace kvjxml {
 
 namespace {
 
-/// Keeps from the host the signal for a file that grows beyond the process's limit, which would end it, while this
-/// lives. Signals are the host's, so nothing is changed but what the calling thread lets through, and that for so long.
+/// While this lives, holds back the signal for a file that grows beyond the process's limit: it would end the host.
+/// Signals are the host's business, so only the calling thread's mask is changed, and only for that time.
 class WithoutFileSizeSignal {
 public:
     WithoutFileSizeSignal() noexcept : wasPending_(isPending()) { pthread_sigmask(SIG_BLOCK, &signal_, &maskBefore_); }
     ~WithoutFileSizeSignal() {
-        // One that was pending before is the host's.
+        // One that was already pending is for the host.
         constexpr timespec atOnce{};
         if (!wasPending_ && isPending()) sigtimedwait(&signal_, nullptr, &atOnce);
         pthread_sigmask(SIG_SETMASK, &maskBefore_, nullptr);
@@ -56,8 +56,8 @@ struct RemoveFile {
     void operator()(const char* path) const noexcept { unlink(path); }
 };
 
-/// Whether there is nothing under that name, or a plain file of this user's, known by this one name, that was not made
-/// read-only. Whatever comes under the name after this loses it, but nothing of its content.
+/// Whether nothing has this name, or a plain file of this user's that has no other name and is not read-only. A file
+/// that takes the name after this check loses it again, but none of its content.
 bool canBeReplaced(const char* path) noexcept {
     struct stat status {};
     if (lstat(path, &status) != 0) return errno == ENOENT;
@@ -80,7 +80,7 @@ void keepDiagnosticCopy(const TiXmlDocument& request, const char* path) {
         return;
     }  // GCOVR_EXCL_STOP
     constexpr mode_t ownerOnly = S_IRUSR | S_IWUSR;
-    // The umask may have taken the owner's rights as well.
+    // The umask may have taken away even the owner's rights.
     const bool isWritten = fchmod(descriptor, ownerOnly) == 0 && request.SaveFile(file.get());
     const bool isWhole = std::fclose(file.release()) == 0 && isWritten;
     if (isWhole && std::rename(name.c_str(), path) == 0) static_cast<void>(unfinished.release());

@@ -11,7 +11,8 @@
 namespace kvjxml {
 
 Text::Text(std::size_t length) : length_(length) {
-    if (length > std::numeric_limits<std::ptrdiff_t>::max() - padding) throw std::bad_alloc();  // No array is so long.
+    // No array is that long.
+    if (length > std::numeric_limits<std::ptrdiff_t>::max() - padding) throw std::bad_alloc();
     bytes_.reset(new char[length + padding]);
     end(length);
 }
@@ -30,7 +31,7 @@ Document::Document(Text text) : text_(std::move(text)) {
 }
 
 void Document::allocate(std::size_t elements, std::size_t attributes) {
-    // One element is the document itself, one more tells where the attributes of the last one end.
+    // One element is the document itself, and one more tells where the attributes of the last element end.
     const std::size_t first = (elements + 2) * sizeof(Node);
     const std::size_t size = first + attributes * sizeof(Attribute);
     std::byte* place = few_.data();
@@ -56,7 +57,7 @@ Element Document::root(const char* name, const char* other) const noexcept {
 
 std::size_t Element::offset() const noexcept {
     if (document_ == nullptr || at_ == nullptr || at_ == document_->nodes_) return 0;
-    // Blanks may stand between the "<" and the name. The "<" itself can have become the end of a text.
+    // Blanks may stand between the "<" and the name. The "<" itself may have become the end of a text.
     std::uint32_t at = node()->name - 1;
     while (*text(at) != '<' && *text(at) != '\0') --at;
     return at;

@@ -1,7 +1,7 @@
 /// @file document.h
 /// A reply as its readers see it: elements with their names, the values of their first children, their attributes and
-/// their child elements. It is made in one pass over the text, which is decoded where it stands, and it is what TinyXML
-/// would make of the same text, to the last oddity: printers and hosts have come to rely on that.
+/// their child elements. It is made in one pass over the text, which is decoded in place, and it is what TinyXML would
+/// make of the same text, down to the last oddity: printers and hosts have come to rely on that.
 #ifndef KVJXML_FOUNDATION_DOCUMENT_H
 #define KVJXML_FOUNDATION_DOCUMENT_H
 
@@ -25,19 +25,19 @@ struct Fault {
 /// The private copy of a reply that a document is made of and then lives in.
 class Text {
 public:
-    /// Behind a text there are zeros, for whoever looks a few characters ahead.
+    /// A text is followed by this many zeros, so that a few characters can be read ahead.
     static constexpr std::size_t padding = 16;
 
     Text() = default;
     /// Room for `length` bytes, not yet written.
-    /// @throws std::bad_alloc, also when there is no such amount of memory at all.
+    /// @throws std::bad_alloc, also for a length that no memory can have.
     explicit Text(std::size_t length);
 
     [[nodiscard]] char* bytes() noexcept { return bytes_.get(); }
     [[nodiscard]] const char* bytes() const noexcept { return bytes_.get(); }
     [[nodiscard]] std::size_t length() const noexcept { return length_; }
 
-    /// Ends the text behind so many of its bytes.
+    /// Ends the text after this many of its bytes.
     void end(std::size_t length) noexcept;
 
 private:
@@ -47,23 +47,23 @@ private:
 
 class Document {
 public:
-    /// An element. They stand in document order, so the descendants of one are those from behind it up to its end.
+    /// An element. Elements are stored in document order, so those between an element and its end are its descendants.
     /// Offsets are from the beginning of the text.
     struct Node {
         std::uint32_t name;
         std::uint32_t nameLength;
         std::uint32_t value;       ///< of the first child; 0 when there is no child
-        std::uint32_t attributes;  ///< index of the first; they go on up to those of the next element
-        std::uint32_t end;         ///< index of the next element that is no descendant
+        std::uint32_t attributes;  ///< index of the first; the last is before the first of the next element
+        std::uint32_t end;         ///< index of the next element that is not a descendant
     };
     struct Attribute {
         std::uint32_t name;
         std::uint32_t value;
     };
 
-    /// One without a text.
+    /// A document without a text.
     Document() = default;
-    /// Takes the text as far as it makes sense. One of 4 GiB or more is refused; one that is none has no fault.
+    /// Reads the text as far as it makes sense. A text of 4 GiB or more is refused; having no text is not a fault.
     /// @throws std::bad_alloc
     explicit Document(Text text);
     Document(const Document&) = delete;
@@ -71,9 +71,9 @@ public:
 
     /// The first element of that name at the top level; a null one when there is none.
     [[nodiscard]] Element root(const char* name) const noexcept;
-    /// The same of the other name when there is none of the first.
+    /// The same; when no element has the first name, the first with the other.
     [[nodiscard]] Element root(const char* name, const char* other) const noexcept;
-    /// The document as an element that has those at the top level for children.
+    /// The document as an element whose children are those at the top level.
     [[nodiscard]] Element top() const noexcept;
 
     [[nodiscard]] const Fault& fault() const noexcept { return fault_; }
@@ -91,10 +91,10 @@ private:
     static constexpr std::size_t largest = std::numeric_limits<std::uint32_t>::max() - Text::padding;
 
     Text text_;
-    // Enough for an ordinary reply; the heap has what goes beyond.
+    // Enough for an ordinary reply; a larger one is stored on the heap.
     alignas(Node) std::array<std::byte, 2048> few_;
     std::unique_ptr<std::byte[]> many_;
-    Node* nodes_ = nullptr;  // The first is the document itself, one more stands behind the last.
+    Node* nodes_ = nullptr;  // The first is the document itself, and one more follows the last.
     Attribute* attributes_ = nullptr;
     Fault fault_;
     bool hasByteOrderMark_ = false;

@@ -18,7 +18,7 @@ namespace {
 
 using namespace characters;
 
-/// Whether a text begins with these words, which are in small letters, in whatever case the locale has for them.
+/// Whether a text begins with these words, in any case that the locale knows. They are given in small letters.
 bool beginsInAnyCase(const char* text, std::string_view words) noexcept {
     return std::ranges::all_of(words, [&](char c) { return std::tolower(static_cast<unsigned char>(*text++)) == c; });
 }
@@ -27,8 +27,8 @@ bool begins(const char* text, std::string_view words) noexcept {
     return std::ranges::all_of(words, [&](char c) { return *text++ == c; });
 }
 
-/// How many elements and attributes a text has at most: an element needs a "<" with a letter behind it, an attribute
-/// an equals sign.
+/// The most elements and attributes that a text can have: an element needs a "<" followed by a letter, an attribute an
+/// equals sign.
 struct Bounds {
     std::size_t elements = 0;
     std::size_t attributes = 0;
@@ -47,7 +47,7 @@ Bounds boundsOf(const char* text, std::size_t length) noexcept {
         bounds.elements += elements;
         bounds.attributes += attributes;
     };
-    // As far as a byte counts: compilers make vector instructions of that.
+    // Only as many as a byte can count: compilers turn that into vector instructions.
     constexpr std::size_t whole = 128;
     for (; length >= whole; length -= whole) {
         count(text, whole);
@@ -59,8 +59,8 @@ Bounds boundsOf(const char* text, std::size_t length) noexcept {
 
 }  // namespace
 
-/// Goes through a text once, token by token, without calling itself. What it says of places is said in the text as it
-/// came: a token is overwritten, by the decoded text or the NUL behind it, only when it has been read.
+/// Goes through a text once, token by token, without recursion. Places are those of the text as it came: a token is
+/// overwritten, by its decoded text or by the NUL after it, only once it has been read.
 class DocumentParser {
 public:
     explicit DocumentParser(Document& document) noexcept
@@ -87,7 +87,7 @@ public:
 private:
     using Node = Document::Node;
 
-    /// Until the first declaration at the top level says, each byte is a character.
+    /// Each byte is a character, until the first declaration at the top level says otherwise.
     enum class Encoding { unknown, utf8, bytes };
 
     /// An attribute where it stands in the text.
@@ -153,7 +153,7 @@ private:
         char* const value = at_;
         char* const valueEnd = decodeTo('<');
         if (!std::all_of(value, valueEnd, [](char c) { return is(c, blank); })) append(value);
-        // A "<" as the very last character is not seen any more.
+        // A "<" that is the very last character is not seen.
         const bool more = *at_ == '<' && at_[1] != '\0';
         *valueEnd = '\0';
         return more || fail(TiXmlBase::TIXML_ERROR_READING_ELEMENT_VALUE, at_);
@@ -169,7 +169,7 @@ private:
         return verbatim("", ">");
     }
 
-    /// A node that has its text as it stands, between these words; without the latter it takes all that is left.
+    /// A node whose text stays as it is, between these two words; without the second it takes all that is left.
     bool verbatim(std::string_view first, std::string_view last) noexcept {
         char* const value = at_ + first.size();
         append(value);
@@ -204,7 +204,7 @@ private:
         return attributeCount_ - node.attributes < 2 ? more : isWithoutRepeated(node) && more;
     }
 
-    /// From behind its name to its ">".
+    /// From the end of its name to its ">".
     bool tag() noexcept {
         for (;;) {
             skipBlanks();
@@ -230,14 +230,15 @@ private:
         RawAttribute found;
         if (const Fault fault = attribute(found)) return fail(fault.id, text_ + fault.offset);
         *found.nameEnd = '\0';
-        // Right behind a value without quotes the tag may end, which becomes a NUL when it has been read.
+        // A value without quotes may be followed at once by the end of the tag, which becomes a NUL when it has been
+        // read.
         if (found.valueEnd == at_ && is(*at_, blank)) ++at_;
         if (found.valueEnd != at_) *found.valueEnd = '\0';
         document_.attributes_[attributeCount_++] = {offsetOf(found.name), offsetOf(found.value)};
         return true;
     }
 
-    /// An element with the same attribute twice has those before, and ends the parsing.
+    /// An element that has an attribute twice keeps those before the second, and ends the parsing.
     bool isWithoutRepeated(const Node& node) {
         const std::span all(document_.attributes_ + node.attributes, attributeCount_ - node.attributes);
         const std::size_t repeated = firstRepeated(all, text_);
@@ -260,8 +261,8 @@ private:
         return true;
     }
 
-    /// What is no attribute that a declaration has is skipped. One that is cut or wrong ends the parsing, and is no
-    /// fault at the top level.
+    /// Whatever is not an attribute of a declaration is skipped. A declaration that is cut or wrong ends the parsing;
+    /// at the top level it is not a fault.
     bool declaration() noexcept {
         char* const value = at_;
         append(value);
@@ -325,24 +326,24 @@ private:
             }
             found.valueEnd = at_;
         }
-        // With nothing behind it, it does not count.
+        // With nothing after it, it does not count.
         return *at_ == '\0' ? wrong(TiXmlBase::TIXML_ERROR_PARSING_ELEMENT, found.name) : Fault{};
     }
 
-    /// The kinds of characters that do not stand for themselves in front of this delimiter.
+    /// The kinds of characters that do not stand for themselves before this delimiter.
     [[nodiscard]] unsigned specialBefore(char delimiter) const noexcept {
         const unsigned special = delimiter == '<' ? unsigned{end} : unsigned{quote};
         const unsigned gaps = delimiter == '<' && condense_ ? unsigned{blank} : 0U;
         return special | gaps | ampersand | (utf8() ? unsigned{lead} : 0U);
     }
 
-    /// A character of several bytes takes them along, markup or not.
+    /// A character of several bytes takes all of them along, even those that look like markup.
     void copyCharacter(char*& from, char*& to) const noexcept {
         for (std::size_t left = utf8() ? lengthInUtf8(*from) : 1; left > 0 && *from != '\0'; --left) *to++ = *from++;
     }
 
-    /// Decodes the text from here to the next `delimiter`, and stands there then; or at the end of the text, or at a
-    /// reference that cannot be decoded.
+    /// Decodes the text from here to the next `delimiter` and stops there, or at the end of the text, or at a reference
+    /// that cannot be decoded.
     /// @return the end of the decoded text, which is not terminated yet.
     char* decodeTo(char delimiter) noexcept {
         const bool condense = delimiter == '<' && condense_;
@@ -380,7 +381,7 @@ private:
     char* at_;
     Encoding encoding_ = Encoding::unknown;
     const bool condense_ = TiXmlBase::IsWhiteSpaceCondensed();
-    std::uint32_t open_ = 0;   ///< the element that what follows is in; the end of its node is its parent meanwhile
+    std::uint32_t open_ = 0;   ///< the element that is open; until it ends, the end of its node holds its parent
     std::uint32_t count_ = 1;  ///< of nodes
     std::uint32_t attributeCount_ = 0;
 };

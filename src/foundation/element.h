@@ -15,12 +15,12 @@
 
 namespace kvjxml {
 
-/// A view, to be passed by value. What it shows belongs to the document, or to the host, that has the element. A null
-/// one has no text, no attribute and no children.
+/// A view, to be passed by value. The element belongs to its document, or to the host. A null one has no text, no
+/// attribute and no children.
 class Element {
 public:
     Element() = default;
-    // Whoever has one of TinyXML's elements has an element.
+    // Any element of TinyXML's can be seen as one.
     Element(const TiXmlElement* host) noexcept : at_(host) {}
     Element(const Document& document, const Document::Node* node) noexcept : document_(&document), at_(node) {}
 
@@ -78,7 +78,7 @@ public:
 
     /// Gives an element of the host's an attribute. One of a reply is left alone: nobody will look at it again.
     void setAttribute(const char* name, const char* value) const {
-        // Only as an element that could be written to can a host hand one over.
+        // A host can only hand over elements that may be changed.
         if (at_ != nullptr && document_ == nullptr) const_cast<TiXmlElement*>(host())->SetAttribute(name, value);
     }
 

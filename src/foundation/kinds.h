@@ -28,7 +28,7 @@ enum class Kind {
     text,             ///< `capacity`
     textWithoutWord,  ///< a text without the `word` at its front: `capacity`
     textAndCode,      ///< a text, and its code to `otherField`: `capacity`, `words`
-    appendedText,     ///< a text behind the one that is there: `capacity`, that of both
+    appendedText,     ///< a text added to the one that is there: `capacity`, that of both
 
     // ---- Words ----
     word,           ///< a code: `words`; a code without a word is written as `otherWord`
@@ -63,8 +63,8 @@ enum class Kind {
 /// How the digits of an integer stand in a text.
 enum class Base {
     decimal,
-    hexadecimal,  ///< behind "0x"
-    either,       ///< hexadecimal behind "0x", else decimal
+    hexadecimal,  ///< after "0x"
+    either,       ///< hexadecimal after "0x", else decimal
 };
 
 struct Number {
@@ -113,7 +113,7 @@ struct Description {
     FieldName field{};  ///< empty for a group in the same record, and for a record that is a single value
     Kind kind;
     Number number{};
-    int decimals{};          ///< how many digits stand behind the decimal point
+    int decimals{};          ///< how many digits stand after the decimal point
     std::size_t capacity{};  ///< the size of a text field in bytes
     NamedWords words{};
     std::string_view word{};

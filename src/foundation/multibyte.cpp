@@ -22,8 +22,8 @@ Charset charset() noexcept {
     return {isUtf8, isUtf8 || std::strcmp(name, "ANSI_X3.4-1968") == 0};
 }
 
-/// Copies the ASCII that a text begins with, in blocks as far as it fills them: compilers make vector instructions of
-/// those.
+/// Copies the ASCII that a text begins with, in whole blocks where it can: compilers turn these into vector
+/// instructions.
 /// @return how many characters were copied.
 std::size_t copyAscii(const wchar_t* text, std::size_t length, char* bytes) noexcept {
     constexpr std::size_t block = 32;
@@ -40,7 +40,7 @@ std::size_t copyAscii(const wchar_t* text, std::size_t length, char* bytes) noex
     return copied;
 }
 
-/// What was converted up to a character that the locale does not know is what the host can read.
+/// A character that the locale does not know ends the text: the host gets what was converted before it.
 void convert(const wchar_t* text, char* bytes, std::size_t capacity) noexcept {
     std::mbstate_t state{};
     static_cast<void>(std::wcsrtombs(bytes, &text, capacity, &state));
@@ -51,7 +51,7 @@ void convert(const wchar_t* text, char* bytes, std::size_t capacity) noexcept {
 void toMultibyte(const wchar_t* text, std::size_t length, char* bytes) {
     const Charset locale = charset();
     std::size_t count = wcsnlen(text, length);
-    // Replies are ASCII all but always, and copying that takes a fraction of the conversion's time.
+    // Replies are nearly always ASCII, and copying it takes a fraction of the time that converting it does.
     const std::size_t copied = locale.keepsAscii ? copyAscii(text, count, bytes) : 0;
     text += copied;
     bytes += copied;
@@ -59,11 +59,13 @@ void toMultibyte(const wchar_t* text, std::size_t length, char* bytes) {
     count -= copied;
     if (count == 0) return;
     if (locale.isUtf8) {
-        // Each character has a byte at least, so the bytes are full before the conversion would look behind the text.
+        // Each character takes at least one byte, so the bytes are full before the conversion could look beyond the
+        // text.
         convert(text, bytes, length);
     } else {
-        // Elsewhere a character may have none, or have to wait for the next one, and only a terminator tells that there
-        // is none. A conversion that takes a count instead loses what waits, and ends the process over no byte at all.
+        // In other character sets a character may take no byte, or have to wait for the next one, and only a terminator
+        // says that there is none. A conversion that takes a count instead loses what waits, and ends the process when
+        // there is no byte at all.
         convert(std::wstring(text, count).c_str(), bytes, length);
     }
 }

@@ -8,8 +8,8 @@
 namespace kvjxml {
 
 /// Converts up to `length` wide characters to at most `length` bytes, and a NUL when there is room for it, as wcstombs
-/// does with a text that is terminated behind them. A character that the locale does not know ends the text. Nothing
-/// behind the characters is looked at, nor behind a NUL among them.
+/// does with a terminated text. A character that the locale does not know ends the text. Nothing after these characters
+/// is looked at, nor after a NUL among them.
 /// @param bytes  room for `length` bytes, all zero.
 /// @throws std::bad_alloc, only in a locale of another character set than UTF-8 and ASCII, or over such a character.
 void toMultibyte(const wchar_t* text, std::size_t length, char* bytes);

@@ -43,8 +43,8 @@ inline constexpr ReadRule<RecordOf<Member>> text{
         return readText(element, record.*Member, capacity);
     }};
 
-/// A word, as its code; an unknown word is that of the table's other texts, or leaves the value alone. Without text the
-/// value is left alone.
+/// A word, as its code. An unknown word has the table's code for other texts, or leaves the value alone. Without text
+/// the value stays as it was.
 template <class Value>
 bool readWord(Element element, Value& value, const Words& table) {
     const char* content = element.text();
@@ -83,7 +83,7 @@ struct Literal {
     char characters[N]{};
 };
 
-/// Such a word to point to. A copy, since clang++ exports the object that stands for a template argument from the
+/// Such a word, to point to. It is a copy, because clang++ would export the template argument's own object from the
 /// library.
 template <Literal Word>
 inline constexpr Literal literal = Word;
@@ -152,7 +152,7 @@ inline constexpr ReadRule<RecordOf<Member>> setting{
     {.field = fieldOf<Member>, .kind = kindOfSetting<ValueOf<Member>>},
     [](Element element, RecordOf<Member>& record) { return readSetting(element, record.*Member); }};
 
-/// A bit set in hexadecimal behind a literal "0x"; any other text leaves it alone and counts as read.
+/// Bits in hexadecimal after a literal "0x"; any other text leaves them alone and counts as read.
 template <auto Member>
 inline constexpr ReadRule<RecordOf<Member>> prefixedHex{
     {.field = fieldOf<Member>,
@@ -176,17 +176,17 @@ inline constexpr ReadRule<RecordOf<Member>> part{
     {.field = fieldOf<Member>, .kind = Kind::part, .group = described<Table>},
     [](Element element, RecordOf<Member>& record) { return walk(element, record.*Member, Table); }};
 
-/// A number that is all that is read: the record is the number.
+/// A record that is a single number.
 template <class Value>
 inline constexpr ReadRule<Value> itself{{.kind = kindOfNumber<Value>, .number = numberRead<Value>},
                                         [](Element element, Value& value) { return readNumber(element, value); }};
 
-/// A word that is all that is read: the record is its code.
+/// A record that is the code of a single word.
 template <const auto& Table>
 inline constexpr ReadRule<int> wordItself{{.kind = Kind::word, .words = named<Table>},
                                           [](Element element, int& code) { return readWord(element, code, Table); }};
 
-/// A list being filled: entries of the host's, as many as it has room for.
+/// A list being filled: the entries that the host has room for.
 template <class Entry>
 struct List {
     std::span<Entry> entries;

@@ -21,7 +21,7 @@ int valueOf(char digit, bool hexadecimal) noexcept {
     return hexadecimal && lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
 }
 
-/// Surrogates and numbers beyond Unicode pass as well; those that would take more than four bytes are left out.
+/// Surrogates and numbers beyond Unicode pass too; one that would take more than four bytes is left out.
 void encodeInUtf8(unsigned long character, char*& to) noexcept {
     if (character >= 0x200000) return;
     const auto continuation = [&](unsigned shift) { *to++ = static_cast<char>(0x80 | ((character >> shift) & 0x3F)); };
@@ -43,7 +43,7 @@ void encodeInUtf8(unsigned long character, char*& to) noexcept {
     continuation(0);
 }
 
-/// A numbered reference ends at the next semicolon, wherever that is, and its digits begin behind the last mark before
+/// A numbered reference ends at the next semicolon, wherever that is, and its digits begin after the last mark before
 /// it.
 char* decodeNumber(char* from, char*& to, bool utf8) noexcept {
     const bool hexadecimal = from[2] == 'x';
@@ -72,13 +72,13 @@ char* decodeNumber(char* from, char*& to, bool utf8) noexcept {
 char* decodeReference(char* from, char*& to, bool utf8) noexcept {
     if (from[1] == '#' && from[2] != '\0') return decodeNumber(from, to, utf8);
     for (const auto& [text, character] : names) {
-        // The first character alone tells most apart: a reply may be full of ampersands.
+        // The first character already tells most of them apart, and a reply may be full of ampersands.
         if (from[1] == text[0] && std::strncmp(from + 1, text.data(), text.size()) == 0) {
             *to++ = character;
             return from + 1 + text.size();
         }
     }
-    return from + 1;  // The ampersand alone is lost.
+    return from + 1;  // Only the ampersand is lost.
 }
 
 }  // namespace kvjxml

@@ -5,9 +5,9 @@
 
 namespace kvjxml {
 
-/// Decodes the reference that `from` begins with, an ampersand, to `to`, which moves behind what was written. It may be
-/// `from` itself: what a reference stands for is never longer.
-/// @return what follows the reference; null for a numbered one without an end or with other characters than digits.
+/// Decodes the reference at `from`, where its ampersand is, and writes it to `to`, which moves past what was written.
+/// They may be the same place: what a reference stands for is never longer than the reference.
+/// @return what follows the reference; null for a numbered one that has no end or contains anything but digits.
 char* decodeReference(char* from, char*& to, bool utf8) noexcept;
 
 }  // namespace kvjxml

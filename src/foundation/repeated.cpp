@@ -15,7 +15,7 @@ namespace {
 
 using Attributes = std::span<const Document::Attribute>;
 
-/// Up to here comparing each with all before it costs less than sorting.
+/// Up to this many, comparing each with all before it costs less than sorting.
 constexpr std::size_t few = 8;
 
 std::size_t firstRepeatedOfFew(Attributes attributes, const char* text) noexcept {
@@ -34,10 +34,10 @@ struct Part {
 };
 using Parts = std::span<Part>;
 
-/// Eight bytes of a name as a number, the first as the lowest; behind its end there are zeros.
+/// Eight bytes of a name as a number, the first as the lowest; after its end there are zeros.
 std::uint64_t bytesOf(const char* name) noexcept {
     std::uint64_t bytes = 0;
-    std::memcpy(&bytes, name, sizeof bytes);  // There is padding behind the text.
+    std::memcpy(&bytes, name, sizeof bytes);  // The text is followed by padding.
     if constexpr (std::endian::native == std::endian::big) bytes = __builtin_bswap64(bytes);
     // The lowest bit that is set is that of the first byte that is zero.
     const std::uint64_t zeros = (bytes - 0x0101010101010101) & ~bytes & 0x8080808080808080;

@@ -1,5 +1,5 @@
 /// @file repeated.h
-/// Which attribute of an element has a name that another before it has.
+/// Finds an attribute whose name an earlier attribute of the same element has.
 #ifndef KVJXML_FOUNDATION_REPEATED_H
 #define KVJXML_FOUNDATION_REPEATED_H
 
@@ -10,9 +10,9 @@
 
 namespace kvjxml {
 
-/// The index of the first attribute whose name stands before it; how many there are when there is none. The names are
-/// offsets into `text`, terminated, and there is Text::padding behind the last. Takes time in proportion to the names'
-/// lengths, whatever they are.
+/// The index of the first attribute whose name has come before; the number of attributes when no name comes twice. The
+/// names are offsets into `text`; they are terminated, and Text::padding follows the last. The time is in proportion to
+/// the lengths of the names, whatever they are.
 /// @throws std::bad_alloc  when there are many.
 std::size_t firstRepeated(std::span<const Document::Attribute> attributes, const char* text);
 

@@ -24,7 +24,7 @@ Text copyOf(const char* reply) {
 
 void tellFault(const Document& reply, TiXmlDocument& host) {
     if (!reply.hasText()) return;
-    // A host's document remembers the mark for the file that it may be saved to, and takes it from nowhere else.
+    // A host's document remembers the byte-order mark for the file that it may be saved to, and learns of it only here.
     if (reply.hasByteOrderMark()) host.Parse("\xEF\xBB\xBF", nullptr, TIXML_ENCODING_UNKNOWN);
     host.ClearError();
     if (reply.fault()) host.SetError(reply.fault().id, nullptr, nullptr, TIXML_ENCODING_UNKNOWN);

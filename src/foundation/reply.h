@@ -19,15 +19,15 @@ Text copyOf(const wchar_t* reply, std::int64_t length);
 /// A reply of narrow text, terminated by NUL; null is no text.
 Text copyOf(const char* reply);
 
-/// One reply. Of one that is no XML, or only to a point, there is what could be made of it until then.
+/// One reply. Where it is not XML, or stops being XML, it has what could be read up to there.
 class Reply : public Document {
 public:
     Reply(const wchar_t& first, std::int64_t length) : Document(copyOf(&first, length)) {}
     explicit Reply(const char* text) : Document(copyOf(text)) {}
 };
 
-/// Says in a host's document what is wrong with a reply, as if the host's document had parsed it. No reply leaves what
-/// was said before.
+/// Reports in a host's document what is wrong with a reply, as if that document had parsed it. Without a reply the
+/// document keeps what it reported before.
 void tellFault(const Document& reply, TiXmlDocument& host);
 
 }  // namespace kvjxml

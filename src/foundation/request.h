@@ -17,8 +17,7 @@ TiXmlElement* beginRequestAnew(TiXmlDocument& request, const char* rootName);
 
 /// Prints `request`, indented by four spaces a level, as wide text in the process's locale.
 /// @param out  a buffer of `capacity` wide characters. A text of that length or longer fills it **without** a
-/// terminator;
-///             a byte that the locale does not know ends the text, without a terminator as well.
+///             terminator; a byte that the locale does not know ends the text, also without a terminator.
 /// @return false, with nothing written, when `out` is null or `capacity` negative.
 bool print(const TiXmlDocument& request, wchar_t* out, int capacity);
 

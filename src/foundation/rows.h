@@ -1,6 +1,6 @@
 /// @file rows.h
-/// A message is a table: one row per element, saying its name and how its content gets into the record. One loop walks
-/// them all. The rules that rows are made with are in read_rules.h.
+/// A message is a table: one row per element, with its name and the rule by which it is read into the record. One loop
+/// walks them all. The rules are in read_rules.h.
 ///
 ///     constexpr auto jobStatus = rows<KVJobStatus>({
 ///         {"uuid",               text<&KVJobStatus::uuid>},
@@ -42,12 +42,12 @@ constexpr DescribedRow describe(const Row<Record>& row) {
     return {row.name, row.rule.description};
 }
 
-/// A table, when no name stands twice in it.
+/// A table, when no name occurs twice in it.
 template <class AnyRow, std::size_t N>
 consteval std::array<AnyRow, N> withoutRepeats(const AnyRow (&list)[N]) {
     for (std::size_t i = 0; i < N; ++i) {
         for (std::size_t k = 0; k < i; ++k) {
-            if (list[i].name == list[k].name) throw "a name stands twice in its table";
+            if (list[i].name == list[k].name) throw "a name occurs twice in its table";
         }
     }
     return std::to_array(list);

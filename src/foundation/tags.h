@@ -1,5 +1,5 @@
 /// @file tags.h
-/// New elements of a request. What is added is linked when it is whole and is then its parent's, so that nothing is
+/// New elements of a request. An element is linked once it is whole, and then belongs to its parent, so that nothing is
 /// half done or lost when memory runs out. A null parent, name or text adds nothing, as KVJHelper promises its callers.
 #ifndef KVJXML_FOUNDATION_TAGS_H
 #define KVJXML_FOUNDATION_TAGS_H

@@ -1,6 +1,6 @@
 /// @file values.h
-/// What an element's text or one of its attributes is as a value. An element without text, or without the attribute,
-/// leaves the value alone unless it is said otherwise, and is false.
+/// Reads an element's text or one of its attributes as a value. Without the text or the attribute the result is false,
+/// and the value stays as it was unless stated otherwise.
 #ifndef KVJXML_FOUNDATION_VALUES_H
 #define KVJXML_FOUNDATION_VALUES_H
 
@@ -11,7 +11,7 @@
 
 namespace kvjxml {
 
-/// Stores what a conversion makes of a text; null is none.
+/// Stores what a conversion makes of a text, if there is one.
 template <class Value, class Convert>
 bool store(const char* content, Value& value, Convert convert) {
     if (content != nullptr) value = static_cast<Value>(convert(content));
@@ -42,7 +42,7 @@ inline bool readText(Element element, char* buffer, int capacity) {
 
 /// A truth word.
 inline bool readTruth(Element element, char& value) { return store(element.text(), value, convert::isTrue); }
-/// Without text this one is false.
+/// Without text this one becomes false.
 inline bool readTruth(Element element, bool& value) {
     value = false;
     return store(element.text(), value, convert::isTrue);
@@ -58,7 +58,7 @@ inline bool readHardwareAddress(Element element, unsigned char* address) {
 
 // ---- An attribute ----
 
-/// A number; a text that is none leaves the value alone and is false.
+/// A number; any other text leaves the value alone and is false.
 inline bool readAttribute(Element element, const char* name, int& value) {
     const char* content = element.attribute(name);
     return content != nullptr && convert::scanInt(content, value);

@@ -1,6 +1,6 @@
 /// @file vocabulary.h
-/// The words that several messages share: ribbons, feeders, encoders and the laminator. The printer reads and writes
-/// different words in places; where it does, the two directions stand side by side as tables of their own.
+/// The words that several messages share: ribbons, feeders, encoders and the laminator. In places the printer takes
+/// other words than it sends; there each direction has a table of its own, side by side.
 #ifndef KVJXML_FOUNDATION_VOCABULARY_H
 #define KVJXML_FOUNDATION_VOCABULARY_H
 
@@ -31,7 +31,7 @@ inline constexpr WordTable ribbonNames{blackRibbon,
                                         {"Hologram", 271}},
                                        Match::wholeIgnoringCase};
 
-/// Read only. Panel sequences and sales names; "ymckoo" has a code that no ribbon name stands for.
+/// Read only. Panel sequences and sales names; "ymckoo" has a code that no ribbon name has.
 inline constexpr WordTable ribbonDescriptions{blackRibbon,
                                               {{"black mono", blackRibbon},
                                                {"black", blackRibbon},

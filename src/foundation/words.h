@@ -31,7 +31,7 @@ struct Words {
 };
 
 /// A table as it is written: `constexpr WordTable states{0, {{"off", 0}, {"on", 1}}};`, the code of any other text
-/// first. A table without that code has no code for other texts. A word that stands twice does not compile.
+/// first. A table without that code has no code for other texts. A word that occurs twice does not compile.
 template <std::size_t N>
 class WordTable {
 public:
@@ -41,14 +41,14 @@ public:
     explicit consteval WordTable(const Word (&rows)[N], Match match = Match::whole) : match_(match) {
         for (std::size_t i = 0; i < N; ++i) {
             for (std::size_t k = 0; k < i; ++k) {
-                if (std::string_view(rows[i].word) == rows[k].word) throw "a word stands twice in its table";
+                if (std::string_view(rows[i].word) == rows[k].word) throw "a word occurs twice in its table";
             }
             rows_[i] = rows[i];
         }
     }
-    /// The same rows for a reader that leaves its field alone at other texts.
+    /// The same rows without a code for other texts, for a reader that then leaves its field alone.
     [[nodiscard]] consteval WordTable leavingOthers() const { return WordTable(rows_, match_); }
-    // A table is what its readers look words up in, so it stands for its view wherever one is asked for.
+    // So that a table can be given wherever words are looked up.
     constexpr operator Words() const noexcept { return {rows_, other_, match_}; }
 
 private:
@@ -64,7 +64,7 @@ std::optional<int> codeOf(Words table, const char* text) noexcept;
 /// The code of a text in a table that has one for every text.
 int anyCodeOf(Words table, const char* text) noexcept;
 
-/// The word of a code, that of the first row that carries it; null when none does.
+/// The word of a code, that of the first row that has it; null when none does.
 const char* wordOf(Words table, int code) noexcept;
 
 /// The same, but `other` when none does.

@@ -83,7 +83,7 @@ inline constexpr WriteRule<RecordOf<Member>> word{
         return addTag(parent, name, wordOf(Table, record.*Member, literal<Otherwise>.characters));
     }};
 
-/// The word of a code that is all that is written: the record is the code.
+/// A record that is the code of a single word.
 template <const auto& Table>
 inline constexpr WriteRule<int> wordItself{
     {.kind = Kind::word, .words = named<Table>},

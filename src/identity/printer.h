@@ -11,7 +11,7 @@ namespace kvjxml::identity {
 
 using namespace Kavrin;  // the records
 
-/// A number that a text which is none leaves alone; it counts as read all the same.
+/// A number. A text that is not a number leaves the field alone, but counts as read.
 template <auto Member, auto Scan>
 bool scanned(Element element, RecordOf<Member>& record) {
     const char* content = element.text();
@@ -54,7 +54,7 @@ inline constexpr auto printer = rows<KVPrinterInfo>({
     {"ethernet_deviceid",         text<&KVPrinterInfo::ethernet_deviceid>},
     {"wireless_physical_address", hardwareAddress<&KVPrinterInfo::wireless_physical_address>},
 });
-/// The full identity. The versions of single boards are the printer's to tell, not the host's.
+/// The full identity. Only the printer tells the versions of single boards.
 inline constexpr auto printerTags = tags<KVPrinterInfo>({
     {"vendor",                    put::text<&KVPrinterInfo::vendor>},
     {"printer_model",             put::text<&KVPrinterInfo::printer_model>},

@@ -25,8 +25,8 @@ _KVMediaInfo::~_KVMediaInfo() {
     releaseFilled(films);
     releaseFilled(ribbons);
     if (releaseFilled(laminates)) {
-        // Hosts find the last list null in the memory of a record that has ended; compilers leave out plain stores
-        // there.
+        // After a record has ended, hosts find its last list null. Compilers leave out a plain store to an object that
+        // ends.
         std::vector<_MediaRibbonInfo*>* volatile& last = laminates;
         last = nullptr;
     }

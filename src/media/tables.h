@@ -15,7 +15,7 @@ namespace kvjxml::media {
 
 using namespace Kavrin;  // the records
 
-/// The value of a setting as it stands: the catalogue knows no ranges.
+/// The value of a setting alone: the catalogue has no ranges.
 template <auto Member>
 inline constexpr ReadRule<RecordOf<Member>> value{
     {.field = fieldOf<Member>, .kind = kindOfNumber<decltype(ValueOf<Member>::value)>},
@@ -87,7 +87,7 @@ inline constexpr const auto& newFilm = append<&_KVMediaInfo::films, medium>;
 inline constexpr const auto& newRibbon = append<&_KVMediaInfo::ribbons, medium>;
 inline constexpr const auto& newLaminate = append<&_KVMediaInfo::laminates, medium>;
 
-// A printer lists the laminates that it takes in place of a ribbon under "ribbons"; its own ribbons it does not tell.
+// A printer lists the laminates that it takes in place of a ribbon under "ribbons"; it does not list its own ribbons.
 inline constexpr auto cards     = rows<_KVMediaInfo>({{"card", newCard}});
 inline constexpr auto films     = rows<_KVMediaInfo>({{"film", newFilm}});
 inline constexpr auto ribbons   = rows<_KVMediaInfo>({{"laminate", newLaminate}});

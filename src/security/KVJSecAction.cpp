@@ -16,10 +16,10 @@ namespace tables = kvjxml::security;
 
 namespace {
 
-/// A length as the frame takes it; one that no reply has counts as none.
+/// A length as Reply takes it; one that no reply can have counts as zero.
 std::int64_t signedLength(unsigned long length) { return static_cast<std::int64_t>(length); }
 
-/// The name of the action that a text has in it; null when there is none.
+/// The name of the action in a text; null when it has none.
 const char* actionNameIn(const char* text) {
     const auto code = codeOf(tables::actionNames, text);
     return code ? wordOf(tables::actionNames, *code) : nullptr;
@@ -59,7 +59,7 @@ bool KVJSecAction::ParseSecureDirectiveValues(const wchar_t& reply, unsigned lon
     const Reply message(reply, signedLength(length));
     const Element action = message.root("action");
     if (const char* text = action.text()) {
-        // The name is looked for in the whole text: in what fits of it, an unlocking could become a locking.
+        // The whole text is searched for the name: in the part that fits, an unlocking could look like a locking.
         const char* name = actionNameIn(text);
         kvjxml::convert::copy(name != nullptr ? name : text, directive.action, sizeof directive.action);
     }

@@ -16,7 +16,7 @@ using kvjxml::setAttribute;
 
 namespace {
 
-/// What tells the printer which printer is meant, and by which nonce.
+/// Says which printer is meant, and with which nonce.
 void addPrinter(TiXmlElement* action, const _tagSecActionXMLValues& values) {
     TiXmlElement* printer = addTag(action, "printer");
     setAttribute(printer, "model", values.model);

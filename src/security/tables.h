@@ -21,8 +21,8 @@ struct KeyExchange : _tagHostDHKeys {
     bool any;  ///< whether any of them had a text
 };
 
-/// Hexadecimal behind "0x", else decimal; a text that is no number leaves the value alone, and counts as read. An
-/// element without text does not take back what came before it.
+/// Hexadecimal after "0x", else decimal; a text that is no number leaves the value alone, and counts as read. An
+/// element without text does not undo what came before it.
 template <auto Member>
 inline constexpr ReadRule<KeyExchange> keyNumber{
     {.field = fieldOf<Member>,
@@ -46,8 +46,7 @@ void setFromField(Element element, const char* name, const char (&field)[N]) {
 inline constexpr std::string_view printerAttributes[] = {"model", "serial", "nonce"};
 inline constexpr std::string_view actionAttributes[] = {"name"};
 
-/// The printer's identity is the host's to know: the received element is given what the record holds, and the record is
-/// left alone.
+/// The host knows which printer it is: the received element gets what the record holds, and the record stays as it is.
 template <class Record>
 inline constexpr ReadRule<Record> printerIdentity{{.kind = Kind::givenAttributes, .attributes = printerAttributes},
                                                   [](Element element, Record& record) {
@@ -64,7 +63,7 @@ inline constexpr ReadRule<_tagSecReqXML> actionIdentity{{.kind = Kind::givenAttr
                                                         }};
 
 /// The protected actions, in the order that they are looked for: "unlock_printer" contains "lock_printer". The codes
-/// count the rows; the name itself is the action's identity.
+/// only count the rows: an action is known by its name.
 inline constexpr WordTable actionNames({{"cancel_printer_passkey", 1},
                                         {"set_single_sided", 2},
                                         {"set_double_sided", 3},

@@ -32,7 +32,7 @@ bool readJobList(Element element, KVJobList& list) {
 bool readAccessPoints(Element element, _tagAccessPoints& list) {
     if (!element) return false;
     const std::size_t children = kvjxml::countChildren(element);
-    // Of a host that passes no count the array is as large as the reply needs it.
+    // A host that passes no count has an array as large as the reply needs.
     const bool isShort = list.accessPoints != nullptr && list.count > 0 && list.count < children;
     if (!isShort) list.count = static_cast<unsigned int>(children);
     if (list.accessPoints == nullptr) return true;

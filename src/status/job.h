@@ -12,7 +12,7 @@ namespace kvjxml::status {
 
 using namespace Kavrin;  // the records
 
-/// The codes are the ones that hosts compare with; the gaps are codes that no word stands for.
+/// The codes are the ones that hosts compare with; no word has a code in the gaps.
 inline constexpr WordTable printerStates{38,
                                          {{"initializing", 1},
                                           {"idle", 2},

@@ -45,7 +45,7 @@ inline constexpr ReadRule<_MediaStatusInfo> sequence{
         return true;
     }};
 
-/// A description, and its code when it fits the field.
+/// A description, and its code if the description fits the field.
 inline constexpr ReadRule<_MediaStatusInfo> description{
     {.field = fieldOf<&_MediaStatusInfo::description>, .kind = Kind::textAndCode, .capacity = descriptionCapacity,
      .words = named<ribbonNames>, .otherField = fieldOf<&_MediaStatusInfo::code>},

@@ -1,5 +1,5 @@
 /// @file status/sensors.h
-/// The sensor reply, which three readers take their part of, element by element.
+/// The sensor reply, element by element. Three readers each take a part of it.
 #ifndef KVJXML_STATUS_SENSORS_H
 #define KVJXML_STATUS_SENSORS_H
 

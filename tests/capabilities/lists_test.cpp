@@ -96,7 +96,7 @@ struct SectionName {
     }
 };
 
-/// A host with an array of six preset entries, of which a test offers the first ones; the others show a write behind
+/// A host with an array of six preset entries, of which a test offers the first ones; the others show a write past
 /// them.
 template <class List>
 class AnyList : public testing::Test {

@@ -138,7 +138,7 @@ const WordOperation wordOperations[] = {
      false},
 };
 
-/// That a buffer gets the terminated word, and nothing behind the 32 characters that there must be room for.
+/// That a buffer gets the terminated word, and nothing after the 32 characters that there must be room for.
 void expectWord(const std::function<bool(char*)>& write, const std::string& word, bool result) {
     std::string buffer(40, '#');
     EXPECT_EQ(write(buffer.data()), result);

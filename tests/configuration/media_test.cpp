@@ -23,7 +23,7 @@ struct Ribbon {
     bool operator==(const Ribbon&) const = default;
 };
 
-/// Reads the children of a ribbon. The record's description and the scratch space must agree, and be zero behind the
+/// Reads the children of a ribbon. The record's description and the scratch space must agree, and be zero after the
 /// text.
 Ribbon readRibbon(const std::string& children) {
     _RibbonInfo ribbon;
@@ -230,7 +230,7 @@ std::string card(const std::string& description, int type) {
                    element("information", element("description", description) + element("type", std::to_string(type))));
 }
 
-/// The types of both custom cards after reading these, in a record where they were -1 and -2.
+/// The types of both custom cards after these were read into a record where they were -1 and -2.
 std::pair<int, int> typesAfter(const std::string& cards, bool result = true) {
     _KVConfiguration cfg{};
     cfg.customCard1.type = -1;

@@ -144,7 +144,7 @@ std::vector<Section> sections() {
 }
 
 class SectionReader : public testing::TestWithParam<Section> {};
-/// Without that of the encoder, which tells two encoders of one name apart by their order.
+/// Without the encoder, where the order tells two elements of one name apart.
 class ReaderOfDistinctNames : public SectionReader {};
 
 TEST_P(SectionReader, ReadsItsElement) {
@@ -216,7 +216,7 @@ TEST_P(ReaderOfDistinctNames, ChildrenAreReadInAnyOrder) {
 TEST_P(ReaderOfDistinctNames, OfARepeatedChildTheLaterCounts) {
     Xml reply(replyText().c_str());
     TiXmlElement* element = at(reply.root(), GetParam().path);
-    // Other values first: those of the complete reply with a digit before each number.
+    // First other values: those of the complete reply with a digit before each number.
     TiXmlElement twice("any");
     const std::function<void(TiXmlNode&)> change = [&](TiXmlNode& node) {
         if (node.ToText() != nullptr && node.ValueStr() != "Custom 1") node.SetValue(("9" + node.ValueStr()).c_str());

@@ -1,4 +1,4 @@
-// What of a configuration survives being composed and read again: not all that a printer reports can be set.
+// What of a configuration survives being composed and read again: not everything that a printer reports can be set.
 #include <gtest/gtest.h>
 
 #include <cstring>

@@ -52,7 +52,7 @@ std::string contentOfDocument(const char* name) {
     return text.substr(begin.size(), text.size() - begin.size() - end.size());
 }
 
-/// What a mask gives: its sections, one behind the other.
+/// What a mask gives: its sections, one after the other.
 Composed expectedOf(const Selection& selection) {
     std::string content;
     bool result = false;

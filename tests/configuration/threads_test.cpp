@@ -1,5 +1,5 @@
-// A host that reads configurations in one thread while others compose some and read statuses: each gets what it would
-// alone.
+// A host that reads configurations in one thread while others compose them and read statuses: each gets what it would
+// get alone.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -21,7 +21,7 @@ using namespace kvjxml::tests;
 
 constexpr int rounds = 100;
 
-/// Runs each of these in a thread of its own, all at once; how often each was wrong.
+/// Runs each of these in a thread of its own, all at once, and gives how often each was wrong.
 std::vector<int> wrongOf(const std::vector<std::function<bool()>>& actions) {
     std::vector<int> wrong(actions.size());
     std::latch start(static_cast<std::ptrdiff_t>(actions.size()));

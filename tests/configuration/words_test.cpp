@@ -206,7 +206,7 @@ TEST(WirelessWords, AMixedNetworkReadAs5IsWrittenWithTheOlderOneFirst) {
 
 // ---- Codes to words in a buffer of the host's ----
 
-/// What an operation makes of a buffer of '#', from its beginning to behind the word's terminator, and its result.
+/// What an operation makes of a buffer of '#', from its beginning to just after the word's terminator, and its result.
 struct Written {
     bool result;
     std::string word;
@@ -297,7 +297,7 @@ TEST(FeederTypeWord, OfEachCodeReadsBack) {
 
 using EncoderWordOperation = bool (KVJSetConfig::*)(int, char*, int);
 
-/// That each code has this word and is true; the last argument does not count.
+/// That each code has this word and is true; the last argument is ignored.
 void expectEncoderWords(EncoderWordOperation operation, CodesAndWords cases) {
     for (const auto& [code, word] : cases) {
         for (const int ignored : {32, 0, 1, -1}) {

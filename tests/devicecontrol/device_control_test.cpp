@@ -79,7 +79,8 @@ private:
     std::filesystem::path aside_ = copyPath.string() + ".before-" + std::to_string(getpid());
 };
 
-/// Calls `print` with a buffer with room for all; the text that it leaves there, and nothing behind its terminator.
+/// Calls `print` with a buffer that has room for everything, and gives the text that it leaves there; after its
+/// terminator there must be nothing.
 template <class Print>
 std::string printed(Print print) {
     std::string buffer(20'000, '#');
@@ -573,7 +574,7 @@ TEST_F(Command, AfterOneWithoutANameTheNextIsAsEver) {
 
 // ---- Room for it ----
 
-/// What the buffer has to hold at most, by what hosts are told: for texts of `characters` in all.
+/// The most that the buffer has to hold, according to the header, for texts of `characters` in all.
 std::size_t enoughFor(std::size_t characters) { return 256 + 6 * characters; }
 
 TEST_F(Command, TheRoomPromisedIsEnoughForTheLongestNumbers) {

@@ -9,8 +9,8 @@ namespace kvjxml::differential {
 
 namespace {
 
-/// Between them they have every character that means something, one each of those that mean the same, and lead bytes
-/// of two, three and four bytes with the bytes of a mark behind them. 01 is a letter in some locales.
+/// Together they have every character that means something, one each of those that mean the same, and the lead bytes of
+/// two, three and four bytes followed by the bytes of a mark. 01 is a letter in some locales.
 constexpr std::string_view alphabets[] = {
     "<>/=\"'a:.1 \t"sv,
     "<>!?-[]&;#x1"sv,

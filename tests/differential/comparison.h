@@ -16,8 +16,8 @@ class Comparison {
 public:
     Comparison() { reference_.SetTabSize(0); }
 
-    /// Of all texts that are handed over, only each `of`-th run of some is looked at, so that `of` processes that are
-    /// told the same share them.
+    /// Of all texts that are passed, only every `of`-th run of texts is looked at, so that `of` processes with the same
+    /// arguments share them.
     void takeShare(unsigned share, unsigned of) noexcept { share_ = share, of_ = of; }
 
     /// Compares what is made of a text up to its first NUL. Ends the program with exit code 1, the text and both trees

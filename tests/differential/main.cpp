@@ -113,7 +113,7 @@ int main(int /*argc*/, char** argv) {
     TiXmlBase::SetCondenseWhiteSpace(options.condense);
     std::printf("%s, %s:", std::setlocale(LC_CTYPE, nullptr), options.condense ? "condensed" : "blanks kept");
 
-    // TinyXML calls itself for each level of a text.
+    // TinyXML recurses at each level of a text.
     constexpr std::size_t stack = std::size_t{512} << 20;
     pthread_attr_t attributes;
     pthread_t thread{};

@@ -238,7 +238,7 @@ private:
     std::string& text_;
 };
 
-/// What a line that is disturbed, a text that is cut, and someone who means harm make of a reply.
+/// What a disturbed line, a cut text and someone who means harm make of a reply.
 void tamper(Random& random, std::string& text, const std::vector<std::string>& samples) {
     constexpr std::size_t farthest = 48;
     for (std::size_t changes = 1 + random.below(3); changes > 0 && !text.empty(); --changes) {

@@ -11,13 +11,13 @@
 
 namespace kvjxml::differential {
 
-/// Every text of at most so many characters, in each of the places where characters mean something else.
+/// Every text of at most this many characters, in each of the places where characters have another meaning.
 void compareAllOfCharacters(Comparison& compare, unsigned length);
 
-/// Every text of at most so many tokens.
+/// Every text of at most this many tokens.
 void compareAllOfTokens(Comparison& compare, unsigned length);
 
-/// So many documents that are almost right, and samples that were tampered with. The same seed makes the same.
+/// This many documents that are almost right, and samples that were tampered with. The same seed makes the same ones.
 void compareRandom(Comparison& compare, std::uint64_t documents, std::uint64_t seed,
                    const std::vector<std::string>& samples);
 

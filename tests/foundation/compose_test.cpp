@@ -231,7 +231,7 @@ TEST(WriteRule, ATextEndsWithItsTerminatorOrItsField) {
     Record record;
     EXPECT_EQ(added(put::text<&Record::uuid>, record), wrote("<x>abc</x>"));
     std::memcpy(record.uuid, "abcd", 4);
-    record.ready = true;  // the byte behind it
+    record.ready = true;  // the byte after it
     EXPECT_EQ(added(put::text<&Record::uuid>, record), wrote("<x>abcd</x>"));
     std::memcpy(record.uuid, "a\0cd", 4);
     EXPECT_EQ(added(put::text<&Record::uuid>, record), wrote("<x>a</x>"));

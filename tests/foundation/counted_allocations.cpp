@@ -8,7 +8,7 @@ namespace {
 
 std::size_t count = 0;
 
-/// What stands behind everything that is allocated, so that a parser that goes on behind its text finds elements there.
+/// What follows everything that is allocated, so that a parser that reads on past its text finds elements there.
 constexpr char behind[] = "<b/><b/><b/>";
 
 void* allocate(std::size_t size) {

@@ -5,7 +5,7 @@
 
 #include <cstddef>
 
-/// How often operator new was called so far.
+/// How often operator new has been called so far.
 std::size_t allocations() noexcept;
 
 #endif

@@ -28,7 +28,7 @@ using kvjxml::tests::TemporaryFolder;
 
 namespace {
 
-/// A request with a text of so many characters.
+/// A request with a text of this many characters.
 TiXmlDocument requestOf(std::size_t length) {
     TiXmlDocument request;
     TiXmlElement* root = kvjxml::beginRequest(request, "nonce");
@@ -240,7 +240,7 @@ sigset_t onlySignalOfTheLimit() {
     return signals;
 }
 
-/// The signals that the calling thread does not let through.
+/// The signals that the calling thread blocks.
 std::vector<int> blockedSignals() {
     sigset_t mask;
     pthread_sigmask(SIG_BLOCK, nullptr, &mask);
@@ -308,7 +308,7 @@ TEST_F(DiagnosticCopy, BeyondTheLimitNothingIsSaid) {
 
 // ---- Several processes ----
 
-/// A process of its own, which runs until it is through or ended.
+/// A separate process, which runs until it is done or is ended.
 class Process {
 public:
     template <class Run>
@@ -338,7 +338,7 @@ private:
     bool isOver_ = false;
 };
 
-// Longer than what is written at once, and of lengths that show which one it is.
+// Longer than what is written at once, and of lengths that tell them apart.
 constexpr std::size_t lengths[] = {100, 20'000, 60'000};
 
 void keepAll(const std::filesystem::path& path, int rounds) {

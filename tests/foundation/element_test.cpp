@@ -1,4 +1,4 @@
-// The one element that tables and rules know, of a reply and of a host.
+// The one element that tables and rules know, whether a reply has it or a host.
 #include "foundation/element.h"
 
 #include <gtest/gtest.h>

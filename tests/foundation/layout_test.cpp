@@ -12,7 +12,7 @@ using namespace Kavrin;
 template <class... Readers>
 constexpr bool areEmpty = (std::is_empty_v<Readers> && ...);
 
-/// Whether these are documents, with so many bytes behind.
+/// Whether these are documents, with this many bytes after them.
 template <std::size_t Bytes, class... Classes>
 constexpr bool areDocumentsWith =
     ((std::is_convertible_v<Classes*, TiXmlDocument*> && sizeof(Classes) == sizeof(TiXmlDocument) + Bytes) && ...);

@@ -1,5 +1,5 @@
 /// @file locale_scope.h
-/// A stretch of a test in a locale of its own.
+/// A part of a test that runs in a locale of its own.
 #ifndef KVJXML_TESTS_FOUNDATION_LOCALE_SCOPE_H
 #define KVJXML_TESTS_FOUNDATION_LOCALE_SCOPE_H
 
@@ -9,7 +9,7 @@
 
 namespace kvjxml::tests {
 
-/// The process is in the locale `name` while this lives, then again in the one that it was in.
+/// While this lives, the process is in the locale `name`; after that it is in its former one again.
 class LocaleScope {
 public:
     explicit LocaleScope(const char* name) : before_(std::setlocale(LC_ALL, nullptr)) {

@@ -39,7 +39,7 @@ std::string multibyteOfTheCLibrary(const std::wstring& text) {
     return bytes;
 }
 
-/// As many characters of ASCII, no two neighbours the same.
+/// This many ASCII characters, no two neighbours the same.
 std::wstring ascii(std::size_t length) {
     std::wstring text(length, L' ');
     for (std::size_t i = 0; i < length; ++i) text[i] = static_cast<wchar_t>(1 + i % 127);

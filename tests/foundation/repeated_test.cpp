@@ -119,7 +119,7 @@ TEST(Repeated, NamesDifferInAnyOfTheirBytes) {
                 if (i >= 250) name[(place + 1) % 20] = 'y';
                 names.push_back(name);
             }
-            // Byte 'x' in that place and "y" behind it are names of their own.
+            // Byte 'x' in that place and "y" after it are names of their own.
             EXPECT_EQ(firstRepeated(names), expected(names)) << place;
             names[count - 1] = names[3];
             EXPECT_EQ(firstRepeated(names), expected(names)) << place;

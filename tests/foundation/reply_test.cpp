@@ -36,7 +36,7 @@ namespace {
 
 Reply replyOf(const std::wstring& text) { return {text[0], static_cast<std::int64_t>(text.size())}; }
 
-/// An exact copy without a terminator, so that a sanitizer sees what reads behind its end.
+/// An exact copy without a terminator, so that a sanitizer sees whatever reads past its end.
 std::unique_ptr<wchar_t[]> unterminated(std::wstring_view text) {
     auto copy = std::make_unique<wchar_t[]>(text.size());
     std::ranges::copy(text, copy.get());

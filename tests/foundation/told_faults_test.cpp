@@ -25,7 +25,7 @@ void read(Kavrin::KVJPrinterIDParser& reader, const char* text) {
     reader.ParsePrinterInfo(text, 0, info);
 }
 
-/// That it is as TinyXML's document is which has parsed this text after others, and was emptied.
+/// That it is like a document of TinyXML's that has parsed this text after others and was then emptied.
 void expectSameAsParsed(const TiXmlDocument& reader, TiXmlDocument& parsed, const char* text) {
     if (text != nullptr) parsed.Parse(text, nullptr, TIXML_ENCODING_UNKNOWN);
     parsed.Clear();

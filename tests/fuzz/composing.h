@@ -1,7 +1,7 @@
 /// @file composing.h
-/// What holds for every composer, whatever it is given: it prints what its document holds, into the buffer and nowhere
-/// else, and what it prints reads again. A target of a family of composers is a table of operations, each calling one
-/// of the two checks.
+/// What must hold for every composer, whatever it is given: it prints what is in its document, into the buffer and
+/// nowhere else, and what it prints can be read again. A target of a family of composers is a table of operations, each
+/// calling one of the two checks.
 #ifndef KVJXML_TESTS_FUZZ_COMPOSING_H
 #define KVJXML_TESTS_FUZZ_COMPOSING_H
 
@@ -38,8 +38,8 @@ std::string printed(const TiXmlDocument& document);
 /// locale does not know ends it, without a terminator.
 std::wstring widePrinted(const TiXmlDocument& document);
 
-/// Parses what the document is printed as, and requires the same elements, attributes and texts. A document with a name
-/// that is none, or with bytes that are no text in the process's locale, need not read again.
+/// Parses what the document is printed as, and requires the same elements, attributes and texts. A document with
+/// something that is not a name, or with bytes that are not text in the process's locale, need not read again.
 void requireReadsAgain(const TiXmlDocument& document);
 
 /// `compose(composer, out, capacity)` prints wide text. The next field is the capacity of one of the buffers.

@@ -1,6 +1,6 @@
 // Any text as the JSON of a request: `kvjxml encode` composes a whole document of it or refuses it, nothing else.
 // An input is the name of the request in the first line, what the command line says beside it as numbers in the second,
-// and the JSON behind them.
+// and the JSON after them.
 #include <clocale>
 #include <sstream>
 

@@ -18,7 +18,7 @@ using Arrays = std::vector<std::shared_ptr<char[]>>;
 /// Fills the fields of a record with the next values of the input.
 void fill(const RecordType& type, void* record, Values& values, Arrays& arrays);
 
-/// A record of zeros that is filled so, in memory of exactly its size.
+/// A record of zeros that is filled in this way, in memory of exactly its size.
 template <class Record>
 std::unique_ptr<Record> recordOf(Values& values, Arrays& arrays) {
     auto record = std::make_unique<Record>();

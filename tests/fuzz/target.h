@@ -1,6 +1,6 @@
 /// @file target.h
-/// What every fuzz target is made with. A target is a program around LLVMFuzzerTestOneInput: built for the fuzzer it is
-/// given inputs without end, built as a test it is given those that are kept.
+/// What every fuzz target is made with. A target is a program around LLVMFuzzerTestOneInput: built for the fuzzer it
+/// gets inputs without end, built as a test it gets those that are kept.
 #ifndef KVJXML_TESTS_FUZZ_TARGET_H
 #define KVJXML_TESTS_FUZZ_TARGET_H
 
@@ -14,7 +14,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 namespace kvjxml::fuzz {
 
-/// Ends the program when what has to hold does not: that is how the fuzzer learns that an input is worth keeping.
+/// Ends the program when something that must hold does not: that is how the fuzzer learns that an input is worth
+/// keeping.
 void require(bool holds, const char* what);
 
 inline std::string textOf(const std::uint8_t* data, std::size_t size) {

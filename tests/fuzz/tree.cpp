@@ -45,7 +45,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     require(document.fault().offset <= text.size(), "a fault is within the text");
     require(document.hasByteOrderMark() == text.starts_with("\xEF\xBB\xBF"), "a byte-order mark is known as one");
 
-    // TinyXML calls itself for each level, and a sanitizer's stack is soon full.
+    // TinyXML recurses at each level, and a sanitizer's stack is soon full.
     if (depthOf(document.top()) > 1000) return 0;
     for (const bool condense : {true, false}) {
         TiXmlBase::SetCondenseWhiteSpace(condense);

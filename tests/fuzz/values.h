@@ -1,5 +1,5 @@
 /// @file values.h
-/// An input of the fuzzer as the arguments of an operation: values, each ended by a NUL. Those behind the end of the
+/// An input of the fuzzer as the arguments of an operation: values, each ended by a NUL. Values past the end of the
 /// input are null and zero.
 #ifndef KVJXML_TESTS_FUZZ_VALUES_H
 #define KVJXML_TESTS_FUZZ_VALUES_H

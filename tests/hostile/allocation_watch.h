@@ -11,7 +11,7 @@ namespace kvjxml::tests {
 
 enum class Failing { once, fromThenOn };
 
-/// One at a time, in a program with one thread.
+/// Only one at a time, in a program with one thread.
 class AllocationWatch {
 public:
     AllocationWatch();

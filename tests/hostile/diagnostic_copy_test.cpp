@@ -21,7 +21,7 @@ namespace {
 
 using namespace kvjxml::tests;
 
-/// The process is a user without rights while this lives; one that is not root's already is.
+/// While this lives, the process runs as a user without rights, as it does anyway unless it is root's.
 class WithoutRights {
 public:
     WithoutRights() { become(nobody); }
@@ -40,7 +40,7 @@ private:
     }
 };
 
-/// Checks each composer that leaves a copy, with something in the way of that: the text is as ever.
+/// Checks each composer that leaves a copy, with something in the way of the copy: the text is the same as ever.
 template <class Obstruct>
 void expectComposed(Obstruct obstruct) {
     withEachComposer([&](const Composer& composer) {
@@ -108,7 +108,7 @@ std::string textOfAll() {
     return all;
 }
 
-/// How a process of its own ended that was given another file system and then composed all requests there.
+/// How a separate process ended that got another file system and then composed all requests there.
 enum class Elsewhere { composedAsHere, composedOtherwise, notAllowed };
 
 template <class Enter>
@@ -117,7 +117,7 @@ Elsewhere composeElsewhere(Enter enter) {
     const std::string here = textOfAll();
     const pid_t child = fork();
     if (child == 0) {
-        // Who is not root is in a namespace of its own.
+        // A user other than root gets a namespace of its own.
         const bool isThere = enter() || (unshare(CLONE_NEWUSER) == 0 && enter());
         const Elsewhere end = !isThere              ? Elsewhere::notAllowed
                               : textOfAll() == here ? Elsewhere::composedAsHere

@@ -1,4 +1,4 @@
-// No byte beside a reply or a record is touched: both lie against pages that nobody may touch.
+// No byte beside a reply or a record is touched: both lie next to pages that cannot be touched.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -82,7 +82,7 @@ TEST(GuardPages, AreNotTouchedByAReplyThatSaysAllManyTimes) {
     });
 }
 
-// With the step all kinds of places come up: in names, values, texts and between them.
+// With this step all kinds of places come up: in names, in values, in texts and between them.
 constexpr std::size_t step = 13;
 
 TEST(GuardPages, AreNotTouchedByAReplyThatIsCut) {

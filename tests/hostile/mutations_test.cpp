@@ -1,4 +1,4 @@
-// Replies with a byte that is wrong: a line or a firmware that garbles one.
+// Replies with one wrong byte, garbled by a line or a firmware.
 #include <gtest/gtest.h>
 
 #include <cstddef>

@@ -1,5 +1,5 @@
 /// @file outcome.h
-/// What a reader makes of a text, wherever text and record lie.
+/// What a reader makes of a text, wherever the text and the record are in memory.
 #ifndef KVJXML_TESTS_HOSTILE_OUTCOME_H
 #define KVJXML_TESTS_HOSTILE_OUTCOME_H
 
@@ -17,7 +17,7 @@
 namespace kvjxml::tests {
 
 /// A text in both forms, each byte as one wide character. Each lies in memory of its exact size, so that a sanitizer
-/// sees what reads behind its end.
+/// sees whatever reads past its end.
 class ExactText {
 public:
     explicit ExactText(std::string_view bytes)

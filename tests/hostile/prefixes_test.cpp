@@ -31,7 +31,7 @@ TEST_P(Prefixes, OfItsReplyAReaderReadsAsFarAsTheyGo) {
     for (std::size_t length = 0; length <= sample.size(); ++length) {
         const Outcome cut = outcomeOfPrefix(GetParam(), sample, length);
         ASSERT_TRUE(cut.isSound) << length;
-        // Without the name of the root there is no message, and the end tag of the root says nothing any more.
+        // Without the name of the root there is no message, and the end tag of the root adds nothing.
         if (length < named) {
             ASSERT_EQ(cut, nothing) << length;
         }
@@ -42,7 +42,7 @@ TEST_P(Prefixes, OfItsReplyAReaderReadsAsFarAsTheyGo) {
 }
 
 TEST_P(Prefixes, OfAnotherReplyAReaderDoesNotRead) {
-    // Each reader gets some of the others, so that all of them are used but not in each combination.
+    // Each reader gets some of the others, so that all of them are used, but not in every combination.
     constexpr std::size_t oneIn = 6;
     std::size_t number = GetParam().name.size();
     const Outcome nothing = outcomeOf(GetParam(), "");

@@ -1,5 +1,5 @@
-// Reading a configuration tells of each of its ribbons on the standard error stream, which would drown what tests have
-// to say. A sanitizer writes to the descriptor below the stream, and is heard.
+// Reading a configuration reports each of its ribbons on the standard error stream, which would drown what tests have
+// to say. A sanitizer writes to the descriptor below the stream, so its reports still show.
 #include <gtest/gtest.h>
 
 #include <cstdio>

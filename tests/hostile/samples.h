@@ -1,5 +1,5 @@
 /// @file samples.h
-/// The example replies, which a broken or hostile printer is played with.
+/// The example replies, from which broken and hostile ones are made.
 #ifndef KVJXML_TESTS_HOSTILE_SAMPLES_H
 #define KVJXML_TESTS_HOSTILE_SAMPLES_H
 

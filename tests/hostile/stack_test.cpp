@@ -38,7 +38,7 @@ std::string times(std::size_t count, const std::string& text) {
     return all;
 }
 
-/// So many elements in each other, with `inside` in the innermost.
+/// This many elements inside each other, with `inside` in the innermost.
 std::string nested(std::size_t levels, const std::string& inside = {}, const std::string& attributes = {}) {
     return times(levels, "<a" + attributes + ">") + inside + times(levels, "</a>");
 }
@@ -49,7 +49,7 @@ std::string attributes(std::size_t count) {
     return all;
 }
 
-/// Reads a reply with a shape behind it, where that is none of the reader's business.
+/// Reads a reply with a shape after it, where the reader should not care about it.
 void expectRead(const std::string& shape) {
     withEachReader([&](const Reader& reader) {
         const std::string sample = sampleOf(reader.root);

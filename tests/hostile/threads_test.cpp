@@ -1,4 +1,4 @@
-// Hosts that serve several printers: eight threads read and compose, and each gets what one alone would.
+// Hosts that serve several printers: eight threads read and compose, and each gets what it would get alone.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -67,7 +67,7 @@ TEST(Threads, ReadAsOneDoes) {
         return outcomeOf(*reading.reader, reading.text) != reading.expected;
     };
     EXPECT_EQ(sumOfThreads([&](std::size_t number) {
-                  // Each thread begins elsewhere, and all come to each reading.
+                  // Each thread begins at another reading, and all of them come to every one.
                   const auto first = readings.begin() + std::ptrdiff_t(readings.size() * number / threadCount);
                   std::size_t wrong = 0;
                   for (std::size_t round = 0; round < rounds; ++round) {

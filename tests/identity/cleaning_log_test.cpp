@@ -48,7 +48,7 @@ std::string cleanings(int count) {
     return text;
 }
 
-/// Preset entries with others behind them that show a write past the end.
+/// Preset entries with others after them that show a write past the end.
 class CleaningLog : public testing::Test {
 protected:
     CleaningLog() {

@@ -12,7 +12,7 @@ namespace {
 using Kavrin::KVJNDC;
 using kvjxml::tests::wide;
 
-/// A host's buffer of 512 characters, with more behind them that show a write past the end.
+/// A host's buffer of 512 characters, with more after them that show a write past the end.
 std::string preset() { return std::string(512 + 64, '#'); }
 
 /// The preset buffer with this text and its terminator at its start, and nothing else changed.

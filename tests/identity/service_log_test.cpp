@@ -50,7 +50,7 @@ _tagLogServiceValues presetWith(int number) {
     return entry;
 }
 
-/// Eight preset entries, of which a test uses the first ones; the others show a write behind them.
+/// Eight preset entries, of which a test uses the first ones; the others show a write past them.
 class ServiceLog : public testing::Test {
 protected:
     std::vector<_tagLogServiceValues> entries = std::vector<_tagLogServiceValues>(8, preset);

@@ -62,7 +62,7 @@ protected:
     KVPrinterInfo info = fullIdentity();
     KVJSetPrinterInfo composer;
 
-    /// Calls `print` with a buffer with room for all; the text that it leaves there.
+    /// Calls `print` with a buffer that has room for everything, and gives the text that it leaves there.
     template <class Print>
     static std::string printed(Print print) {
         std::wstring out(room, L'\0');

@@ -35,7 +35,7 @@ std::size_t allocationsOf(Action action) {
 struct Fault {
     std::size_t allowed;
     Failing failing;
-    bool comes;  ///< False for the one behind the last.
+    bool comes;  ///< False for the one after the last.
     AllocationWatch& watch;
 
     template <class Action>
@@ -229,8 +229,8 @@ std::wstring textOf(KVJSetMedia& composer) {
     return text;
 }
 
-/// What comes of each failure in composing: a composer that composes the next request whole, behind what it has of this
-/// one, and that leaves nothing when it is destroyed.
+/// What becomes of a composer after each failure: it composes the next request whole, after what it has of this one,
+/// and leaves nothing when it is destroyed.
 void expectFaults(bool (*compose)(KVJSetMedia&, _KVMediaInfo&)) {
     const KVMediaPointer media = MakeKVMedia();
     readReply(*media);

@@ -368,7 +368,7 @@ TEST(Card, AnEmptyOneIsAppendedAndZeroInEveryField) {
 }
 
 TEST(Card, AnEmptyOneIsZeroInEveryByte) {
-    // Where zeros are expected there was something before: the memory of the first card may well be that of the second.
+    // Where zeros are expected, there was something else before: the second card may well get the memory of the first.
     const KVMediaPointer media = MakeKVMedia();
     Xml full("<card><information><description>dddddddddddddddddddd</description></information></card>");
     KVJMediaParser().getCardInfo(full.root(), *media);

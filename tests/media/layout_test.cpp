@@ -60,7 +60,7 @@ static_assert(std::is_nothrow_destructible_v<_KVMediaInfo>);
 
 namespace {
 
-/// The byte behind the coercivity, of a card that is zero but for its bits.
+/// The byte after the coercivity, of a card that is zero but for its bits.
 unsigned byteOfBits(bool magStripe, bool contactEncode, bool nonContactEncode) {
     _CardInfo card{};
     card.magStripe = magStripe;

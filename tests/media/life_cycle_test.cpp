@@ -27,7 +27,7 @@ class MediaLife : public testing::Test {
 protected:
     MediaLife() = default;
     ~MediaLife() override {
-        // The watch frees what is left, but what a failure left is the report of it.
+        // The watch frees what is left over, but after a failure that is the report of the failure.
         if (HasFailure()) static_cast<void>(watch.release());
     }
 
@@ -217,7 +217,8 @@ TEST_F(MediaLife, TheDestructorReleasesFilledListsAndLeavesEmptyOnes) {
         cards = media.cards;
         ribbons = media.ribbons;
     }
-    // Left are the list of cards, which is empty again, with its storage, and that of ribbons, which never was filled.
+    // What is left: the list of cards, empty again but with its storage, and the list of ribbons, which was never
+    // filled.
     EXPECT_EQ(watch->alive(), 3U);
     EXPECT_TRUE(cards->empty());
     EXPECT_TRUE(ribbons->empty());

@@ -25,7 +25,7 @@ const std::string noCards = declaration + "<media>\n    <cards />\n</media>\n";
 
 std::string document(const std::string& name) { return contentOf(DOCUMENTS_DIR "/" + name + ".xml"); }
 
-/// Calls `print` with a buffer with room for all; the text that it leaves there.
+/// Calls `print` with a buffer that has room for everything, and gives the text that it leaves there.
 template <class Print>
 std::string printed(Print print) {
     std::wstring out(50'000, L'\0');

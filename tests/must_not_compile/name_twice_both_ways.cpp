@@ -1,4 +1,4 @@
-// error: a name stands twice in its table
+// error: a name occurs twice in its table
 #include "StatusRecords.h"
 #include "foundation/both.h"
 

@@ -166,7 +166,7 @@ TEST(AccessPoints, AReplyThatHasGrownSinceItWasCountedStaysInTheArray) {
     _tagAccessPoints list{nullptr, 0};
     EXPECT_TRUE(read(element("AccessPoints", onChannel(1) + onChannel(2) + onChannel(3)), list));
     ASSERT_EQ(list.count, 3U);
-    Entries entries(4, preset());  // One more than the host says, to see a write behind it.
+    Entries entries(4, preset());  // One more than the host says, to see a write past it.
     list.accessPoints = entries.data();
     EXPECT_TRUE(read(element("AccessPoints", onChannel(1) + onChannel(2) + onChannel(3) + onChannel(4)), list));
     EXPECT_EQ(list.count, 3U);

@@ -119,7 +119,7 @@ TEST(GeneralStatus, ALengthShorterThanTheReplyCutsIt) {
     KVGeneralStatus status = preset();
     EXPECT_FALSE(KVJStatusParser().ParseStatus(*text.c_str(), 10, status));
     expectEqual(status, preset());
-    // Cut behind the error, what came before the cut is read.
+    // Cut after the error, what came before the cut is read.
     EXPECT_TRUE(KVJStatusParser().ParseStatus(*text.c_str(), 37, status));
     EXPECT_EQ(status.error, 12);
     EXPECT_EQ(status.warning, -9);

@@ -175,7 +175,7 @@ TEST_P(SensorStateWord, OutsideItsGroupIsIgnored) {
 TEST_P(SensorStateWord, OfARepeatedElementIsTheLater) {
     _KVPrinterSensorInfo states = preset();
     EXPECT_TRUE(readStates(tag(GetParam().element, "yes") + tag(GetParam().element, "no"), states));
-    // The terminator of the longer word is still there behind that of the shorter one.
+    // The terminator of the longer word is still there after that of the shorter one.
     EXPECT_EQ(bytesOf(states), bytesOf(preset()).replace(GetParam().offset, 4, std::string("no\0\0", 4)));
 }
 

@@ -7,7 +7,7 @@
 
 namespace kvjxml::tests {
 
-/// No file of this process can grow beyond so many bytes while this lives. Who tries has a signal that ends the
+/// While this lives, no file of this process can grow beyond this many bytes. An attempt gets the signal that ends the
 /// process.
 class FileSizeLimit {
 public:

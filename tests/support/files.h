@@ -1,5 +1,5 @@
 /// @file files.h
-/// Files for tests: a folder that is gone at the end of its test, and files as text.
+/// Files for tests: a folder that is removed at the end of its test, and files as text.
 #ifndef KVJXML_TESTS_SUPPORT_FILES_H
 #define KVJXML_TESTS_SUPPORT_FILES_H
 

@@ -1,5 +1,5 @@
 /// @file guarded_memory.h
-/// Memory beside which nothing can be read or written: who goes there is ended.
+/// Memory beside which nothing can be read or written: the attempt ends the process.
 #ifndef KVJXML_TESTS_SUPPORT_GUARDED_MEMORY_H
 #define KVJXML_TESTS_SUPPORT_GUARDED_MEMORY_H
 
@@ -28,7 +28,7 @@ public:
     GuardedMemory(const GuardedMemory&) = delete;
     GuardedMemory& operator=(const GuardedMemory&) = delete;
 
-    /// So many bytes that begin or end at a page that cannot be touched.
+    /// This many bytes, which begin or end at a page that cannot be touched.
     [[nodiscard]] char* at(End end, std::size_t size) const {
         return end == End::front ? first_ : first_ + (size_ - size);
     }

@@ -42,7 +42,7 @@ TEST(CommandLine, OutputThatCannotBeWrittenIsCode1AndSaysSo) {
     }
 }
 
-// ---- The file may stand before and behind any option ----
+// ---- The file may stand before and after any option ----
 
 TEST(CommandLine, TheFileStandsBeforeAndBehindOptions) {
     const struct {

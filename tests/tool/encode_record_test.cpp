@@ -65,7 +65,7 @@ TEST(EncodeRecord, AKeyThatStandsTwiceIsRefusedByItsPointer) {
         runTool("encode capabilities", R"({"fonts":[{"name":"a"},{"name":"b","style":1,"name":"c"}]})");
     EXPECT_EQ(outcome.code, 5);
     EXPECT_EQ(outcome.out, "");
-    EXPECT_EQ(outcome.error, "kvjxml: standard input: \"/fonts/1/name\" stands twice\n");
+    EXPECT_EQ(outcome.error, "kvjxml: standard input: \"/fonts/1/name\" occurs twice\n");
 }
 
 TEST(EncodeRecord, AMissingFieldIsRefusedByItsPointer) {

@@ -37,11 +37,11 @@ TEST(Encode, WrongUseIsCode2) {
 }
 
 TEST(Encode, WhatIsNoJsonObjectIsRefused) {
-    expectRefused("nonce", "", "\"\" is no JSON at byte 1");
-    expectRefused("nonce", "{\"nonce\": }", "\"/nonce\" is no JSON at byte 11");
+    expectRefused("nonce", "", "\"\" is not JSON at byte 1");
+    expectRefused("nonce", "{\"nonce\": }", "\"/nonce\" is not JSON at byte 11");
     expectRefused("nonce", "[1]", "\"\" has to be an object");
     // 0xE9 begins a character of three bytes; the next, byte 12, is none of them.
-    expectRefused("nonce", "{\"nonce\":\"\xE9\"}", "\"/nonce\" is no JSON at byte 12");
+    expectRefused("nonce", "{\"nonce\":\"\xE9\"}", "\"/nonce\" is not JSON at byte 12");
 }
 
 TEST(Encode, AMissingFieldIsRefused) {
@@ -93,8 +93,8 @@ TEST(Encode, ATextWithACharacterThatXmlDoesNotHaveIsRefused) {
 }
 
 TEST(Encode, HalfOfASurrogatePairIsRefused) {
-    expectRefused("nonce", R"({"nonce":"a\ud800b"})", "\"/nonce\" is no JSON at byte 18");
-    expectRefused("nonce", R"({"nonce":"a\udc00b"})", "\"/nonce\" is no JSON at byte 17");
+    expectRefused("nonce", R"({"nonce":"a\ud800b"})", "\"/nonce\" is not JSON at byte 18");
+    expectRefused("nonce", R"({"nonce":"a\udc00b"})", "\"/nonce\" is not JSON at byte 17");
 }
 
 TEST(Encode, EveryOtherCharacterIsWritten) {
@@ -109,10 +109,10 @@ TEST(Encode, EveryOtherCharacterIsWritten) {
 }
 
 TEST(Encode, AKeyThatStandsTwiceIsRefused) {
-    expectRefused("nonce", R"({"nonce":"5F","nonce":"5F"})", "\"/nonce\" stands twice");
-    expectRefused("nonce", R"({"nonce":null,"nonce":"5F"})", "\"/nonce\" stands twice");
-    expectRefused("nonce", R"({"nonce":"5F","nonc\u0065":"6A"})", "\"/nonce\" stands twice");
-    expectRefused("motor", R"({"state":1,"direction":0,"speed":4,"motor":1,"state":0})", "\"/state\" stands twice");
+    expectRefused("nonce", R"({"nonce":"5F","nonce":"5F"})", "\"/nonce\" occurs twice");
+    expectRefused("nonce", R"({"nonce":null,"nonce":"5F"})", "\"/nonce\" occurs twice");
+    expectRefused("nonce", R"({"nonce":"5F","nonc\u0065":"6A"})", "\"/nonce\" occurs twice");
+    expectRefused("motor", R"({"state":1,"direction":0,"speed":4,"motor":1,"state":0})", "\"/state\" occurs twice");
 }
 
 TEST(Encode, ADeviceHasToBeTheNameOfAnElement) {

@@ -42,7 +42,7 @@ std::vector<std::string> linesOf(const std::string& text) {
     return lines;
 }
 
-/// All rows that the library reads and writes with, those of groups behind their group.
+/// All rows that the library reads and writes with, those of groups after their group.
 // Groups nest as deep as the tables are written, so the recursion ends. NOLINTNEXTLINE(misc-no-recursion)
 void collect(std::span<const DescribedRow> rows, std::vector<DescribedRow>& all) {
     for (const auto& row : rows) {
@@ -157,7 +157,7 @@ TEST(Reference, ARowHasWhatItsKindSays) {
     }
 }
 
-/// What the public headers say of each field of a record: the comment before its declaration and the one behind it.
+/// What the public headers say of each field of a record: the comment before its declaration and the one after it.
 std::map<std::string, std::map<std::string, std::string>> commentsOfFields() {
     const std::regex record(R"(struct (\w+) \{)");
     const std::regex field(R"([\w :<>*]+[ *]([A-Za-z_]\w*)(?:\[\w+\])?(?: : 1)?(?: = nullptr)?;(.*))");
@@ -208,7 +208,7 @@ TEST(Reference, TheHeadersHaveEveryWordOfEveryTable) {
     const auto words = matchesOf(reference, std::regex(R"(\| `([^`]+)` \| (-?\d+) \|\n)"));
     ASSERT_FALSE(words.empty());
     for (const auto& word : words) {
-        // The code stands behind the word, or behind those that share it: "a", "b" and "c" 7
+        // The code comes after the word, or after those that share it: "a", "b" and "c" 7
         const std::regex listed(std::string("\"") + word[1].str() + "\"(?:(?:,| and)[\\s/]*\"[^\"]+\")*[\\s/]*" +
                                 word[2].str() + "\\b");
         EXPECT_TRUE(std::regex_search(headers, listed)) << word[1] << " is not in the headers as " << word[2];

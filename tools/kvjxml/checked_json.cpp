@@ -14,7 +14,7 @@ namespace {
 
 using nlohmann::json;
 
-/// Follows the parser through the text and looks at what it reads.
+/// Follows the parser through the text and checks what it reads.
 class Check {
 public:
     explicit Check(const std::string& source) : source_(&source) {}
@@ -27,7 +27,7 @@ public:
                 break;
             case json::parse_event_t::key:
                 levels_.back().key = parsed.get<std::string>();
-                if (!levels_.back().keys.insert(*levels_.back().key).second) refuse("stands twice");
+                if (!levels_.back().keys.insert(*levels_.back().key).second) refuse("occurs twice");
                 break;
             case json::parse_event_t::object_end:
             case json::parse_event_t::array_end:
@@ -60,7 +60,7 @@ private:
         bool isList;
         std::size_t index = 0;             ///< of the entry that comes next, or is being read
         std::optional<std::string> key{};  ///< of the value that is being read
-        std::set<std::string> keys{};      ///< all until now
+        std::set<std::string> keys{};      ///< all so far
     };
 
     void checkText(const std::string& text) const {
@@ -89,7 +89,7 @@ json checkedJson(const std::string& text, const std::string& source) {
             return true;
         });
     } catch (const json::parse_error& error) {
-        check.refuse("is no JSON at byte " + std::to_string(error.byte));
+        check.refuse("is not JSON at byte " + std::to_string(error.byte));
     } catch (const json::out_of_range&) {  // A number that not even a double can hold.
         check.refuse("is out of range");
     }

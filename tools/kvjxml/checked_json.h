@@ -9,8 +9,8 @@
 namespace kvjxml::tool {
 
 /// @param source  says where the text came from.
-/// @throws Failure, with a JSON pointer to the place, for what is no JSON, a key that stands twice in its object, and a
-///         text with a character that XML does not have.
+/// @throws Failure, with a JSON pointer to the place, for anything but JSON, for a key that comes twice in its object,
+///         and for a text with a character that XML does not have.
 nlohmann::json checkedJson(const std::string& text, const std::string& source);
 
 }  // namespace kvjxml::tool

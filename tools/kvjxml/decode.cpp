@@ -20,7 +20,7 @@ std::vector<Message> messagesOf(std::string_view root) {
     return found;
 }
 
-/// A place in a text for people: its line, and the character in that line.
+/// A place in a text, for people: the line, and the character in that line.
 std::string placeOf(std::string_view text, std::size_t offset) {
     const std::string_view before = text.substr(0, offset);
     if (before.size() == text.size()) return "at its end";
@@ -54,8 +54,8 @@ std::vector<Message> messagesIn(const Document& reply, const Input& input) {
     throw Failure(ExitCode::unknownMessage, input.name + ": " + reason);
 }
 
-/// The readers of a reply: those of the `message`, or those that go by its root when that is empty. Says what is wrong
-/// with the reply.
+/// The readers of a reply: those of `message`, or when that is empty those of its root. Reports what is wrong with the
+/// reply.
 std::vector<Message> readersOf(const Input& input, const std::string& message) {
     const Reply reply(input.bytes.c_str());
     auto readers = message.empty() ? messagesIn(reply, input) : messagesOf(message);
@@ -85,7 +85,7 @@ ExitCode decode(const Source& source, const std::string& message) {
     if (readers.size() == 1) {
         anyRead = decode(readers.front(), input, json);
     } else {
-        // Several readers may take their part of one reply, and a reply need not have a part for each.
+        // Several readers may each take a part of one reply, and a reply need not have a part for every one.
         json.object([&] {
             for (const Message& reader : readers) {
                 json.field(reader.operation);

@@ -1,5 +1,5 @@
 /// @file exit_code.h
-/// What the tool tells the shell.
+/// The exit codes of the tool.
 #ifndef KVJXML_TOOL_EXIT_CODE_H
 #define KVJXML_TOOL_EXIT_CODE_H
 

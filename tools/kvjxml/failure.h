@@ -1,5 +1,5 @@
 /// @file failure.h
-/// What ends the tool early: a code for the shell and a line for the user.
+/// Ends the tool early, with a code for the shell and a line for the user.
 #ifndef KVJXML_TOOL_FAILURE_H
 #define KVJXML_TOOL_FAILURE_H
 

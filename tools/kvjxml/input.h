@@ -11,12 +11,12 @@ namespace kvjxml::tool {
 struct Input {
     std::string name;   ///< for messages: the file's name, or "standard input"
     std::string bytes;  ///< as captured
-    /// The same text in wide characters, filled up with zeros to as many as there are bytes: the readers take no more
-    /// bytes than they are given characters, and nothing of a reply that is not all ASCII shall be lost.
+    /// The same text in wide characters, padded with zeros to as many as there are bytes: the readers take no more
+    /// bytes than they are given characters, and a reply that is not all ASCII must not lose any.
     std::wstring text;
 };
 
-/// Where input comes from, and how much of it is taken: a pipe need not end.
+/// Where input comes from, and how much of it is taken: a pipe may never end.
 struct Source {
     std::string path = "-";                           ///< of a file; "-" for standard input
     std::uint64_t maxSize = std::uint64_t{64} << 20;  ///< in bytes

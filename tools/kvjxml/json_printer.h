@@ -1,5 +1,5 @@
 /// @file json_printer.h
-/// JSON that is printed while it is made: a reply can hold a million entries, and none is kept.
+/// Prints JSON while it is made: a reply can have a million entries, and none of them is kept.
 #ifndef KVJXML_TOOL_JSON_PRINTER_H
 #define KVJXML_TOOL_JSON_PRINTER_H
 
@@ -34,7 +34,7 @@ public:
     void entry();
     /// A text, a number, true, false or null. Of a text, bytes that are not UTF-8 become U+FFFD.
     void value(const nlohmann::json& value);
-    /// The same, for what a catalogue has a million of.
+    /// The same, for a value that a catalogue can have a million of.
     template <std::integral Integer>
     void value(Integer number) {
         if constexpr (std::is_same_v<Integer, bool>) {
@@ -61,7 +61,7 @@ private:
 
     std::ostream* out_;
     std::size_t depth_ = 0;
-    bool isEmpty_ = true;  ///< what is being printed, until now
+    bool isEmpty_ = true;  ///< whether what is being printed has nothing in it so far
 };
 
 }  // namespace kvjxml::tool

@@ -1,4 +1,4 @@
-// kvjxml: what a captured reply of the printer says.
+// kvjxml: shows what the printer's replies say, and composes requests.
 #include <CLI/CLI.hpp>
 #include <charconv>
 #include <clocale>
@@ -25,7 +25,7 @@ namespace {
 
 using kvjxml::tool::ExitCode;
 
-/// A size, as its number of bytes. Units are those of 1024; of "KB" nobody knows which is meant.
+/// A size, as its number of bytes. Units are powers of 1024; "KB" is refused, since it could mean either.
 std::string asBytes(std::string& text) {
     static const std::map<std::string_view, int> shifts{{"", 0},     {"K", 10}, {"KiB", 10}, {"M", 20},
                                                         {"MiB", 20}, {"G", 30}, {"GiB", 30}};
@@ -35,19 +35,18 @@ std::string asBytes(std::string& text) {
     const auto shift = shifts.find(std::string_view(unit, end));
     if (error != std::errc() || shift == shifts.end() ||
         number > std::numeric_limits<std::uint64_t>::max() >> shift->second) {
-        return "\"" + text + "\" is no size such as 1048576, 64M or 1GiB";
+        return "\"" + text + "\" is not a size such as 1048576, 64M or 1GiB";
     }
     text = std::to_string(number << shift->second);
     return {};
 }
 
-/// What each verb that reads anything takes.
+/// The options of every verb that reads input.
 void addSource(CLI::App& verb, const std::string& content, kvjxml::tool::Source& source) {
     verb.add_option("FILE", source.path, content + "; - for standard input")->capture_default_str();
-    verb.add_option(
-            "--max-size", source.maxSize,
-            "Refuse input that is larger: bytes, or with K, M, G or KiB, MiB, GiB behind the number; 64M unless "
-            "told")
+    verb.add_option("--max-size", source.maxSize,
+                    "Refuse input that is larger: bytes, or with K, M, G or KiB, MiB, GiB after the number; 64M unless "
+                    "told")
         ->option_text("SIZE")
         ->transform(CLI::Validator(asBytes, ""));
 }

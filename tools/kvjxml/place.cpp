@@ -36,7 +36,7 @@ void Place::expectObject() const {
 }
 
 std::size_t Place::expectList() const {
-    constexpr std::size_t longest = 65536;  // No printer's list comes near it.
+    constexpr std::size_t longest = 65536;  // No printer's list comes near this.
     if (!value_->is_array()) refuse("has to be a list");
     if (value_->size() > longest) refuse("has more than " + std::to_string(longest) + " entries");
     return value_->size();
@@ -80,7 +80,7 @@ std::int64_t Place::wholeNumber() const {
 convert::HardwareAddress Place::hardwareAddress() const {
     const std::string content = text();
     const auto bytes = convert::toHardwareAddress(content.c_str());
-    // Only a text that is written just so again was one.
+    // Only a text that would be written in just this way is one.
     std::string lower = content;
     for (char& letter : lower) {
         if (letter >= 'A' && letter <= 'F') letter = static_cast<char>(letter - 'A' + 'a');

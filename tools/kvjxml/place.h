@@ -1,6 +1,6 @@
 /// @file place.h
-/// A place in the JSON that a request is composed from, and how its value gets into a record. Whatever is not as the
-/// request takes it is refused, with a JSON pointer to the place: a wrong word in a request ruins cards.
+/// A place in the JSON that a request is composed from; its value is read into a record. Whatever the request cannot
+/// take is refused, with a JSON pointer to the place: a wrong word in a request ruins cards.
 #ifndef KVJXML_TOOL_PLACE_H
 #define KVJXML_TOOL_PLACE_H
 
@@ -31,7 +31,7 @@ public:
     /// A field that has to be there.
     [[nodiscard]] Place at(std::string_view field) const;
     [[nodiscard]] Place at(std::size_t index) const;
-    /// Whether a field is there and not null; such a one counts as none.
+    /// Whether a field is there and not null; null counts as missing.
     [[nodiscard]] bool has(std::string_view field) const;
 
     /// Each refuses a value of another type, or one that the target cannot hold.

@@ -42,8 +42,8 @@ std::string_view spelled(int count) {
 }
 
 std::string integer(const Number& number, Direction direction) {
-    std::string text(number.base == Base::hexadecimal ? "hexadecimal behind `0x`" : "number");
-    if (number.base == Base::either) text.append(", hexadecimal behind `0x`");
+    std::string text(number.base == Base::hexadecimal ? "hexadecimal after `0x`" : "number");
+    if (number.base == Base::either) text.append(", hexadecimal after `0x`");
     if (number.bits == 16) text.append(", its low 16 bits");
     if (number.digits > 0) {
         text.append(direction == Direction::read ? ", at most " : ", at least ");
@@ -95,7 +95,7 @@ std::string wordsFor(const Description& row, Direction direction) {
         case Kind::wordOrNext:
             return "code of the word; a second one to " + code(row.otherField.name) + see();
         case Kind::wordOfPanels:
-            return "code of the description with the panels behind it" + see();
+            return "code of the description with its panels after it" + see();
         case Kind::bits:
             return (isRead ? "bit of the word, added" : "an element for each bit") + see();
         case Kind::combinedCodes:

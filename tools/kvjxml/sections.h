@@ -22,7 +22,7 @@ struct NamedSection {
 /// In the order in which they are written.
 std::vector<NamedSection> sectionsOf(std::span<const DescribedRow> rows);
 
-/// The fields of the record that are written for the sections of a mask; those of rows that are no sections as well.
+/// The fields of the record that are written for the sections of a mask, and those of rows that are not sections.
 Names fieldsWritten(std::span<const DescribedRow> rows, long mask = 0);
 
 ExitCode listSections(std::span<const DescribedRow> rows);
