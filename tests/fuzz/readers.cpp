@@ -61,13 +61,13 @@ private:
     std::optional<Reply> reply_;
 };
 
-void check(const Reader& reader, const Text& text, Parsed& parsed) {
+void check(const Reader& reader, const Text& text, Parsed& parsed, bool again) {
     const auto reads = [&](const Text& other, const Outcome& outcome) {
         const auto [result, record] = read(reader, other);
         return result == outcome.result && std::memcmp(record.get(), outcome.record.get(), reader.recordSize) == 0;
     };
     const Outcome outcome = read(reader, text);
-    require(reads(text, outcome), "the same reply reads the same again");
+    require(!again || reads(text, outcome), "the same reply reads the same again");
     if (!parsed.has(reader.root)) {
         require(!outcome.result && reads({"", L"", 0}, outcome), "without the message nothing is read");
     }
@@ -100,7 +100,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const auto all = kvjxml::tests::readers();
     for (const Reader& reader : all) {
         if (!hasTag(bytes, reader.root) && &reader != &all[size % all.size()]) continue;
-        check(reader, reader.takesWide ? wideText : narrowText, reader.takesWide ? asWide : asNarrow);
+        // To read twice takes twice as long, so it is left to some inputs.
+        const bool again = size % 8 == 0;
+        check(reader, reader.takesWide ? wideText : narrowText, reader.takesWide ? asWide : asNarrow, again);
     }
     return 0;
 }
