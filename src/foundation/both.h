@@ -41,7 +41,7 @@ constexpr DescribedRow describeWritten(const BothRow<Record>& row) {
 }
 
 template <class Record>
-bool isWanted(const BothRow<Record>&, const Record&, const Selection&) {
+bool isWanted(const BothRow<Record>& /*row*/, const Record& /*record*/, const Selection& /*selection*/) {
     return true;
 }
 

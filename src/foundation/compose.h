@@ -47,7 +47,7 @@ struct Condition {
 /// A condition on the selection alone, which serves for any record.
 template <class Holds>
 struct SelectionCondition {
-    consteval SelectionCondition(std::string_view words, Holds) : description(words) {}
+    consteval SelectionCondition(std::string_view words, Holds /*holds*/) : description(words) {}
     template <class Record>
     constexpr operator Condition<Record>() const {
         return {description, [](const Record&, const Selection& selection) { return Holds()(selection); }};

@@ -45,7 +45,7 @@ constexpr auto table = kvjxml::bothWays<Record>({
     {"more", both::group<more>},
 });
 
-const std::string document =
+constexpr const char* document =
     "<r><number>-5</number><text>abc</text><state>printing</state><level>low</level><level>high</level>"
     "<inner><speed min=\"1\" max=\"9\">5</speed></inner><more><flag>yes</flag></more></r>";
 
