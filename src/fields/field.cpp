@@ -47,7 +47,7 @@ std::size_t countOf(const Entries& entries, const void* record) {
     auto count = static_cast<std::size_t>(entries.count(record));
     if (entries.storage != Storage::inRecord) return count;
     if (count > entries.room) return 0;
-    if (entries.countName.empty()) {
+    if (entries.counter == nullptr) {
         while (count > 0 && isZero(entries.at(record, count - 1), entries.entry->size)) --count;
     }
     return count;

@@ -52,9 +52,9 @@ enum class Storage : std::uint8_t {
 struct Entries {
     const Field* entry;  ///< what each of them is, as a field at the entry's own address
     Storage storage;
-    std::string_view countName{};  ///< of the field that counts them; empty for a catalogue
-    std::size_t room{};            ///< how many an array inside the record holds
-    bool showsCount{};             ///< whether the count says more than how many entries there are
+    const Field* counter{};  ///< the field that counts them; null where none does
+    std::size_t room{};      ///< how many an array inside the record holds
+    bool showsCount{};       ///< whether the count says more than how many entries there are
     std::int64_t (*count)(const void* record);
     void (*setCount)(void* record, std::int64_t count){};
     const void* (*at)(const void* record, std::size_t index);

@@ -136,6 +136,10 @@ const void* addressOf(const void* record) {
 
 // ---- Lists ----
 
+/// What is known of what a list of fields names; see below.
+template <auto Member>
+struct FieldTraits;
+
 /// A list on the heap that the record owns.
 template <auto Member>
 auto& vectorIn(const void* record) {
@@ -173,7 +177,7 @@ constexpr Entries arrayEntries() {
     Entries entries{
         .entry = &entryField<Entry>,
         .storage = Storage::inRecord,
-        .countName = nameOf<Count>(),
+        .counter = &FieldTraits<Count>::field,
         .room = roomOf(std::type_identity<Value>{}),
         .showsCount = ShowsCount,
         .count =
@@ -298,6 +302,8 @@ constexpr auto fieldArray(FieldList<Fields...> /*list*/) {
 
 template <class Record>
 struct RecordTypeOf {
+    // Hosts zero their records and copy them byte by byte; those of a constructor they do not.
+    static_assert(!std::is_aggregate_v<Record> || std::is_trivial_v<Record>);
     static constexpr auto all = fieldArray<Record>(fields<Record>);
     static constexpr RecordType value{qualifiedNameOf<Record>(), sizeof(Record), alignof(Record), all};
 };

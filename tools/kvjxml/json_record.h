@@ -25,7 +25,7 @@ void printRecord(JsonPrinter& json, const RecordType& type, const void* record, 
         for (const Field& field : type.fields) {
             if (field.type == FieldType::list) {
                 if (field.entries->showsCount) {
-                    json.field(field.entries->countName);
+                    json.field(field.entries->counter->name);
                     json.value(countOf(*field.entries, record));
                 }
                 json.field(field.name);

@@ -1,8 +1,7 @@
-// The layout of the shared records, and the size of the classes, are a contract with hosts that were built against an
-// earlier release.
+// What hosts make objects of, or hand over, and what is no record: its size is a contract with those that were built
+// against an earlier release.
 #include <tinyxml.h>
 
-#include <cstddef>
 #include <type_traits>
 
 #include "kvjxml.h"
@@ -24,18 +23,14 @@ static_assert(areDocumentsWith<0, KVJConfigParser, KVJPrinterIDParser, KVJSetPri
 static_assert(areDocumentsWith<sizeof(void*), KVJSetSecActions, KVJDeviceControl>);
 static_assert(areDocumentsWith<2 * sizeof(void*), KVJSetCaps, KVJSetConfig, KVJSetMedia>);
 
-static_assert(sizeof(_MinMaxVal) == 12);
-static_assert(alignof(_MinMaxVal) == 4);
-static_assert(offsetof(_MinMaxVal, min) == 0);
-static_assert(offsetof(_MinMaxVal, max) == 4);
-static_assert(offsetof(_MinMaxVal, value) == 8);
-static_assert(std::is_same_v<decltype(_MinMaxVal::value), int>);
-static_assert(std::is_aggregate_v<_MinMaxVal> && std::is_trivial_v<_MinMaxVal>);
+// Two catalogues would release the same lists.
+static_assert(!std::is_copy_constructible_v<_KVMediaInfo> && !std::is_copy_assignable_v<_KVMediaInfo>);
+static_assert(!std::is_move_constructible_v<_KVMediaInfo> && !std::is_move_assignable_v<_KVMediaInfo>);
+static_assert(std::is_nothrow_destructible_v<_KVMediaInfo>);
 
-static_assert(sizeof(_MinMaxValFloat) == 12);
-static_assert(alignof(_MinMaxValFloat) == 4);
-static_assert(offsetof(_MinMaxValFloat, min) == 0);
-static_assert(offsetof(_MinMaxValFloat, max) == 4);
-static_assert(offsetof(_MinMaxValFloat, value) == 8);
-static_assert(std::is_same_v<decltype(_MinMaxValFloat::value), float>);
-static_assert(std::is_aggregate_v<_MinMaxValFloat> && std::is_trivial_v<_MinMaxValFloat>);
+template <class... Codes>
+constexpr bool areAsLargeAsInt = (std::is_enum_v<Codes> && ...) && ((sizeof(Codes) == sizeof(int)) && ...);
+static_assert(areAsLargeAsInt<USB_Speed, ErrorControl, _eFeedMode, WirelessSecurity, WirelessCrypto, _laminatorType>);
+
+static_assert(sizeof(szRibbonName) == 32);
+static_assert(KVJOBLIST_CAPACITY == 64);
