@@ -2,19 +2,20 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
-#include <bit>
 #include <climits>
 #include <new>
 #include <string>
 
 #include "KVJLogParser.h"
+#include "fields/identity.h"
+#include "support/records.h"
 #include "support/xml.h"
 
 namespace {
 
 using Kavrin::_tagCleaningLogEntry;
 using Kavrin::KVJLogParser;
+using kvjxml::tests::expectEqual;
 using kvjxml::tests::wide;
 using kvjxml::tests::Xml;
 
@@ -22,11 +23,6 @@ using Entries = _tagCleaningLogEntry[32];
 
 /// An entry with a value in every field that no test writes.
 constexpr _tagCleaningLogEntry preset = {-1, -2, -3};
-
-void expectEqual(const _tagCleaningLogEntry& actual, const _tagCleaningLogEntry& expected) {
-    using Fields = std::array<int, 3>;
-    EXPECT_EQ(std::bit_cast<Fields>(actual), std::bit_cast<Fields>(expected));
-}
 
 bool read(const std::string& reply, Entries& entries) {
     const std::wstring text = wide(reply);

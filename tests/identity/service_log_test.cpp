@@ -2,8 +2,6 @@
 // one entry.
 #include <gtest/gtest.h>
 
-#include <array>
-#include <bit>
 #include <climits>
 #include <cstddef>
 #include <new>
@@ -11,6 +9,8 @@
 #include <vector>
 
 #include "KVJLogParser.h"
+#include "fields/identity.h"
+#include "support/records.h"
 #include "support/xml.h"
 
 namespace {
@@ -18,17 +18,12 @@ namespace {
 using Kavrin::_tagLogServiceValues;
 using Kavrin::_tagLogServiceXML;
 using Kavrin::KVJLogParser;
+using kvjxml::tests::expectEqual;
 using kvjxml::tests::wide;
 using kvjxml::tests::Xml;
 
 /// An entry with a value in every field that no test writes.
 constexpr _tagLogServiceValues preset = {-1, -2, -3, -4, -5, -6};
-
-auto fieldsOf(const _tagLogServiceValues& entry) { return std::bit_cast<std::array<int, 6>>(entry); }
-
-void expectEqual(const _tagLogServiceValues& actual, const _tagLogServiceValues& expected) {
-    EXPECT_EQ(fieldsOf(actual), fieldsOf(expected));
-}
 
 bool read(const std::string& reply, _tagLogServiceXML& log) {
     const std::wstring text = wide(reply);

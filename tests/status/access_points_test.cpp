@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "KVJStatusParser.h"
+#include "fields/status.h"
+#include "support/records.h"
 #include "support/xml.h"
 
 namespace {
@@ -16,34 +18,14 @@ namespace {
 using Kavrin::_tagAccessPoint;
 using Kavrin::_tagAccessPoints;
 using Kavrin::KVJStatusParser;
+using kvjxml::tests::expectEqual;
 using kvjxml::tests::wide;
 using kvjxml::tests::Xml;
 
 /// An entry with a value in every field that no test writes; the codes have bits that no word has.
 _tagAccessPoint preset() { return {"preset", {9, 8, 7, 6, 5, 4}, true, -1, -2, -3, true, 0x100, 0x200, -4}; }
 
-void expectEqual(const _tagAccessPoint& actual, const _tagAccessPoint& expected) {
-    EXPECT_STREQ(actual.SSID, expected.SSID);
-    for (std::size_t i = 0; i < sizeof actual.BSSID; ++i) EXPECT_EQ(actual.BSSID[i], expected.BSSID[i]) << i;
-    EXPECT_EQ(actual.Selected, expected.Selected);
-    EXPECT_EQ(actual.Channel, expected.Channel);
-    EXPECT_EQ(actual.Privacy, expected.Privacy);
-    EXPECT_EQ(actual.SignalStrength, expected.SignalStrength);
-    EXPECT_EQ(actual.Infrastructure, expected.Infrastructure);
-    EXPECT_EQ(actual.Security, expected.Security);
-    EXPECT_EQ(actual.Encryption, expected.Encryption);
-    EXPECT_EQ(actual.MaxDataRate, expected.MaxDataRate);
-}
-
 using Entries = std::vector<_tagAccessPoint>;
-
-void expectEqual(const Entries& actual, const Entries& expected) {
-    ASSERT_EQ(actual.size(), expected.size());
-    for (std::size_t i = 0; i < actual.size(); ++i) {
-        const testing::ScopedTrace trace(__FILE__, __LINE__, i);
-        expectEqual(actual[i], expected[i]);
-    }
-}
 
 std::string element(const std::string& name, const std::string& content) {
     return "<" + name + ">" + content + "</" + name + ">";

@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "KVJStatusParser.h"
+#include "fields/status.h"
+#include "support/records.h"
 #include "support/xml.h"
 
 namespace {
@@ -15,6 +17,7 @@ using Kavrin::KVCardCount;
 using Kavrin::KVCleaningStatus;
 using Kavrin::KVJStatusParser;
 using Kavrin::KVUpTimes;
+using kvjxml::tests::expectEqual;
 using kvjxml::tests::wide;
 using kvjxml::tests::Xml;
 
@@ -67,10 +70,6 @@ protected:
 
     static Record preset() { return {101, 102, 103}; }
 
-    static void expectEqual(const Record& actual, const Record& expected) {
-        for (const auto& [name, field] : Message::counters) EXPECT_EQ(actual.*field, expected.*field) << name;
-    }
-
     static bool readChildren(const std::string& children, Record& record) {
         return read(Message::reader, element(Message::root, children), record);
     }
@@ -98,16 +97,16 @@ TYPED_TEST(Counters, FillEveryFieldFromOneReply) {
     auto record = this->preset();
     EXPECT_TRUE(
         this->readChildren(element(names[0], "12345") + element(names[1], "2") + element(names[2], "65535"), record));
-    this->expectEqual(record, {12345, 2, 65535});
+    expectEqual(record, {12345, 2, 65535});
 }
 
 TYPED_TEST(Counters, AreReadInAnyOrderEachIntoItsField) {
     const auto names = this->names();
     auto record = this->preset();
     EXPECT_TRUE(this->readChildren(element(names[2], "3") + element(names[0], "1"), record));
-    this->expectEqual(record, {1, 102, 3});
+    expectEqual(record, {1, 102, 3});
     EXPECT_TRUE(this->readChildren(element(names[1], "2"), record));
-    this->expectEqual(record, {1, 2, 3});
+    expectEqual(record, {1, 2, 3});
 }
 
 TYPED_TEST(Counters, Have16Bits) {
@@ -119,7 +118,7 @@ TYPED_TEST(Counters, Have16Bits) {
             auto expected = record;
             expected.*field = value;
             EXPECT_TRUE(this->readChildren(element(name, text), record)) << name << ' ' << text;
-            this->expectEqual(record, expected);
+            expectEqual(record, expected);
         }
     }
 }
@@ -140,7 +139,7 @@ TYPED_TEST(Counters, WithoutTextAreFalseAndKept) {
     for (const auto& name : this->names()) {
         auto record = this->preset();
         EXPECT_FALSE(this->readChildren(element(name, ""), record)) << name;
-        this->expectEqual(record, this->preset());
+        expectEqual(record, this->preset());
     }
 }
 
@@ -151,7 +150,7 @@ TYPED_TEST(Counters, AReplyWithoutKnownElementsLeavesEveryFieldAndIsFalse) {
     EXPECT_FALSE(this->readChildren(element("group", element(this->names()[0], "1")), record));
     EXPECT_FALSE(this->readChildren("", record));
     EXPECT_FALSE(this->readChildren("text", record));
-    this->expectEqual(record, this->preset());
+    expectEqual(record, this->preset());
 }
 
 TYPED_TEST(Counters, AnotherRootIsFalseAndLeavesTheRecord) {
@@ -162,25 +161,25 @@ TYPED_TEST(Counters, AnotherRootIsFalseAndLeavesTheRecord) {
     }
     EXPECT_FALSE(read(TypeParam::reader, children, record));
     EXPECT_FALSE(read(TypeParam::reader, element("reply", element(TypeParam::root, children)), record));
-    this->expectEqual(record, this->preset());
+    expectEqual(record, this->preset());
 }
 
 TYPED_TEST(Counters, TheResultIsThatOfTheLastKnownElement) {
     const auto names = this->names();
     auto record = this->preset();
     EXPECT_FALSE(this->readChildren(element(names[0], "1") + element(names[1], ""), record));
-    this->expectEqual(record, {1, 102, 103});
+    expectEqual(record, {1, 102, 103});
     EXPECT_TRUE(this->readChildren(element(names[1], "") + element(names[0], "2"), record));
     EXPECT_TRUE(this->readChildren(element(names[0], "3") + "<serial/>", record));
     EXPECT_FALSE(this->readChildren(element(names[0], "") + "<serial>1</serial>", record));
-    this->expectEqual(record, {3, 102, 103});
+    expectEqual(record, {3, 102, 103});
 }
 
 TYPED_TEST(Counters, OfARepeatedElementTheLaterValueWins) {
     const auto name = this->names()[1];
     auto record = this->preset();
     EXPECT_TRUE(this->readChildren(element(name, "1") + element(name, "2"), record));
-    this->expectEqual(record, {101, 2, 103});
+    expectEqual(record, {101, 2, 103});
 }
 
 TYPED_TEST(Counters, TheWalkerReadsAnElementThatTheHostHolds) {
@@ -188,7 +187,7 @@ TYPED_TEST(Counters, TheWalkerReadsAnElementThatTheHostHolds) {
     auto record = this->preset();
     Xml reply(element("any", element(this->names()[2], "7")).c_str());
     EXPECT_TRUE((parser.*TypeParam::walker)(reply.root(), record));
-    this->expectEqual(record, {101, 102, 7});
+    expectEqual(record, {101, 102, 7});
 }
 
 TYPED_TEST(Counters, TheWalkerIsFalseForNoElementAndForOneWithoutChildren) {
@@ -197,7 +196,7 @@ TYPED_TEST(Counters, TheWalkerIsFalseForNoElementAndForOneWithoutChildren) {
     Xml empty("<any>text</any>");
     EXPECT_FALSE((parser.*TypeParam::walker)(nullptr, record));
     EXPECT_FALSE((parser.*TypeParam::walker)(empty.root(), record));
-    this->expectEqual(record, this->preset());
+    expectEqual(record, this->preset());
 }
 
 // ---- Cards until the next cleaning ----

@@ -4,33 +4,20 @@
 #include <string>
 
 #include "KVJStatusParser.h"
+#include "fields/status.h"
+#include "support/records.h"
 #include "support/xml.h"
 
 namespace {
 
 using Kavrin::KVGeneralStatus;
 using Kavrin::KVJStatusParser;
+using kvjxml::tests::expectEqual;
 using kvjxml::tests::wide;
 using kvjxml::tests::Xml;
 
 /// A record with a value in every field that no test writes.
 KVGeneralStatus preset() { return {-1, 101, -2, true, -3, -4, -5, -6, -7, -8, -9, -10, 102}; }
-
-void expectEqual(const KVGeneralStatus& actual, const KVGeneralStatus& expected) {
-    EXPECT_EQ(actual.printerState, expected.printerState);
-    EXPECT_EQ(actual.alarms, expected.alarms);
-    EXPECT_EQ(actual.error, expected.error);
-    EXPECT_EQ(actual.printerLock, expected.printerLock);
-    EXPECT_EQ(actual.jobsReceivingOrPending, expected.jobsReceivingOrPending);
-    EXPECT_EQ(actual.jobsInProgress, expected.jobsInProgress);
-    EXPECT_EQ(actual.jobsDoneOk, expected.jobsDoneOk);
-    EXPECT_EQ(actual.jobsDoneError, expected.jobsDoneError);
-    EXPECT_EQ(actual.jobsTotal, expected.jobsTotal);
-    EXPECT_EQ(actual.actionIdNext, expected.actionIdNext);
-    EXPECT_EQ(actual.warning, expected.warning);
-    EXPECT_EQ(actual.laminatorState, expected.laminatorState);
-    EXPECT_EQ(actual.paramChangeCounter, expected.paramChangeCounter);
-}
 
 bool read(const std::string& reply, KVGeneralStatus& status) {
     const std::wstring text = wide(reply);

@@ -7,6 +7,8 @@
 #include <string>
 
 #include "KVJStatusParser.h"
+#include "fields/status.h"
+#include "support/records.h"
 #include "support/xml.h"
 
 namespace {
@@ -15,6 +17,7 @@ using Kavrin::_KVJobInfo;
 using Kavrin::KVJobList;
 using Kavrin::KVJOBLIST_CAPACITY;
 using Kavrin::KVJStatusParser;
+using kvjxml::tests::expectEqual;
 using kvjxml::tests::wide;
 using kvjxml::tests::Xml;
 
@@ -36,13 +39,8 @@ KVJobList filled(int count) {
     return list;
 }
 
-void expectEqual(const _KVJobInfo& actual, const _KVJobInfo& expected) {
-    EXPECT_EQ(actual.actionId, expected.actionId);
-    EXPECT_STREQ(actual.uuid, expected.uuid);
-    EXPECT_EQ(actual.printState, expected.printState);
-}
-
-void expectEqual(const KVJobList& actual, const KVJobList& expected) {
+/// Compares the entries behind the count too.
+void expectAllEqual(const KVJobList& actual, const KVJobList& expected) {
     EXPECT_EQ(actual.count, expected.count);
     for (int i = 0; i < KVJOBLIST_CAPACITY; ++i) {
         const testing::ScopedTrace trace(__FILE__, __LINE__, i);
@@ -81,7 +79,7 @@ TEST(JobList, FillsEveryFieldOfEveryJobFromOneReply) {
     KVJobList expected = preset(2);
     expected.jobs[0] = {11, "6a1f", 6};
     expected.jobs[1] = {12, "77b0", 1};
-    expectEqual(list, expected);
+    expectAllEqual(list, expected);
 }
 
 TEST(JobList, ReadsTheElementsOfAJobInAnyOrder) {
@@ -95,43 +93,43 @@ TEST(JobList, ReadsTheElementsOfAJobInAnyOrder) {
 TEST(JobList, WithRoomForMoreJobsTheCountIsThatOfTheJobs) {
     KVJobList list = preset(5);
     EXPECT_TRUE(readChildren(numberedJobs(3), list));
-    expectEqual(list, filled(3));
+    expectAllEqual(list, filled(3));
 }
 
 TEST(JobList, WithRoomForExactlyTheJobsAllAreFilled) {
     KVJobList list = preset(3);
     EXPECT_TRUE(readChildren(numberedJobs(3), list));
-    expectEqual(list, filled(3));
+    expectAllEqual(list, filled(3));
 }
 
 TEST(JobList, OfFiveJobsThreeAreFilledWhenThereIsRoomForThree) {
     KVJobList list = preset(3);
     EXPECT_TRUE(readChildren(numberedJobs(5), list));
-    expectEqual(list, filled(3));
+    expectAllEqual(list, filled(3));
 }
 
 TEST(JobList, JobsWithoutRoomDoNotCountForTheResult) {
     KVJobList list = preset(3);
     EXPECT_TRUE(readChildren(numberedJobs(3) + "<job/><job><uuid/></job>", list));
-    expectEqual(list, filled(3));
+    expectAllEqual(list, filled(3));
     list = preset(3);
     EXPECT_FALSE(readChildren(numberedJobs(2) + "<job><action_id/></job>" + numberedJobs(2), list));
     KVJobList expected = filled(2);
     expected.count = 3;
-    expectEqual(list, expected);
+    expectAllEqual(list, expected);
 }
 
 TEST(JobList, ACountOfZeroFillsNothingAndIsFalse) {
     KVJobList list = preset(0);
     EXPECT_FALSE(readChildren(numberedJobs(3), list));
-    expectEqual(list, preset(0));
+    expectAllEqual(list, preset(0));
 }
 
 TEST(JobList, ANegativeCountFillsNothingBecomesZeroAndIsFalse) {
     for (const int count : {-1, -64, std::numeric_limits<int>::min()}) {
         KVJobList list = preset(count);
         EXPECT_FALSE(readChildren(numberedJobs(3), list)) << count;
-        expectEqual(list, preset(0));
+        expectAllEqual(list, preset(0));
     }
 }
 
@@ -143,7 +141,7 @@ TEST(JobList, ACountAboveTheCapacityCountsAsTheCapacity) {
         } memory = {preset(count), {}};
         std::memset(memory.behind, 'x', sizeof memory.behind);
         EXPECT_TRUE(readChildren(numberedJobs(70), memory.list)) << count;
-        expectEqual(memory.list, filled(64));
+        expectAllEqual(memory.list, filled(64));
         EXPECT_EQ(std::string(memory.behind, sizeof memory.behind), std::string(sizeof memory.behind, 'x'));
     }
 }
@@ -151,7 +149,7 @@ TEST(JobList, ACountAboveTheCapacityCountsAsTheCapacity) {
 TEST(JobList, ACountAboveTheCapacityBecomesThatOfFewerJobs) {
     KVJobList list = preset(1000);
     EXPECT_TRUE(readChildren(numberedJobs(2), list));
-    expectEqual(list, filled(2));
+    expectAllEqual(list, filled(2));
 }
 
 TEST(JobList, OtherElementsBetweenTheJobsUseUpNoEntry) {
@@ -160,7 +158,7 @@ TEST(JobList, OtherElementsBetweenTheJobsUseUpNoEntry) {
                                  "<Job><action_id>9</action_id></Job><job><print_state>done_ok</print_state>"
                                  "<serial>1</serial><action_id>2</action_id></job><action_id>9</action_id><end/>",
                              list));
-    expectEqual(list, filled(2));
+    expectAllEqual(list, filled(2));
 }
 
 TEST(JobList, WithoutAJobTheCountIsZeroAndTheResultFalse) {
@@ -170,7 +168,7 @@ TEST(JobList, WithoutAJobTheCountIsZeroAndTheResultFalse) {
                               "<get_job_list><jobs><job><action_id>1</action_id></job></jobs></get_job_list>"}) {
         KVJobList list = preset(3);
         EXPECT_FALSE(read(reply, list)) << reply;
-        expectEqual(list, preset(0));
+        expectAllEqual(list, preset(0));
     }
 }
 
@@ -181,7 +179,7 @@ TEST(JobList, WithoutTheRootTheCountIsKeptAndTheResultFalse) {
           "<reply><get_job_list><job><action_id>1</action_id></job></get_job_list></reply>"}) {
         KVJobList list = preset(3);
         EXPECT_FALSE(read(reply, list)) << reply;
-        expectEqual(list, preset(3));
+        expectAllEqual(list, preset(3));
     }
 }
 
@@ -193,7 +191,7 @@ TEST(JobList, ASecondReplyIsReadFromTheFirstEntryOn) {
     KVJobList expected = filled(3);
     expected.count = 1;
     expected.jobs[0].actionId = 9;
-    expectEqual(list, expected);
+    expectAllEqual(list, expected);
 }
 
 // ---- The result ----
@@ -214,12 +212,12 @@ TEST(JobList, AJobWithoutKnownElementsTakesAnEntryAndLeavesIt) {
     for (const char* job : {"<job/>", "<job>text</job>", "<job><serial>1</serial></job>"}) {
         KVJobList list = preset(5);
         EXPECT_FALSE(readChildren(job, list)) << job;
-        expectEqual(list, preset(1));
+        expectAllEqual(list, preset(1));
         list = preset(5);
         EXPECT_TRUE(readChildren(job + numberedJobs(1), list)) << job;
         KVJobList expected = preset(2);
         expected.jobs[1] = {1, "preset", 7};
-        expectEqual(list, expected);
+        expectAllEqual(list, expected);
     }
 }
 
@@ -243,14 +241,14 @@ TEST(JobList, ElementsWithoutTextAreFalseAndKeepTheirFields) {
     for (const char* element : {"<action_id/>", "<uuid></uuid>", "<print_state/>"}) {
         KVJobList list = preset(1);
         EXPECT_FALSE(readJob(element, list)) << element;
-        expectEqual(list, preset(1));
+        expectAllEqual(list, preset(1));
     }
 }
 
 TEST(JobList, ElementNamesInOtherLetterCaseAreUnknown) {
     KVJobList list = preset(1);
     EXPECT_FALSE(readJob("<Action_Id>1</Action_Id><UUID>u</UUID><Print_state>held</Print_state>", list));
-    expectEqual(list, preset(1));
+    expectAllEqual(list, preset(1));
 }
 
 TEST(JobList, TheActionIdHas16Bits) {
@@ -278,7 +276,7 @@ TEST(JobList, AUuidLongerThanItsFieldIsCutTerminatedAndFalse) {
         KVJobList expected = preset(1);
         std::memset(expected.jobs[0].uuid, 'u', 39);
         expected.jobs[0].uuid[39] = '\0';
-        expectEqual(list, expected);
+        expectAllEqual(list, expected);
     }
 }
 
@@ -306,7 +304,7 @@ TEST(JobList, TheWalkersReadElementsThatTheHostHolds) {
     KVJobList expected = preset(2);
     expected.jobs[0].actionId = 1;
     expected.jobs[1].actionId = 2;
-    expectEqual(list, expected);
+    expectAllEqual(list, expected);
     _KVJobInfo job{};
     Xml element("<any><action_id>4</action_id><uuid>u</uuid><print_state>held</print_state></any>");
     EXPECT_TRUE(parser.parseJobInfo(element.root(), job));
@@ -318,7 +316,7 @@ TEST(JobList, TheWalkersAreFalseForNoElement) {
     KVJobList list = preset(3);
     EXPECT_FALSE(parser.parseJobList(nullptr, list));
     EXPECT_FALSE(parser.parseJobInfo(nullptr, list.jobs[0]));
-    expectEqual(list, preset(3));
+    expectAllEqual(list, preset(3));
 }
 
 TEST(JobList, TheWalkersAreFalseForAnElementWithoutChildren) {
@@ -326,9 +324,9 @@ TEST(JobList, TheWalkersAreFalseForAnElementWithoutChildren) {
     KVJobList list = preset(3);
     Xml empty("<any>text</any>");
     EXPECT_FALSE(parser.parseJobInfo(empty.root(), list.jobs[0]));
-    expectEqual(list, preset(3));
+    expectAllEqual(list, preset(3));
     EXPECT_FALSE(parser.parseJobList(empty.root(), list));
-    expectEqual(list, preset(0));
+    expectAllEqual(list, preset(0));
 }
 
 }  // namespace

@@ -5,32 +5,20 @@
 #include <string>
 
 #include "KVJStatusParser.h"
+#include "fields/status.h"
+#include "support/records.h"
 #include "support/xml.h"
 
 namespace {
 
 using Kavrin::KVJobStatus;
 using Kavrin::KVJStatusParser;
+using kvjxml::tests::expectEqual;
 using kvjxml::tests::wide;
 using kvjxml::tests::Xml;
 
 /// A record with a value in every field that no test writes.
 KVJobStatus preset() { return {101, "preset", true, -2, -3, 102, -4, -5, -6, -7, -8, -9}; }
-
-void expectEqual(const KVJobStatus& actual, const KVJobStatus& expected) {
-    EXPECT_EQ(actual.actionId, expected.actionId);
-    EXPECT_STREQ(actual.uuid, expected.uuid);
-    EXPECT_EQ(actual.readyForNextJob, expected.readyForNextJob);
-    EXPECT_EQ(actual.copiesDone, expected.copiesDone);
-    EXPECT_EQ(actual.copiesTotalSpecified, expected.copiesTotalSpecified);
-    EXPECT_EQ(actual.errorCode, expected.errorCode);
-    EXPECT_EQ(actual.printState, expected.printState);
-    EXPECT_EQ(actual.magState, expected.magState);
-    EXPECT_EQ(actual.contactState, expected.contactState);
-    EXPECT_EQ(actual.contactlessState, expected.contactlessState);
-    EXPECT_EQ(actual.positionInTransport, expected.positionInTransport);
-    EXPECT_EQ(actual.laminatorState, expected.laminatorState);
-}
 
 bool read(const std::string& reply, KVJobStatus& status) {
     const std::wstring text = wide(reply);

@@ -9,11 +9,14 @@
 #include <vector>
 
 #include "KVJStatusParser.h"
+#include "fields/status.h"
+#include "support/records.h"
 #include "support/xml.h"
 
 namespace {
 
 using Kavrin::KVJStatusParser;
+using kvjxml::tests::expectEqual;
 using kvjxml::tests::wide;
 using kvjxml::tests::Xml;
 
@@ -30,27 +33,6 @@ std::string_view textIn(const char (&field)[N]) {
 template <std::size_t N>
 void fill(char (&field)[N], std::string_view text) {
     field[text.copy(field, N - 1)] = '\0';
-}
-
-void expectEqual(const char* name, const _MediaStatusInfo& actual, const _MediaStatusInfo& expected) {
-    const testing::ScopedTrace trace(__FILE__, __LINE__, name);
-    EXPECT_EQ(actual.type, expected.type);
-    EXPECT_EQ(actual.code, expected.code);
-    EXPECT_EQ(textIn(actual.description), textIn(expected.description));
-    EXPECT_EQ(textIn(actual.partNumber), textIn(expected.partNumber));
-    EXPECT_EQ(textIn(actual.oemCountry), textIn(expected.oemCountry));
-    EXPECT_EQ(actual.initialSize, expected.initialSize);
-    EXPECT_EQ(actual.panelsRemaining, expected.panelsRemaining);
-    EXPECT_EQ(actual.payoutDiameter, expected.payoutDiameter);
-    EXPECT_EQ(actual.takeupDiameter, expected.takeupDiameter);
-}
-
-void expectEqual(const MediaStatus& actual, const MediaStatus& expected) {
-    expectEqual("ribbon", actual.ribbon, expected.ribbon);
-    EXPECT_EQ(actual.reserved, expected.reserved);
-    expectEqual("film", actual.film, expected.film);
-    expectEqual("topLaminate", actual.topLaminate, expected.topLaminate);
-    expectEqual("bottomLaminate", actual.bottomLaminate, expected.bottomLaminate);
 }
 
 std::string element(const std::string& name, const std::string& content) {

@@ -2,32 +2,26 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
-#include <bit>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "KVJSensorParser.h"
+#include "fields/status.h"
+#include "support/records.h"
 #include "support/xml.h"
 
 namespace {
 
 using Kavrin::KVJSensorParser;
 using Kavrin::KVSensorInfo;
+using kvjxml::tests::expectEqual;
 using kvjxml::tests::wide;
 using kvjxml::tests::Xml;
 
 /// A record with a value in every field that no test writes.
 KVSensorInfo preset() {
     return {-1, -2, -3, -4, -5, -6, -7, -8, -9, -10, -11, -12, -13, -14, -15, -16, -17, -18, -19, -20, -21, -22};
-}
-
-/// The record's fields in its order.
-auto fieldsOf(const KVSensorInfo& sensors) { return std::bit_cast<std::array<int, 22>>(sensors); }
-
-void expectEqual(const KVSensorInfo& actual, const KVSensorInfo& expected) {
-    EXPECT_EQ(fieldsOf(actual), fieldsOf(expected));
 }
 
 bool read(const std::string& reply, KVSensorInfo& sensors) {

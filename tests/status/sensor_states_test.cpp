@@ -8,12 +8,15 @@
 #include <string>
 
 #include "KVJSensorParser.h"
+#include "fields/status.h"
+#include "support/records.h"
 #include "support/xml.h"
 
 namespace {
 
 using Kavrin::_KVPrinterSensorInfo;
 using Kavrin::KVJSensorParser;
+using kvjxml::tests::expectEqual;
 using kvjxml::tests::Xml;
 
 /// A record with a value in every byte that no test writes.
@@ -26,10 +29,6 @@ _KVPrinterSensorInfo preset() {
 /// The whole record, which consists of characters only.
 std::string bytesOf(const _KVPrinterSensorInfo& states) {
     return {reinterpret_cast<const char*>(&states), sizeof states};
-}
-
-void expectEqual(const _KVPrinterSensorInfo& actual, const _KVPrinterSensorInfo& expected) {
-    EXPECT_EQ(bytesOf(actual), bytesOf(expected));
 }
 
 bool read(const std::string& reply, _KVPrinterSensorInfo& states) {

@@ -7,12 +7,15 @@
 #include <utility>
 
 #include "KVJStatusParser.h"
+#include "fields/status.h"
+#include "support/records.h"
 #include "support/xml.h"
 
 namespace {
 
 using Kavrin::_SENSOR;
 using Kavrin::KVJStatusParser;
+using kvjxml::tests::expectEqual;
 using kvjxml::tests::wide;
 using kvjxml::tests::Xml;
 
@@ -20,42 +23,6 @@ using kvjxml::tests::Xml;
 _SENSOR preset(bool on = true) {
     return {"takeup", on, on, on, on, on,  on,  on,  on,  on,  "tricolor", on,  -1,  on,  -2.5F, -3, -4,
             -5,       -6, -7, -8, -9, -10, -11, -12, -13, -14, -15,        -16, -17, -18, -19,   -20};
-}
-
-void expectEqual(const _SENSOR& actual, const _SENSOR& expected) {
-    EXPECT_STREQ(actual.ribbonTakeupEncoder, expected.ribbonTakeupEncoder);
-    EXPECT_EQ(actual.doorOpen, expected.doorOpen);
-    EXPECT_EQ(actual.flipOptionsDoorOpen, expected.flipOptionsDoorOpen);
-    EXPECT_EQ(actual.flipperCardBlocked, expected.flipperCardBlocked);
-    EXPECT_EQ(actual.flipperRotationBlocked, expected.flipperRotationBlocked);
-    EXPECT_EQ(actual.cardOutSensorSet, expected.cardOutSensorSet);
-    EXPECT_EQ(actual.optionMagBlocked, expected.optionMagBlocked);
-    EXPECT_EQ(actual.optionCamBlocked, expected.optionCamBlocked);
-    EXPECT_EQ(actual.cardExitBlocked, expected.cardExitBlocked);
-    EXPECT_EQ(actual.cardEdgeBlocked, expected.cardEdgeBlocked);
-    EXPECT_STREQ(actual.tricolorState, expected.tricolorState);
-    EXPECT_EQ(actual.headCamBlocked, expected.headCamBlocked);
-    EXPECT_EQ(actual.tricolorError, expected.tricolorError);
-    EXPECT_EQ(actual.printheadFan, expected.printheadFan);
-    EXPECT_EQ(actual.voltage24, expected.voltage24);
-    EXPECT_EQ(actual.voltageRaw, expected.voltageRaw);
-    EXPECT_EQ(actual.magTrack1, expected.magTrack1);
-    EXPECT_EQ(actual.magTrack2, expected.magTrack2);
-    EXPECT_EQ(actual.magTrack3, expected.magTrack3);
-    EXPECT_EQ(actual.printHeadTemp, expected.printHeadTemp);
-    EXPECT_EQ(actual.magHeadType, expected.magHeadType);
-    EXPECT_EQ(actual.ribbonBemf, expected.ribbonBemf);
-    EXPECT_EQ(actual.tricolorAny, expected.tricolorAny);
-    EXPECT_EQ(actual.tricolorRed, expected.tricolorRed);
-    EXPECT_EQ(actual.tricolorGreen, expected.tricolorGreen);
-    EXPECT_EQ(actual.tricolorBlue, expected.tricolorBlue);
-    EXPECT_EQ(actual.platenTemp128, expected.platenTemp128);
-    EXPECT_EQ(actual.rlec, expected.rlec);
-    EXPECT_EQ(actual.rsec, expected.rsec);
-    EXPECT_EQ(actual.rldc, expected.rldc);
-    EXPECT_EQ(actual.rsdc, expected.rsdc);
-    EXPECT_EQ(actual.rgsu, expected.rgsu);
-    EXPECT_EQ(actual.rgsd, expected.rgsd);
 }
 
 bool read(const std::string& reply, _SENSOR& sensors) {

@@ -6,6 +6,8 @@
 #include <string>
 
 #include "KVJStatusParser.h"
+#include "fields/status.h"
+#include "support/records.h"
 #include "support/xml.h"
 
 namespace {
@@ -14,6 +16,7 @@ using Kavrin::_tagPackets;
 using Kavrin::_tagWirelessRadioStatus;
 using Kavrin::_tagWirelessStatus;
 using Kavrin::KVJStatusParser;
+using kvjxml::tests::expectEqual;
 using kvjxml::tests::wide;
 using kvjxml::tests::Xml;
 
@@ -62,22 +65,6 @@ constexpr Number<_tagWirelessRadioStatus> radioNumbers[] = {{"mcasttxframe", &_t
 /// A record with a value in every field that no test writes; the codes have bits that no word has.
 _tagWirelessStatus preset() {
     return {-1, "preset", -2, -3, -4, -5, 0x100, 0x200, -6, {-7, -8, -9, -10, -11}, {-12, -13, -14, -15, -16}, -17};
-}
-
-void expectEqual(const char* name, const _tagPackets& actual, const _tagPackets& expected) {
-    for (const auto& number : packetNumbers) {
-        EXPECT_EQ(actual.*number.field, expected.*number.field) << name << '/' << number.name;
-    }
-}
-
-void expectEqual(const _tagWirelessStatus& actual, const _tagWirelessStatus& expected) {
-    EXPECT_EQ(actual.state, expected.state);
-    EXPECT_STREQ(actual.ssid, expected.ssid);
-    for (const auto& number : linkNumbers) EXPECT_EQ(actual.*number.field, expected.*number.field) << number.name;
-    EXPECT_EQ(actual.security, expected.security);
-    EXPECT_EQ(actual.crypto, expected.crypto);
-    expectEqual("in", actual.in, expected.in);
-    expectEqual("out", actual.out, expected.out);
 }
 
 bool read(const std::string& reply, _tagWirelessStatus& status) {
@@ -286,10 +273,6 @@ TEST(WirelessStatus, EachPacketCountFillsItsOwnFieldOfItsDirection) {
 
 _tagWirelessRadioStatus presetRadio() {
     return {-1, -2, -3, -4, -5, -6, -7, -8, -9, -10, -11, -12, -13, -14, -15, -16, -17};
-}
-
-void expectEqual(const _tagWirelessRadioStatus& actual, const _tagWirelessRadioStatus& expected) {
-    for (const auto& number : radioNumbers) EXPECT_EQ(actual.*number.field, expected.*number.field) << number.name;
 }
 
 bool read(const std::string& reply, _tagWirelessRadioStatus& status) {
