@@ -20,7 +20,8 @@ inline constexpr ReadRule<_RibbonInfo> ribbonName{
     {.field = fieldOf<&_RibbonInfo::description>,
      .kind = Kind::textWithoutWord,
      .capacity = ribbonNameCapacity,
-     .word = "MONO"},
+     .word = "MONO",
+     .withoutText = WithoutText::isZero},
     [](Element element, _RibbonInfo& ribbon) { return readRibbonName(element, ribbon.description); }};
 
 inline constexpr WordTable transferTypes{0, {{"single", 1}, {"dual", 2}}};
