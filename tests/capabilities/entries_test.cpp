@@ -47,32 +47,6 @@ void expectEntry(EntryReader<Entry> reader, const std::vector<std::string>& name
     }
 }
 
-/// That without text these elements give false and keep their fields.
-template <class Entry>
-void expectKeptWithoutText(EntryReader<Entry> reader, const std::vector<std::string>& names) {
-    for (const std::string& name : names) expectRead(reader, element(name, ""), false, preset<Entry>());
-}
-
-/// That a text of the field's size less one is read whole, and a longer one cut to it, as nothing but that field.
-template <class Entry, std::size_t Size>
-void expectCut(EntryReader<Entry> reader, const std::string& name, char (Entry::*field)[Size]) {
-    const std::string longest(Size - 1, 't');
-    for (const auto& [text, result] :
-         {std::pair(longest, true), std::pair(longest + "u", false), std::pair(longest + "uv", false),
-          std::pair(longest + std::string(100000, 'u'), false)}) {
-        Entry entries[] = {preset<Entry>(), preset<Entry>(), preset<Entry>()};
-        EXPECT_EQ(read(reader, element(name, text), entries[1]), result) << name << ' ' << text.size();
-        EXPECT_EQ(entries[1].*field, longest);
-        auto others = entries[1];
-        (others.*field)[0] = '\0';
-        auto expected = preset<Entry>();
-        (expected.*field)[0] = '\0';
-        EXPECT_EQ(fieldsOf(others), fieldsOf(expected)) << name;
-        EXPECT_EQ(fieldsOf(entries[0]), fieldsOf(preset<Entry>()));
-        EXPECT_EQ(fieldsOf(entries[2]), fieldsOf(preset<Entry>()));
-    }
-}
-
 // ---- Ports ----
 
 constexpr EntryReader<_PortCaps> port = &KVJCapsParser::getHostPort;
@@ -83,18 +57,6 @@ TEST(PortEntry, FillsItsFieldsInAnyOrder) {
 }
 
 TEST(PortEntry, NeedsElementsThatItKnows) { expectEntry(port, {"port_id", "type"}); }
-
-TEST(PortEntry, AnAbsentElementKeepsItsField) {
-    expectRead(port, "<port_id>7</port_id>", true, {7, preset<_PortCaps>().portType});
-    expectRead(port, "<type>serial</type>", true, {preset<_PortCaps>().portId, 1});
-}
-
-TEST(PortEntry, WithoutTextAFieldIsKeptAndTheResultFalse) { expectKeptWithoutText(port, {"port_id", "type"}); }
-
-TEST(PortEntry, TheResultIsThatOfTheLastFieldAndTheLaterValueWins) {
-    expectRead(port, "<port_id>1</port_id><port_id>2</port_id><type/>", false, {2, preset<_PortCaps>().portType});
-    expectRead(port, "<type/><port_id>1</port_id><note/>", true, {1, preset<_PortCaps>().portType});
-}
 
 TEST(PortEntry, AnUnknownTypeIsMinus1AndRead) {
     for (const std::string& word :
@@ -121,23 +83,6 @@ TEST(SwInterfaceEntry, FillsItsFieldsInAnyOrder) {
 
 TEST(SwInterfaceEntry, NeedsElementsThatItKnows) { expectEntry(swInterface, {"protocol", "transport", "port"}); }
 
-TEST(SwInterfaceEntry, AnAbsentElementKeepsItsField) {
-    const auto kept = preset<_InterfaceCaps>();
-    expectRead(swInterface, "<protocol>http</protocol>", true, {2, kept.transport, kept.port});
-    expectRead(swInterface, "<transport>udp</transport>", true, {kept.protocol, 0, kept.port});
-    expectRead(swInterface, "<port>80</port>", true, {kept.protocol, kept.transport, 80});
-}
-
-TEST(SwInterfaceEntry, WithoutTextAFieldIsKeptAndTheResultFalse) {
-    expectKeptWithoutText(swInterface, {"protocol", "transport", "port"});
-}
-
-TEST(SwInterfaceEntry, TheResultIsThatOfTheLastFieldAndTheLaterValueWins) {
-    const auto kept = preset<_InterfaceCaps>();
-    expectRead(swInterface, "<port>1</port><port>2</port><protocol/>", false, {kept.protocol, kept.transport, 2});
-    expectRead(swInterface, "<protocol/><port>1</port><note/>", true, {kept.protocol, kept.transport, 1});
-}
-
 TEST(SwInterfaceEntry, AnUnknownWordIsMinus1AndRead) {
     const auto kept = preset<_InterfaceCaps>();
     for (const char* word : {"SNMP", "https", "snmp_", "serial", "<b/>"}) {
@@ -157,21 +102,7 @@ TEST(OcpLanguageEntry, FillsItsFieldsInAnyOrder) {
 
 TEST(OcpLanguageEntry, NeedsElementsThatItKnows) { expectEntry(language, {"type", "name"}); }
 
-TEST(OcpLanguageEntry, AnAbsentElementKeepsItsField) {
-    expectRead(language, "<type>2</type>", true, {2, "preset"});
-    expectRead(language, "<name>x</name>", true, {preset<_OCPLanguageCaps>().type, "x"});
-}
-
-TEST(OcpLanguageEntry, WithoutTextAFieldIsKeptAndTheResultFalse) { expectKeptWithoutText(language, {"type", "name"}); }
-
-TEST(OcpLanguageEntry, TheResultIsThatOfTheLastFieldAndTheLaterValueWins) {
-    expectRead(language, "<name>a</name><name>b</name><type/>", false, {preset<_OCPLanguageCaps>().type, "b"});
-    expectRead(language, "<type/><name>a</name><note/>", true, {preset<_OCPLanguageCaps>().type, "a"});
-}
-
 TEST(OcpLanguageEntry, ItsTypeIsANumberAndNoWord) { expectRead(language, "<type>English</type>", true, {0, "preset"}); }
-
-TEST(OcpLanguageEntry, ANameTooLongIsCutAndReportedFalse) { expectCut(language, "name", &_OCPLanguageCaps::name); }
 
 // ---- Fonts ----
 
@@ -184,15 +115,6 @@ TEST(FontEntry, FillsItsFieldsInAnyOrder) {
 }
 
 TEST(FontEntry, NeedsElementsThatItKnows) { expectEntry(font, {"name", "scalable", "style"}); }
-
-TEST(FontEntry, AnAbsentElementKeepsItsField) {
-    const auto kept = preset<_FontCaps>();
-    expectRead(font, "<name>Sans</name>", true, {"Sans", true, kept.style});
-    expectRead(font, "<scalable>no</scalable>", true, {"preset", false, kept.style});
-    expectRead(font, "<style>regular</style>", true, {"preset", true, 1});
-}
-
-TEST(FontEntry, WithoutTextAFieldIsKeptAndTheResultFalse) { expectKeptWithoutText(font, {"name", "style"}); }
 
 TEST(FontEntry, WithoutTextScalableIsStoredAsFalseAndTheResultFalse) {
     expectRead(font, "<scalable/>", false, {"preset", false, preset<_FontCaps>().style});
@@ -215,17 +137,11 @@ TEST(FontEntry, EachStyleHasItsCodeAndAnUnknownOneIs0) {
     }
 }
 
-TEST(FontEntry, OfTwoNamesTheLaterWins) {
-    expectRead(font, "<name>Sans</name><name>yes</name>", true, {"yes", true, preset<_FontCaps>().style});
-}
-
 TEST(FontEntry, TheResultIsThatOfTheLastField) {
     const int style = preset<_FontCaps>().style;
     expectRead(font, "<name>Sans</name><style/>", false, {"Sans", true, style});
     expectRead(font, "<style/><name>Sans</name><note/>", true, {"Sans", true, style});
 }
-
-TEST(FontEntry, ANameTooLongIsCutAndReportedFalse) { expectCut(font, "name", &_FontCaps::name); }
 
 // ---- Templates and graphics ----
 
@@ -237,22 +153,6 @@ TEST(TemplateEntry, FillsItsFieldsInAnyOrder) {
 }
 
 TEST(TemplateEntry, NeedsElementsThatItKnows) { expectEntry(stored, {"name", "location"}); }
-
-TEST(TemplateEntry, AnAbsentElementKeepsItsField) {
-    expectRead(stored, "<name>badge</name>", true, {"badge", "in preset"});
-    expectRead(stored, "<location>flash</location>", true, {"preset", "flash"});
-}
-
-TEST(TemplateEntry, WithoutTextAFieldIsKeptAndTheResultFalse) { expectKeptWithoutText(stored, {"name", "location"}); }
-
-TEST(TemplateEntry, TheResultIsThatOfTheLastFieldAndTheLaterValueWins) {
-    expectRead(stored, "<name>a</name><name>b</name><location/>", false, {"b", "in preset"});
-    expectRead(stored, "<location/><name>a</name><note/>", true, {"a", "in preset"});
-}
-
-TEST(TemplateEntry, ANameTooLongIsCutAndReportedFalse) { expectCut(stored, "name", &_TemplateCaps::name); }
-
-TEST(TemplateEntry, ALocationTooLongIsCutAndReportedFalse) { expectCut(stored, "location", &_TemplateCaps::location); }
 
 // ---- Entries that are a text themselves ----
 

@@ -4,7 +4,6 @@
 #include <climits>
 #include <filesystem>
 #include <functional>
-#include <new>
 #include <string>
 #include <vector>
 
@@ -74,20 +73,6 @@ TEST(CapabilitiesReply, AnotherRootLeavesTheRecord) {
     }
     expectUntouched(element("reply", typeOne("capabilities")));
     expectUntouched("<print_type>1_side</print_type>");
-}
-
-TEST(CapabilitiesReply, WhatIsNoXmlLeavesTheRecord) {
-    for (const char* reply : {"", " ", "capabilities", "<", "<capabilities", "</capabilities>",
-                              "<!-- <capabilities><print_type>1_side</print_type></capabilities> -->"}) {
-        expectUntouched(reply);
-    }
-}
-
-TEST(CapabilitiesReply, ARootWithoutElementsLeavesTheRecord) {
-    for (const char* reply : {"<capabilities/>", "<capabilities></capabilities>", "<capabilities>text</capabilities>",
-                              "<capabilities print_type=\"1_side\"/>", "<get_capabilities/>"}) {
-        expectUntouched(reply);
-    }
 }
 
 // ---- The length ----

@@ -182,14 +182,6 @@ TEST(NumberSections, ANumberWithoutTextKeepsItsFieldAndIsFalse) {
     }
 }
 
-TEST(NumberSections, OfARepeatedNumberTheLaterWins) {
-    for (const auto& section : numberSections) {
-        for (const auto& [number, field] : section.numbers) {
-            expectRead(section.reader, element(number, "1") + element(number, "2") + "<note/>", true, is(field, 2));
-        }
-    }
-}
-
 TEST(MemorySection, FillsBothFieldsInAnyOrder) {
     for (const char* content : {"<ram>64</ram><flash>16</flash>", "<flash>16</flash><note/><ram>64</ram>"}) {
         expectRead(&KVJCapsParser::getMemoryCaps, content, true, is(&_Capabilities::ramSize, 64),

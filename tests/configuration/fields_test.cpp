@@ -102,10 +102,6 @@ TEST(Number, ThatIsNoneIs0) {
     forEachNumber([](const auto& field) { EXPECT_EQ(outcomeOf(field, "abc"), with(field, 0)) << field.name; });
 }
 
-TEST(Number, WithoutTextIsFalseAndKept) {
-    forEachNumber([](const auto& field) { EXPECT_EQ(outcomeOf(field, ""), untouched(field)) << field.name; });
-}
-
 TEST(Number, OfTheColoursHasNoRange) {
     _RGBINT colors{};
     EXPECT_TRUE(read(&P::getTricolorSettings, setting("red", "0", "100", "150"), colors));
@@ -170,10 +166,6 @@ TEST(Text, ThatDoesNotFitIsCutTerminatedAndFalse) {
             EXPECT_EQ(outcomeOf(field, std::string(length, 't')), withText(false, field, cut)) << field.name;
         }
     });
-}
-
-TEST(Text, WithoutTextIsFalseAndKept) {
-    forEachText([](const auto& field) { EXPECT_EQ(outcomeOf(field, ""), untouched(field)) << field.name; });
 }
 
 // ---- Flags ----

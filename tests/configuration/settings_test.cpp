@@ -230,14 +230,6 @@ TYPED_TEST(SettingsOf, TheyAreReadInAnyOrder) {
     this->expectRecord("all");
 }
 
-TYPED_TEST(SettingsOf, OfARepeatedOneTheLaterCounts) {
-    for (const auto& row : this->list) {
-        EXPECT_TRUE(this->readSection(setting(row.name, "1", "9", "5") + setting(row.name, "2", "8", "3"))) << row.name;
-        row.set(this->expected, 2, 8, 3);
-        this->expectRecord(row.name);
-    }
-}
-
 TYPED_TEST(SettingsOf, TheResultIsThatOfTheLastOne) {
     const std::string first = this->list[0].name;
     const std::string second = this->list[1].name;
@@ -245,17 +237,6 @@ TYPED_TEST(SettingsOf, TheResultIsThatOfTheLastOne) {
     EXPECT_TRUE(this->readSection(element(first, "") + element(second, "1")));
     EXPECT_TRUE(this->readSection(element(first, "1") + element("serial", "")));
     EXPECT_FALSE(this->readSection(element(first, "") + element("serial", "1")));
-}
-
-TYPED_TEST(SettingsOf, NamesAreExactAndOthersAreSkipped) {
-    std::string content = element("serial", "1");
-    for (const auto& row : this->list) {
-        const std::string name = row.name;
-        content += element(name + "_", "1") + element("any", element(name, "1")) +
-                   element(name.substr(0, name.size() - 1) + "X", "1");
-    }
-    EXPECT_FALSE(this->readSection(content));
-    this->expectRecord("others");
 }
 
 // ---- What is particular to one of them ----

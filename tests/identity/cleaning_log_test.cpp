@@ -153,22 +153,6 @@ TEST_F(CleaningLog, ChildrenThatAreNoCleaningsAreFalseAndFillNothing) {
 
 // ---- The reply ----
 
-TEST_F(CleaningLog, AHistoryWithoutChildrenIsFalseAndUntouched) {
-    EXPECT_FALSE(readChildren("", log.entries));
-    EXPECT_FALSE(readChildren("text", log.entries));
-    expectNumbered(0);
-}
-
-TEST_F(CleaningLog, TheRootOfAnotherMessageIsFalseAndUntouched) {
-    EXPECT_FALSE(read("<get_log_service_history>" + cleaning(1) + "</get_log_service_history>", log.entries));
-    EXPECT_FALSE(read("<get_log_Cleaning_history>" + cleaning(1) + "</get_log_Cleaning_history>", log.entries));
-    EXPECT_FALSE(
-        read("<reply><get_log_cleaning_history>" + cleaning(1) + "</get_log_cleaning_history></reply>", log.entries));
-    EXPECT_FALSE(read(cleaning(1), log.entries));
-    EXPECT_FALSE(read("", log.entries));
-    expectNumbered(0);
-}
-
 TEST_F(CleaningLog, ALengthShorterThanTheReplyCutsIt) {
     const std::string start = "<get_log_cleaning_history>" + cleaning(1);
     const std::wstring text = wide(start + cleaning(2) + "</get_log_cleaning_history>");

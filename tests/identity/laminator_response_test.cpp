@@ -68,15 +68,6 @@ TEST(LaminatorResponse, WithoutABufferIsFalse) {
     EXPECT_FALSE(KVJNDC().GetLaminatorResponse(*text.c_str(), static_cast<int>(text.size()), nullptr));
 }
 
-TEST(LaminatorResponse, OfAnotherRootIsFalseAndLeavesTheBuffer) {
-    std::string buffer = preset();
-    for (const char* reply : {"", "LAM OK", "<data>LAM OK</data>", "<LAM_NDC_RSP>LAM OK</LAM_NDC_RSP>",
-                              "<reply><lam_ndc_rsp>LAM OK</lam_ndc_rsp></reply>"}) {
-        EXPECT_FALSE(read(reply, buffer)) << reply;
-        EXPECT_EQ(buffer, preset()) << reply;
-    }
-}
-
 TEST(LaminatorResponse, BehindADeclarationIsFound) {
     std::string buffer = preset();
     EXPECT_TRUE(read("<?xml version=\"1.0\"?>\n<lam_ndc_rsp>LAM OK</lam_ndc_rsp>\n", buffer));

@@ -76,27 +76,6 @@ TEST_P(MagneticTrack, AloneLeavesTheOthersAsTheyWere) {
     EXPECT_EQ(bytesOf(tracks), presetWith(GetParam().offset, ";0004170000=3101?"));
 }
 
-TEST_P(MagneticTrack, ThatFillsItsFieldIsRead) {
-    __GETTRACK tracks = preset();
-    EXPECT_TRUE(readTrack(std::string(255, '7'), tracks));
-    EXPECT_EQ(bytesOf(tracks), presetWith(GetParam().offset, std::string(255, '7')));
-}
-
-TEST_P(MagneticTrack, ThatIsLongerThanItsFieldIsCutTerminatedAndFalse) {
-    for (const std::size_t length : {256U, 257U, 100000U}) {
-        __GETTRACK tracks = preset();
-        EXPECT_FALSE(readTrack(std::string(length, '7'), tracks)) << length;
-        EXPECT_EQ(bytesOf(tracks), presetWith(GetParam().offset, std::string(255, '7')));
-    }
-}
-
-TEST_P(MagneticTrack, WithoutTextKeepsItsValueAndIsFalse) {
-    __GETTRACK tracks = preset();
-    EXPECT_FALSE(readTrack("", tracks));
-    EXPECT_FALSE(readTrack(" ", tracks));
-    EXPECT_EQ(bytesOf(tracks), bytesOf(preset()));
-}
-
 TEST_P(MagneticTrack, OutsideAMagElementIsIgnored) {
     __GETTRACK tracks = preset();
     EXPECT_FALSE(readChildren(tag(GetParam().element, "7"), tracks));
@@ -142,33 +121,6 @@ TEST(MagneticTracks, TheResultIsThatOfTheLastKnownElement) {
 }
 
 // ---- The reply ----
-
-TEST(MagneticTracks, AReplyWithoutKnownElementsLeavesEveryTrackAndIsFalse) {
-    __GETTRACK tracks = preset();
-    EXPECT_FALSE(readChildren("<serial>1</serial>", tracks));
-    EXPECT_FALSE(readChildren("<mag><status>ok</status><Track1>1</Track1><track4>4</track4></mag>", tracks));
-    EXPECT_FALSE(readChildren("<Mag><track1>1</track1></Mag>", tracks));
-    EXPECT_EQ(bytesOf(tracks), bytesOf(preset()));
-}
-
-TEST(MagneticTracks, ARootOrMagElementWithoutChildrenIsFalseAndLeavesEveryTrack) {
-    __GETTRACK tracks = preset();
-    EXPECT_FALSE(read("<data/>", tracks));
-    EXPECT_FALSE(readChildren("text", tracks));
-    EXPECT_FALSE(readChildren("<mag/>", tracks));
-    EXPECT_FALSE(readChildren("<mag>text</mag>", tracks));
-    EXPECT_EQ(bytesOf(tracks), bytesOf(preset()));
-}
-
-TEST(MagneticTracks, TheRootOfAnotherMessageIsFalseAndLeavesEveryTrack) {
-    __GETTRACK tracks = preset();
-    for (const char* reply : {"", "7", "<mag><track1>1</track1></mag>", "<Data><mag><track1>1</track1></mag></Data>",
-                              "<lam_ndc_rsp><mag><track1>1</track1></mag></lam_ndc_rsp>",
-                              "<reply><data><mag><track1>1</track1></mag></data></reply>"}) {
-        EXPECT_FALSE(read(reply, tracks)) << reply;
-        EXPECT_EQ(bytesOf(tracks), bytesOf(preset())) << reply;
-    }
-}
 
 TEST(MagneticTracks, TheLengthOfTheReplyIsIgnored) {
     const std::string reply = "<data><mag><track2>;0004170000=3101?</track2></mag></data>";

@@ -126,12 +126,6 @@ TEST_P(PrinterIdText, IsUnescaped) {
     expectText("<&>");
 }
 
-TEST_P(PrinterIdText, ThatFillsItsFieldIsRead) {
-    const std::string longest(GetParam().capacity - 1, 'x');
-    EXPECT_TRUE(readText(longest));
-    expectText(longest);
-}
-
 TEST_P(PrinterIdText, ThatIsLongerIsCutToItsFieldAndFalse) {
     const std::string longest(GetParam().capacity - 1, 'x');
     for (const std::size_t more : {1U, 2U, 100'000U}) {

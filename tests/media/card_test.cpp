@@ -111,15 +111,6 @@ TEST(CardInformation, TheCoercivityIsTheCodeOfItsWordAnd0ForAnyOther) {
     expectInformation(element("coercivity", std::string(200, 'h')), true, [](_CardInfo& card) { card.coercivity = 0; });
 }
 
-TEST(CardInformation, ATextThatFillsItsFieldIsRead) {
-    const std::string number(15, 'n');
-    const std::string description(63, 'd');
-    expectInformation(element("vessa_part_number", number), true,
-                      [&](_CardInfo& card) { std::strcpy(card.partNumber, number.c_str()); });
-    expectInformation(element("description", description), true,
-                      [&](_CardInfo& card) { std::strcpy(card.description, description.c_str()); });
-}
-
 TEST(CardInformation, ALongerTextIsCutToItsFieldAndFalse) {
     for (const std::size_t more : {1U, 2U, 1000U}) {
         expectInformation(element("vessa_part_number", std::string(15 + more, 'n')), false,
@@ -288,13 +279,6 @@ TYPED_TEST(CardSettings, ATextThatIsNoNumberIs0) {
     });
 }
 
-TYPED_TEST(CardSettings, AnElementWithoutTextKeepsItsValueAndIsFalse) {
-    this->forEach([&](const std::string& name, auto) {
-        this->expectRead(without(name), false, nothing);
-        this->expectRead("<" + name + " min=\"60\" max=\"70\"/>", false, nothing);
-    });
-}
-
 TYPED_TEST(CardSettings, AllMayComeInAnyOrderAmongOthersAndTwice) {
     std::string content = "<unit>C</unit>";
     this->forEach([&](const std::string& name, auto) {
@@ -392,14 +376,6 @@ TEST(Card, HasWhatItsInformationSays) {
                    card.type = 2;
                    card.contactEncode = 1;
                });
-}
-
-TEST(Card, UnknownElementsAreSkipped) {
-    for (const char* content :
-         {"<type>1</type>", "<Information><type>1</type></Information>", "<lamination_adjustments/>", "<Cal_table/>",
-          "<top_single>57</top_single>", "<card><cal_table>1</cal_table></card>"}) {
-        expectCard(content, false, nothing);
-    }
 }
 
 TEST(Card, ALaterPartAddsToAnEarlierOneOfItsName) {

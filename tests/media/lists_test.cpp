@@ -134,11 +134,6 @@ TEST_P(MediaMedium, AMissingTextIsEmpty) {
     expectRead("", false, medium("", ""));
 }
 
-TEST_P(MediaMedium, ATextThatFillsItsFieldIsRead) {
-    expectRead(partNumber(std::string(15, 'n')) + description(std::string(63, 'd')), true,
-               medium(std::string(15, 'n'), std::string(63, 'd')));
-}
-
 TEST_P(MediaMedium, ALongerTextIsCutToItsFieldAndTheEntryKept) {
     for (const std::size_t more : {1U, 2U, 1000U}) {
         expectRead(partNumber(std::string(15 + more, 'n')), false, medium(std::string(15, 'n'), ""));

@@ -181,7 +181,9 @@ private:
             const std::string text(length, 'x');
             input(text, both(setText(*field_, text), andOther(text)));
         }
-        input(std::string(longest + 1, 'y'), setText(*field_, std::string(longest, 'y')), false);
+        for (const std::size_t length : {longest + 1, longest + 1000}) {
+            input(std::string(length, 'y'), setText(*field_, std::string(longest, 'y')), false);
+        }
     }
 
     Change codeToField(const char* text) { return setCode(*field_, codeOf(description().words.words, text)); }

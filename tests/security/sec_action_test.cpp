@@ -288,21 +288,6 @@ TEST(Directive, AFieldWithoutATerminatorIsNotReadBeyond) {
     EXPECT_EQ(std::string(reply.root()->FirstChildElement()->Attribute("model")), std::string(260, 'm'));
 }
 
-TEST(Directive, ADigestThatFillsItsFieldIsRead) {
-    _tagSecDirecXML directive = presetDirective();
-    EXPECT_TRUE(read(&KVJSecAction::ParseSecureDirectiveValues,
-                     "<action>x<hmac>" + std::string(259, 'h') + "</hmac></action>", directive));
-    EXPECT_EQ(directive.hmac, std::string(259, 'h'));
-}
-
-TEST(Directive, ADigestLongerThanItsFieldIsCutAndFalse) {
-    _tagSecDirecXML directive = presetDirective();
-    EXPECT_FALSE(read(&KVJSecAction::ParseSecureDirectiveValues,
-                      "<action>x<hmac>" + std::string(260, 'h') + "</hmac></action>", directive));
-    EXPECT_EQ(directive.hmac, std::string(259, 'h'));
-    EXPECT_STREQ(directive.nonce, "N");
-}
-
 TEST(SecureRequest, FillsNothingAndSetsTheAttributesOfTheReceivedElements) {
     Xml reply("<secure_action_request><action/><printer/></secure_action_request>");
     _tagSecReqXML request{"M", "S", "A", "N"};

@@ -135,35 +135,6 @@ TYPED_TEST(Counters, AreDecimalAndWhatIsNoNumberReadsAs0) {
     }
 }
 
-TYPED_TEST(Counters, WithoutTextAreFalseAndKept) {
-    for (const auto& name : this->names()) {
-        auto record = this->preset();
-        EXPECT_FALSE(this->readChildren(element(name, ""), record)) << name;
-        expectEqual(record, this->preset());
-    }
-}
-
-TYPED_TEST(Counters, AReplyWithoutKnownElementsLeavesEveryFieldAndIsFalse) {
-    auto record = this->preset();
-    EXPECT_FALSE(this->readChildren("<serial>1</serial><Total_Cards_Done>1</Total_Cards_Done>", record));
-    EXPECT_FALSE(this->readChildren("<LAMINATOR_TOTAL_UP_TIME>1</LAMINATOR_TOTAL_UP_TIME>", record));
-    EXPECT_FALSE(this->readChildren(element("group", element(this->names()[0], "1")), record));
-    EXPECT_FALSE(this->readChildren("", record));
-    EXPECT_FALSE(this->readChildren("text", record));
-    expectEqual(record, this->preset());
-}
-
-TYPED_TEST(Counters, AnotherRootIsFalseAndLeavesTheRecord) {
-    auto record = this->preset();
-    const std::string children = element(this->names()[0], "1");
-    for (const char* root : {"get_general_status", "Get_Count", "GET_LAMINATOR_UP_TIMES"}) {
-        EXPECT_FALSE(read(TypeParam::reader, element(root, children), record)) << root;
-    }
-    EXPECT_FALSE(read(TypeParam::reader, children, record));
-    EXPECT_FALSE(read(TypeParam::reader, element("reply", element(TypeParam::root, children)), record));
-    expectEqual(record, this->preset());
-}
-
 TYPED_TEST(Counters, TheResultIsThatOfTheLastKnownElement) {
     const auto names = this->names();
     auto record = this->preset();
@@ -173,13 +144,6 @@ TYPED_TEST(Counters, TheResultIsThatOfTheLastKnownElement) {
     EXPECT_TRUE(this->readChildren(element(names[0], "3") + "<serial/>", record));
     EXPECT_FALSE(this->readChildren(element(names[0], "") + "<serial>1</serial>", record));
     expectEqual(record, {3, 102, 103});
-}
-
-TYPED_TEST(Counters, OfARepeatedElementTheLaterValueWins) {
-    const auto name = this->names()[1];
-    auto record = this->preset();
-    EXPECT_TRUE(this->readChildren(element(name, "1") + element(name, "2"), record));
-    expectEqual(record, {101, 2, 103});
 }
 
 TYPED_TEST(Counters, TheWalkerReadsAnElementThatTheHostHolds) {
@@ -240,44 +204,6 @@ TEST(CleanLogCount, NeitherReaderTakesTheElementOfTheOther) {
     EXPECT_EQ(counts.totalCardsDone, 101U);
 }
 
-TEST(CleanLogCount, OfARepeatedElementTheLastCounts) {
-    int cards = -1;
-    EXPECT_TRUE(
-        readCleanLogCount("<total_cards_until_next_cleaning>1</total_cards_until_next_cleaning>"
-                          "<total_cards_until_next_cleaning>2</total_cards_until_next_cleaning><serial/>",
-                          cards));
-    EXPECT_EQ(cards, 2);
-    EXPECT_FALSE(
-        readCleanLogCount("<total_cards_until_next_cleaning>3</total_cards_until_next_cleaning>"
-                          "<total_cards_until_next_cleaning/>",
-                          cards));
-    EXPECT_EQ(cards, 3);
-    EXPECT_TRUE(
-        readCleanLogCount("<total_cards_until_next_cleaning/>"
-                          "<total_cards_until_next_cleaning>4</total_cards_until_next_cleaning>",
-                          cards));
-    EXPECT_EQ(cards, 4);
-}
-
-TEST(CleanLogCount, WithoutItsElementOrItsTextItIsFalseAndKept) {
-    int cards = -1;
-    for (const char* children : {"", "text", "<serial>1</serial>", "<total_cards_until_next_cleaning/>",
-                                 "<Total_cards_until_next_cleaning>1</Total_cards_until_next_cleaning>",
-                                 "<log><total_cards_until_next_cleaning>1</total_cards_until_next_cleaning></log>"}) {
-        EXPECT_FALSE(readCleanLogCount(children, cards)) << children;
-    }
-    EXPECT_EQ(cards, -1);
-}
-
-TEST(CleanLogCount, AnotherRootIsFalseAndLeavesTheCount) {
-    int cards = -1;
-    const std::string child = "<total_cards_until_next_cleaning>1</total_cards_until_next_cleaning>";
-    EXPECT_FALSE(read(&KVJStatusParser::ParseCleanLogCount, element("get_cleaning_status", child), cards));
-    EXPECT_FALSE(read(&KVJStatusParser::ParseCleanLogCount, element("Get_count", child), cards));
-    EXPECT_FALSE(read(&KVJStatusParser::ParseCleanLogCount, child, cards));
-    EXPECT_EQ(cards, -1);
-}
-
 TEST(CleanLogCount, TheWalkerReadsAnElementThatTheHostHolds) {
     KVJStatusParser parser;
     int cards = -1;
@@ -329,31 +255,6 @@ TEST(FreeMemory, EachReaderTakesItsOwnMessageOnly) {
     }
 }
 
-TEST(FreeMemory, OfARepeatedElementTheLastCounts) {
-    for (const auto& [root, reader] : memoryMessages) {
-        __MEMORY memory{101};
-        EXPECT_TRUE(read(reader, element(root, "<bytes_free>1</bytes_free><bytes_free>2</bytes_free><x/>"), memory));
-        EXPECT_EQ(memory.bytesFree, 2U) << root;
-        EXPECT_FALSE(read(reader, element(root, "<bytes_free>3</bytes_free><bytes_free/>"), memory));
-        EXPECT_EQ(memory.bytesFree, 3U) << root;
-        EXPECT_TRUE(read(reader, element(root, "<bytes_free/><bytes_free>4</bytes_free>"), memory));
-        EXPECT_EQ(memory.bytesFree, 4U) << root;
-    }
-}
-
-TEST(FreeMemory, WithoutItsElementOrItsTextItIsFalseAndKept) {
-    for (const auto& [root, reader] : memoryMessages) {
-        __MEMORY memory{101};
-        for (const char* children : {"", "text", "<bytes_used>1</bytes_used>", "<bytes_free/>",
-                                     "<Bytes_free>1</Bytes_free>", "<ram><bytes_free>1</bytes_free></ram>"}) {
-            EXPECT_FALSE(read(reader, element(root, children), memory)) << root << ' ' << children;
-        }
-        EXPECT_FALSE(read(reader, "<Get_Free_Ram><bytes_free>1</bytes_free></Get_Free_Ram>", memory));
-        EXPECT_FALSE(read(reader, "<bytes_free>1</bytes_free>", memory));
-        EXPECT_EQ(memory.bytesFree, 101U) << root;
-    }
-}
-
 TEST(FreeMemory, TheWalkerReadsAnElementThatTheHostHolds) {
     KVJStatusParser parser;
     __MEMORY memory{101};
@@ -380,36 +281,6 @@ TEST(CleaningStatus, RemoveCardsIs3CleaningIs0AndAnUnknownWord10) {
         EXPECT_TRUE(readCleaning(element("cleaning_status", word), status));
         EXPECT_EQ(status.cleaningState, code);
     }
-}
-
-TEST(CleaningStatus, OfARepeatedElementTheLastCounts) {
-    KVCleaningStatus status{-1};
-    EXPECT_TRUE(readCleaning(
-        "<cleaning_status>remove_ribbon</cleaning_status><cleaning_status>cleaning</cleaning_status><x/>", status));
-    EXPECT_EQ(status.cleaningState, 0);
-    EXPECT_FALSE(readCleaning("<cleaning_status>remove_ribbon</cleaning_status><cleaning_status/>", status));
-    EXPECT_EQ(status.cleaningState, 2);
-    EXPECT_TRUE(readCleaning("<cleaning_status/><cleaning_status>reload_ribbon</cleaning_status>", status));
-    EXPECT_EQ(status.cleaningState, 6);
-}
-
-TEST(CleaningStatus, WithoutItsElementOrItsTextItIsFalseAndKept) {
-    KVCleaningStatus status{-1};
-    for (const char* children :
-         {"", "cleaning", "<state>cleaning</state>", "<cleaning_status/>", "<cleaning_status></cleaning_status>",
-          "<Cleaning_Status>cleaning</Cleaning_Status>", "<x><cleaning_status>cleaning</cleaning_status></x>"}) {
-        EXPECT_FALSE(readCleaning(children, status)) << children;
-    }
-    EXPECT_EQ(status.cleaningState, -1);
-}
-
-TEST(CleaningStatus, AnotherRootIsFalseAndLeavesTheState) {
-    KVCleaningStatus status{-1};
-    const std::string child = "<cleaning_status>cleaning</cleaning_status>";
-    EXPECT_FALSE(read(&KVJStatusParser::ParseCleaningStatus, element("get_general_status", child), status));
-    EXPECT_FALSE(read(&KVJStatusParser::ParseCleaningStatus, element("Get_cleaning_status", child), status));
-    EXPECT_FALSE(read(&KVJStatusParser::ParseCleaningStatus, child, status));
-    EXPECT_EQ(status.cleaningState, -1);
 }
 
 }  // namespace

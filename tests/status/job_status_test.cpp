@@ -57,21 +57,6 @@ TEST(JobStatus, ReadsTheReplyThatAPrintingPrinterSends) {
     expectEqual(status, {1042, "u", true, 1, 2, 0, 6, 19, 0, 0, 26, 0});
 }
 
-TEST(JobStatus, AReplyWithoutKnownElementsLeavesEveryFieldAndIsFalse) {
-    KVJobStatus status = preset();
-    EXPECT_FALSE(readChildren("<serial>1</serial>", status));
-    EXPECT_FALSE(readChildren("", status));
-    EXPECT_FALSE(read("<get_job_status/>", status));
-    expectEqual(status, preset());
-}
-
-TEST(JobStatus, TheRootOfAnotherMessageIsFalseAndLeavesTheRecord) {
-    KVJobStatus status = preset();
-    EXPECT_FALSE(read("<get_general_status><action_id>1</action_id></get_general_status>", status));
-    EXPECT_FALSE(read("<get_Job_status><action_id>1</action_id></get_Job_status>", status));
-    expectEqual(status, preset());
-}
-
 TEST(JobStatus, TheActionIdHas16Bits) {
     KVJobStatus status{};
     EXPECT_TRUE(readChildren("<action_id>70000</action_id>", status));
@@ -82,29 +67,6 @@ TEST(JobStatus, TheErrorCodeHas16Bits) {
     KVJobStatus status{};
     EXPECT_TRUE(readChildren("<status_printing><error_code>65538</error_code></status_printing>", status));
     EXPECT_EQ(status.errorCode, 2);
-}
-
-TEST(JobStatus, AUuidThatFillsItsFieldIsRead) {
-    KVJobStatus status = preset();
-    EXPECT_TRUE(readChildren("<uuid>" + std::string(39, 'u') + "</uuid>", status));
-    EXPECT_EQ(status.uuid, std::string(39, 'u'));
-}
-
-TEST(JobStatus, AUuidLongerThanItsFieldIsCutTerminatedAndFalse) {
-    for (const std::size_t length : {std::size_t{40}, std::size_t{41}, std::size_t{100000}}) {
-        KVJobStatus status = preset();
-        EXPECT_FALSE(readChildren("<uuid>" + std::string(length, 'u') + "</uuid>", status));
-        KVJobStatus expected = preset();
-        std::memset(expected.uuid, 'u', 39);
-        expected.uuid[39] = '\0';
-        expectEqual(status, expected);
-    }
-}
-
-TEST(JobStatus, AUuidWithoutTextIsFalseAndKeepsItsValue) {
-    KVJobStatus status = preset();
-    EXPECT_FALSE(readChildren("<uuid/>", status));
-    expectEqual(status, preset());
 }
 
 TEST(JobStatus, ReadyForNextJobIsTrueForExactlyYes) {
@@ -129,16 +91,6 @@ TEST(JobStatus, ReadyForNextJobWithoutTextBeforeAnotherElementIsStoredAsFalseAnd
     EXPECT_TRUE(readChildren("<ready_for_next_job/><action_id>1</action_id>", status));
     EXPECT_FALSE(status.readyForNextJob);
     EXPECT_EQ(status.actionId, 1U);
-}
-
-TEST(JobStatus, ANumberWithoutTextIsFalseAndKeepsItsValue) {
-    for (const char* element : {"<action_id/>", "<status_printing><copies_done/></status_printing>",
-                                "<status_printing><copies_total_specified/></status_printing>",
-                                "<status_printing><error_code/></status_printing>"}) {
-        KVJobStatus status = preset();
-        EXPECT_FALSE(readChildren("<uuid>preset</uuid>" + std::string(element), status)) << element;
-        expectEqual(status, preset());
-    }
 }
 
 TEST(JobStatus, AnUnknownWordIsMinus1AndOfTheLaminator0) {
@@ -170,26 +122,6 @@ TEST(JobStatus, LaminatingAndLaminateAreTwoStates) {
                      status));
     EXPECT_EQ(status.printState, 41);
     EXPECT_EQ(status.positionInTransport, 39);
-}
-
-TEST(JobStatus, StatesWithoutTextAreFalseAndKeepTheirValues) {
-    for (const char* group :
-         {"<status_printing><print_state/></status_printing>",
-          "<status_printing><position_in_transport/></status_printing>",
-          "<status_printing><laminator_state/></status_printing>", "<status_mag><mag_state/></status_mag>",
-          "<status_contact><contact_state/></status_contact>",
-          "<status_contactless><contactless_state/></status_contactless>"}) {
-        KVJobStatus status = preset();
-        EXPECT_FALSE(readChildren(group, status)) << group;
-        expectEqual(status, preset());
-    }
-}
-
-TEST(JobStatus, AnEmptyPrintingGroupAtTheEndIsFalseAndChangesNothing) {
-    KVJobStatus status = preset();
-    EXPECT_FALSE(readChildren("<action_id>101</action_id><status_printing/>", status));
-    expectEqual(status, preset());
-    EXPECT_TRUE(readChildren("<status_printing/><action_id>101</action_id>", status));
 }
 
 TEST(JobStatus, AnyEncodingGroupCarriesAnyOfTheThreeStates) {

@@ -1,7 +1,6 @@
 // The raw readings of the reply "get_sensor_status": every sensor by itself, and the groups that they sit in.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -120,11 +119,6 @@ protected:
     static bool readGroup(const std::string& content, KVSensorInfo& sensors) {
         return readChildren(inside(GetParam().group, content), sensors);
     }
-    static void expectUntouched(const std::string& content) {
-        KVSensorInfo sensors = preset();
-        EXPECT_FALSE(readGroup(content, sensors)) << content;
-        expectEqual(sensors, preset());
-    }
 };
 
 INSTANTIATE_TEST_SUITE_P(SensorInfo, SensorReading, testing::ValuesIn(sensorTable),
@@ -142,26 +136,6 @@ TEST_P(SensorReading, IsTheNumberInItsAttribute) {
     }
 }
 
-TEST_P(SensorReading, IsNotTheTextOfItsElement) {
-    KVSensorInfo sensors = preset();
-    EXPECT_TRUE(readGroup("<" + GetParam().element + " " + GetParam().attribute + "='7'>8</" + GetParam().element + ">",
-                          sensors));
-    EXPECT_EQ(sensors.*GetParam().field, 7);
-    expectUntouched(tag(GetParam().element, "8"));
-}
-
-TEST_P(SensorReading, IsNotInAnotherAttribute) {
-    for (const std::string name : {"reading", "adc_value", "count", "value", "READING", "Count"}) {
-        if (name != GetParam().attribute) expectUntouched(GetParam().with(name, "1"));
-    }
-}
-
-TEST_P(SensorReading, WithoutItsAttributeKeepsItsValueAndIsFalse) { expectUntouched("<" + GetParam().element + "/>"); }
-
-TEST_P(SensorReading, ThatIsNoNumberKeepsItsValueAndIsFalse) {
-    for (const char* value : {"", " ", "open", "x1", "-"}) expectUntouched(GetParam().with(value));
-}
-
 TEST_P(SensorReading, CountsInItsOwnGroupOnly) {
     for (const Path& group : {Path{}, inputOutput, cardPath, doors, positioning, webMedia, ribbon, color, film}) {
         if (group == GetParam().group) continue;
@@ -169,12 +143,6 @@ TEST_P(SensorReading, CountsInItsOwnGroupOnly) {
         EXPECT_FALSE(readChildren(inside(group, GetParam().with("1")), sensors)) << inside(group, "");
         expectEqual(sensors, preset());
     }
-}
-
-TEST_P(SensorReading, OfARepeatedElementIsTheLater) {
-    KVSensorInfo sensors = preset();
-    EXPECT_TRUE(readGroup(GetParam().with("1") + GetParam().with("2"), sensors));
-    EXPECT_EQ(sensors.*GetParam().field, 2);
 }
 
 // ---- What a printer may send ----
@@ -216,27 +184,6 @@ TEST(SensorInfo, AReadingIsTheNumberThatItsAttributeBeginsWith) {
     }
 }
 
-TEST(SensorInfo, AReplyWithoutKnownElementsLeavesEveryFieldAndIsFalse) {
-    KVSensorInfo sensors = preset();
-    EXPECT_FALSE(readChildren("<serial reading=\"1\"/>", sensors));
-    EXPECT_FALSE(readChildren("<sensor_states><door_open>no</door_open></sensor_states>", sensors));
-    for (const Path& group : {inputOutput, cardPath, doors, positioning, webMedia, ribbon, color, film}) {
-        EXPECT_FALSE(readChildren(inside(group, "<lid_open reading=\"1\"/>"), sensors)) << inside(group, "");
-    }
-    expectEqual(sensors, preset());
-}
-
-TEST(SensorInfo, ARootOrGroupWithoutChildrenLeavesEveryFieldAndIsFalse) {
-    KVSensorInfo sensors = preset();
-    EXPECT_FALSE(read("<get_sensor_status/>", sensors));
-    EXPECT_FALSE(readChildren("text", sensors));
-    for (const Path& group : {inputOutput, cardPath, doors, positioning, webMedia, ribbon, color, film}) {
-        EXPECT_FALSE(readChildren(inside(group, ""), sensors)) << inside(group, "");
-        EXPECT_FALSE(readChildren(inside(group, "1"), sensors)) << inside(group, "1");
-    }
-    expectEqual(sensors, preset());
-}
-
 TEST(SensorInfo, AnEmptyGroupAtTheEndIsFalseAndTheReadingsBeforeItStay) {
     for (const Path& group : {inputOutput, cardPath, positioning, webMedia, ribbon, color, film}) {
         KVSensorInfo sensors = preset();
@@ -245,17 +192,6 @@ TEST(SensorInfo, AnEmptyGroupAtTheEndIsFalseAndTheReadingsBeforeItStay) {
         expected.headOpen = 1;
         expectEqual(sensors, expected);
     }
-}
-
-TEST(SensorInfo, TheRootOfAnotherMessageIsFalseAndLeavesTheRecord) {
-    const std::string group = "<doors><head_open reading=\"1\"/></doors>";
-    KVSensorInfo sensors = preset();
-    EXPECT_FALSE(read(tag("get_general_status", group), sensors));
-    EXPECT_FALSE(read(tag("GET_SENSOR_STATUS", group), sensors));
-    EXPECT_FALSE(read(tag("reply", tag("get_sensor_status", group)), sensors));
-    EXPECT_FALSE(read(group, sensors));
-    EXPECT_FALSE(read("", sensors));
-    expectEqual(sensors, preset());
 }
 
 TEST(SensorInfo, NamesAreComparedWithCase) {

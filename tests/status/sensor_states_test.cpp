@@ -139,43 +139,12 @@ TEST_P(SensorStateWord, IsKeptAsItIs) {
     }
 }
 
-TEST_P(SensorStateWord, ThatFillsItsFieldIsRead) {
-    const std::string word(GetParam().capacity - 1, 'w');
-    _KVPrinterSensorInfo states = preset();
-    EXPECT_TRUE(readWord(word, states));
-    EXPECT_EQ(bytesOf(states), presetWith(word));
-}
-
-TEST_P(SensorStateWord, ThatIsLongerThanItsFieldIsCutTerminatedAndFalse) {
-    const std::string cut(GetParam().capacity - 1, 'w');
-    for (const std::size_t excess : {1U, 2U, 100000U}) {
-        _KVPrinterSensorInfo states = preset();
-        EXPECT_FALSE(readWord(cut + std::string(excess, 'w'), states)) << excess;
-        EXPECT_EQ(bytesOf(states), presetWith(cut));
-    }
-}
-
-TEST_P(SensorStateWord, WithoutTextKeepsItsValueAndIsFalse) {
-    for (const char* word : {"", " ", "\n"}) {
-        _KVPrinterSensorInfo states = preset();
-        EXPECT_FALSE(readWord(word, states));
-        expectEqual(states, preset());
-    }
-}
-
 TEST_P(SensorStateWord, OutsideItsGroupIsIgnored) {
     _KVPrinterSensorInfo states = preset();
     EXPECT_FALSE(readChildren(tag(GetParam().element, "yes"), states));
     EXPECT_FALSE(readChildren(tag("sensor_values", tag(GetParam().element, "yes")), states));
     EXPECT_FALSE(readStates(tag("group", tag(GetParam().element, "yes")), states));
     expectEqual(states, preset());
-}
-
-TEST_P(SensorStateWord, OfARepeatedElementIsTheLater) {
-    _KVPrinterSensorInfo states = preset();
-    EXPECT_TRUE(readStates(tag(GetParam().element, "yes") + tag(GetParam().element, "no"), states));
-    // The terminator of the longer word is still there after that of the shorter one.
-    EXPECT_EQ(bytesOf(states), bytesOf(preset()).replace(GetParam().offset, 4, std::string("no\0\0", 4)));
 }
 
 // ---- Groups ----
@@ -211,36 +180,6 @@ TEST(SensorStates, StatesMayComeInAnyOrder) {
     std::strcpy(expected.optionMagBlocked, "no");
     std::strcpy(expected.ribbonTakeupEncoder, "slow");
     expectEqual(states, expected);
-}
-
-TEST(SensorStates, AReplyWithoutKnownElementsLeavesEveryFieldAndIsFalse) {
-    _KVPrinterSensorInfo states = preset();
-    EXPECT_FALSE(readChildren("<serial>1</serial>", states));
-    EXPECT_FALSE(readStates("<lid_open>yes</lid_open>", states));
-    EXPECT_FALSE(readStates("<Door_open>yes</Door_open><DOOR_OPEN>yes</DOOR_OPEN>", states));
-    EXPECT_FALSE(readChildren("<Sensor_States><door_open>yes</door_open></Sensor_States>", states));
-    expectEqual(states, preset());
-}
-
-TEST(SensorStates, ARootOrGroupWithoutChildrenLeavesEveryFieldAndIsFalse) {
-    _KVPrinterSensorInfo states = preset();
-    EXPECT_FALSE(read("<get_sensor_status/>", states));
-    EXPECT_FALSE(readChildren("yes", states));
-    EXPECT_FALSE(readStates("", states));
-    EXPECT_FALSE(readStates("yes", states));
-    expectEqual(states, preset());
-}
-
-TEST(SensorStates, TheRootOfAnotherMessageIsFalseAndLeavesTheRecord) {
-    const std::string group = "<sensor_states><door_open>yes</door_open></sensor_states>";
-    _KVPrinterSensorInfo states = preset();
-    EXPECT_FALSE(read(tag("get_general_status", group), states));
-    EXPECT_FALSE(read(tag("get_Sensor_status", group), states));
-    EXPECT_FALSE(read(tag("reply", tag("get_sensor_status", group)), states));
-    EXPECT_FALSE(read(group, states));
-    EXPECT_FALSE(read("", states));
-    EXPECT_FALSE(read("yes", states));
-    expectEqual(states, preset());
 }
 
 TEST(SensorStates, TheResultIsThatOfTheLastKnownElementOfTheLastGroup) {

@@ -133,16 +133,6 @@ TEST_P(SensorSwitch, IsTrueForAWordLongerThanAny) {
     EXPECT_TRUE(sensors.*GetParam().flag);
 }
 
-TEST_P(SensorSwitch, KeepsItsValueWithoutTextAndIsFalse) {
-    for (const bool before : {false, true}) {
-        for (const char* content : {"", " ", "\n"}) {
-            _SENSOR sensors = preset(before);
-            EXPECT_FALSE(readStates(tag(GetParam().element, content), sensors));
-            expectEqual(sensors, preset(before));
-        }
-    }
-}
-
 TEST_P(SensorSwitch, IsReadInItsGroupOnly) {
     _SENSOR sensors = preset();
     EXPECT_FALSE(readChildren(tag(GetParam().element, GetParam().offWord), sensors));
@@ -204,13 +194,6 @@ TEST_P(SensorNumber, IsDecimal) {
     }
 }
 
-TEST_P(SensorNumber, KeepsItsValueWithoutTextAndIsFalse) {
-    _SENSOR sensors = preset();
-    EXPECT_FALSE(readInGroup(GetParam().group, "", sensors));
-    EXPECT_FALSE(readInGroup(GetParam().group, " ", sensors));
-    expectEqual(sensors, preset());
-}
-
 TEST_P(SensorNumber, IsReadInItsGroupOnly) {
     const bool isState = std::string_view(GetParam().group) == "sensor_states";
     _SENSOR sensors = preset();
@@ -230,12 +213,6 @@ TEST(SensorStatus, TheSupplyVoltageHasDecimals) {
         expected.voltage24 = value;
         expectEqual(sensors, expected);
     }
-}
-
-TEST(SensorStatus, TheSupplyVoltageWithoutTextKeepsItsValueAndIsFalse) {
-    _SENSOR sensors = preset();
-    EXPECT_FALSE(readValues("<voltage_24/>", sensors));
-    expectEqual(sensors, preset());
 }
 
 TEST(SensorStatus, ARawVoltageOf24Point35Is24) {
@@ -277,27 +254,6 @@ TEST_P(SensorText, IsKeptAsItIs) {
     }
 }
 
-TEST_P(SensorText, ThatIsLongerThanItsFieldIsCutTerminatedAndFalse) {
-    for (const std::size_t length : {std::size_t{32}, std::size_t{33}, std::size_t{100000}}) {
-        // Every byte of the record is 1, that of a switch as well, so that one written beside the field shows.
-        _SENSOR sensors;
-        _SENSOR expected;
-        std::memset(&sensors, 1, sizeof sensors);
-        std::memset(&expected, 1, sizeof expected);
-        EXPECT_FALSE(readStates(tag(GetParam().element, std::string(length, 't')), sensors)) << length;
-        std::memset(expected.*GetParam().field, 't', 31);
-        (expected.*GetParam().field)[31] = '\0';
-        EXPECT_EQ(std::memcmp(&sensors, &expected, sizeof sensors), 0) << length;
-    }
-}
-
-TEST_P(SensorText, KeepsItsValueWithoutTextAndIsFalse) {
-    _SENSOR sensors = preset();
-    EXPECT_FALSE(readStates(tag(GetParam().element, ""), sensors));
-    EXPECT_FALSE(readStates(tag(GetParam().element, " "), sensors));
-    expectEqual(sensors, preset());
-}
-
 TEST_P(SensorText, IsReadInItsGroupOnly) {
     _SENSOR sensors = preset();
     EXPECT_FALSE(readChildren(tag(GetParam().element, "cyan"), sensors));
@@ -306,38 +262,6 @@ TEST_P(SensorText, IsReadInItsGroupOnly) {
 }
 
 // ---- Groups ----
-
-TEST(SensorStatus, AReplyWithoutKnownElementsLeavesEveryFieldAndIsFalse) {
-    for (const bool before : {false, true}) {
-        _SENSOR sensors = preset(before);
-        EXPECT_FALSE(readChildren("<serial>1</serial>", sensors));
-        EXPECT_FALSE(readStates("<lid_open>yes</lid_open>", sensors));
-        EXPECT_FALSE(readValues("<humidity>41</humidity>", sensors));
-        expectEqual(sensors, preset(before));
-    }
-}
-
-TEST(SensorStatus, ARootOrGroupWithoutChildrenLeavesEveryFieldAndIsFalse) {
-    _SENSOR sensors = preset();
-    EXPECT_FALSE(read("<get_sensor_status/>", sensors));
-    EXPECT_FALSE(readChildren("text", sensors));
-    EXPECT_FALSE(readStates("", sensors));
-    EXPECT_FALSE(readStates("yes", sensors));
-    EXPECT_FALSE(readValues("", sensors));
-    EXPECT_FALSE(readValues("24", sensors));
-    expectEqual(sensors, preset());
-}
-
-TEST(SensorStatus, TheRootOfAnotherMessageIsFalseAndLeavesTheRecord) {
-    const std::string states = "<sensor_states><tricolor_error>1</tricolor_error></sensor_states>";
-    _SENSOR sensors = preset();
-    EXPECT_FALSE(read(tag("get_general_status", states), sensors));
-    EXPECT_FALSE(read(tag("Get_Sensor_Status", states), sensors));
-    EXPECT_FALSE(read(tag("reply", tag("get_sensor_status", states)), sensors));
-    EXPECT_FALSE(read(states, sensors));
-    EXPECT_FALSE(read("", sensors));
-    expectEqual(sensors, preset());
-}
 
 TEST(SensorStatus, GroupNamesAreComparedWithCase) {
     _SENSOR sensors = preset();
