@@ -104,7 +104,8 @@ constexpr HostList serviceLists[] = {list<&Kavrin::_tagLogServiceXML::entries, i
 template <auto Array, const auto& Table>
 constexpr HostList section(bool isOneEntry = false) {
     const auto& rows = described<capabilities::whole>;
-    const auto row = std::ranges::find(rows, nameOf<Array>(), [](const auto& each) { return each.description.field.name; });
+    const auto row =
+        std::ranges::find(rows, nameOf<Array>(), [](const auto& each) { return each.description.field.name; });
     return list<Array, Table>(row->name, isOneEntry);
 }
 
