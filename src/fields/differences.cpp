@@ -20,7 +20,8 @@ std::string shown(const Field& field, const void* record) {
         case FieldType::decimal: {
             // All digits, so that neighbours differ.
             char digits[64];
-            std::snprintf(digits, sizeof digits, "%a", static_cast<double>(valueOf<float>(field, record)));
+            static_cast<void>(
+                std::snprintf(digits, sizeof digits, "%a", static_cast<double>(valueOf<float>(field, record))));
             return digits;
         }
         case FieldType::text:

@@ -215,6 +215,7 @@ inline constexpr std::size_t initializersOf<Value[N]> = N* initializersOf<Value>
 template <auto Member>
 struct FieldTraits {
     static constexpr std::size_t initializers = initializersOf<ValueOf<Member>>;
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): likewise.
     static constexpr std::size_t bytes = sizeof(ValueOf<Member>);
     template <class Entry>
     static constexpr Field of(std::type_identity<std::vector<Entry*>*> /*list*/) {
@@ -238,6 +239,7 @@ struct FieldTraits<List> {
     static constexpr std::size_t bytes = sizeof(ValueOf<Count>) + sizeof(ValueOf<Array>);
     static constexpr Field field{.name = nameOf<Array>(),
                                  .type = FieldType::list,
+                                 // NOLINTNEXTLINE(bugprone-sizeof-expression): likewise.
                                  .size = sizeof(ValueOf<Array>),
                                  .entries = &arrayEntriesOf<Count, Array, ShowsCount>,
                                  .at = addressOf<Array>};

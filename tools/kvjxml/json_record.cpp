@@ -29,7 +29,9 @@ void printNumber(JsonPrinter& json, const Field& field, const void* record) {
     }
 }
 
-// Records nest as deep as they are declared, so the recursion ends. NOLINTNEXTLINE(misc-no-recursion)
+// Records nest as deep as they are declared, so the recursion ends.
+// NOLINTBEGIN(misc-no-recursion)
+
 void printEntries(JsonPrinter& json, const Entries& entries, const void* record) {
     json.list([&] {
         const std::size_t count = countOf(entries, record);
@@ -42,7 +44,6 @@ void printEntries(JsonPrinter& json, const Entries& entries, const void* record)
 
 }  // namespace
 
-// NOLINTNEXTLINE(misc-no-recursion): likewise.
 void print(JsonPrinter& json, const Field& field, const void* record) {
     switch (field.type) {
         case FieldType::flag:
@@ -63,9 +64,8 @@ void print(JsonPrinter& json, const Field& field, const void* record) {
             return json.value(valueOf<const char*>(field, record));
         case FieldType::record: {
             const void* const inner = field.at(record);
-            return printRecord(json, *field.record, inner, [&](const Field& list) {  // NOLINT(misc-no-recursion)
-                printEntries(json, *list.entries, inner);
-            });
+            return printRecord(json, *field.record, inner,
+                               [&](const Field& list) { printEntries(json, *list.entries, inner); });
         }
         case FieldType::list:
             return printEntries(json, *field.entries, record);
@@ -81,7 +81,6 @@ std::byte* makeArray(std::size_t size, Arrays& arrays) {
     return arrays.emplace_back(std::make_shared<std::byte[]>(size)).get();
 }
 
-// NOLINTNEXTLINE(misc-no-recursion): likewise.
 void readEntries(const Place& place, const Entries& entries, void* record, Arrays& arrays) {
     const std::size_t count = place.expectList();
     const Field& entry = *entries.entry;
@@ -110,7 +109,6 @@ const char* readHostText(const Place& place, const Field& field, Arrays& arrays)
     return text;
 }
 
-// NOLINTNEXTLINE(misc-no-recursion): likewise.
 void read(const Place& place, const Field& field, void* record, Arrays& arrays) {
     switch (field.type) {
         case FieldType::flag:
@@ -141,7 +139,6 @@ void read(const Place& place, const Field& field, void* record, Arrays& arrays) 
 
 }  // namespace
 
-// NOLINTNEXTLINE(misc-no-recursion): likewise.
 void readRecord(const Place& place, const RecordType& type, void* record, const Names& needed, Arrays& arrays) {
     place.expectObject();
     for (const auto& [name, value] : place.value().items()) {
@@ -153,5 +150,7 @@ void readRecord(const Place& place, const RecordType& type, void* record, const 
         if (place.has(field.name) || needed.contains(field.name)) read(place.at(field.name), field, record, arrays);
     }
 }
+
+// NOLINTEND(misc-no-recursion)
 
 }  // namespace kvjxml::tool
