@@ -78,7 +78,8 @@ TEST(Reference, NoTwoTablesOfWordsHaveOneName) {
 
 TEST(Reference, EveryTableOfWordsIsThereOnce) {
     std::map<std::string, int> headings;
-    for (const auto& heading : matchesOf(runTool("messages").out, std::regex("\n### ([^\n]+)"))) ++headings[heading[1]];
+    const std::string reference = runTool("messages").out;
+    for (const auto& heading : matchesOf(reference, std::regex("\n### ([^\n]+)"))) ++headings[heading[1]];
     for (const auto& [name, count] : headings) EXPECT_EQ(count, 1) << name;
     EXPECT_EQ(headings.count("configuration::securityWords"), 1U);
     EXPECT_EQ(headings.count("status::securityWords"), 1U);
