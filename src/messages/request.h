@@ -12,7 +12,7 @@
 
 namespace kvjxml {
 
-/// What a host says beside the record.
+/// What a host says besides the record.
 struct Choices {
     long sections = 0;             ///< their bits
     int card = 0;                  ///< of the configuration: one custom card alone
@@ -34,9 +34,9 @@ struct WrittenFields {
 
 /// Where a host wants its text. A composer takes one of the two forms.
 struct RequestBuffer {
-    char* narrow;
+    char* narrow;  ///< **Whatever the capacity**, it has to hold the whole text: see KVJDeviceControl.
     wchar_t* wide;
-    int capacity;  ///< in characters
+    int capacity;  ///< in characters; a longer wide text is cut, without a terminator
 };
 
 struct Request {

@@ -140,6 +140,9 @@ TEST(Encode, ALongTextIsWrittenWhole) {
     for (std::size_t i = 0; i < quotes.size(); ++i) escaped += "&apos;";
     EXPECT_EQ(runTool("encode passkey", "{\"passkey\":\"" + quotes + "\"}").out,
               declaration + "<passkey>" + escaped + "</passkey>\n");
+    const std::string camera(100000, 'c');
+    EXPECT_EQ(runTool("encode cam", "{\"cam\":\"" + camera + "\",\"state\":\"up\"}").out,
+              declaration + "<device_control>\n    <cam state=\"up\">" + camera + "</cam>\n</device_control>\n");
     EXPECT_THAT(runTool("encode cam", "{\"cam\":\"" + quotes + "\",\"state\":\"up\"}").out, HasSubstr(escaped));
 }
 

@@ -47,29 +47,23 @@ std::string toUtf8(const std::vector<wchar_t>& text) {
     return bytes;
 }
 
-/// The text of a request, of whatever length: `compose(out)` is called with buffers that grow until it fits. Empty when
-/// the library composed none.
-template <class Character, class Compose>
-std::vector<Character> grown(Compose compose) {
+/// Wide text, in a buffer that is made larger until the text fits. Empty when the library composed none.
+std::string wideText(const Request& request, const Choices& choices, const void* record) {
     constexpr std::size_t usual = 65536;
     for (std::size_t capacity = usual;; capacity *= 4) {
-        std::vector<Character> out(capacity);
-        if (!compose(out.data(), static_cast<int>(capacity))) return {};
-        if (out.back() == Character{}) return out;
+        std::vector<wchar_t> out(capacity);
+        const RequestBuffer buffer{.narrow = nullptr, .wide = out.data(), .capacity = static_cast<int>(capacity)};
+        if (!request.compose(record, choices, buffer)) return {};
+        if (out.back() == L'\0') return toUtf8(out);
     }
 }
 
-std::string textOf(const Request& request, const Choices& choices, const void* record) {
-    if (request.isWide) {
-        const auto text = grown<wchar_t>([&](wchar_t* out, int capacity) {
-            return request.compose(record, choices, {.narrow = nullptr, .wide = out, .capacity = capacity});
-        });
-        return text.empty() ? std::string() : toUtf8(text);
-    }
-    const auto text = grown<char>([&](char* out, int capacity) {
-        return request.compose(record, choices, {.narrow = out, .wide = nullptr, .capacity = capacity});
-    });
-    return text.empty() ? std::string() : text.data();
+/// Narrow text, whose composers write all of it wherever the buffer ends. So it has room for whatever the JSON, of
+/// `jsonSize` bytes, can become: a character of a text takes up to six.
+std::string narrowText(const Request& request, const Choices& choices, const void* record, std::size_t jsonSize) {
+    std::vector<char> out(4096 + 6 * jsonSize);
+    const RequestBuffer buffer{.narrow = out.data(), .wide = nullptr, .capacity = static_cast<int>(out.size())};
+    return request.compose(record, choices, buffer) ? out.data() : std::string();
 }
 
 }  // namespace
@@ -80,7 +74,8 @@ std::string composed(const Request& request, const Choices& choices, const std::
     Arrays arrays;
     const ZeroedRecord record(request, request.record->size);
     readRecord(Place(fields, source), *request.record, record.get(), neededFor(request, choices), arrays);
-    std::string text = textOf(request, choices, record.get());
+    std::string text = request.isWide ? wideText(request, choices, record.get())
+                                      : narrowText(request, choices, record.get(), json.size());
     if (text.empty() && request.hasSections()) {
         throw Failure(ExitCode::usage, "of the sections that are asked for, the record has nothing to write");
     }
