@@ -26,7 +26,7 @@ bool isSound(const Field& field, const void* record);
 bool areSound(const Entries& entries, const void* record) {
     if (entries.storage != Storage::inRecord) return true;  // The entries lie elsewhere.
     const std::int64_t count = entries.count(record);
-    if (count < 0 || count > static_cast<std::int64_t>(entries.room) + 1) return false;
+    if (count < 0 || count > static_cast<std::int64_t>(entries.room)) return false;
     for (std::size_t i = 0; i < entries.room; ++i) {
         if (!isSound(*entries.entry, entries.at(record, i))) return false;
     }
@@ -45,6 +45,16 @@ bool isSound(const Field& field, const void* record) {
             return areSound(*field.entries, record);
         default:
             return true;
+    }
+}
+
+/// Asks for as many entries as the record has room for.
+void askForAll(const Field& record, void* memory) {
+    if (record.record == nullptr) return;
+    for (const Field& field : record.record->fields) {
+        if (field.type != FieldType::list || field.entries->storage != Storage::inRecord) continue;
+        if (field.entries->counter == nullptr) continue;
+        field.entries->setCount(memory, static_cast<std::int64_t>(field.entries->room));
     }
 }
 
@@ -81,7 +91,7 @@ bool Reader::read(const Text& text, void* record) const {
 /// In two calls where there are arrays: one for the sizes of the arrays, one to fill arrays of these sizes. A host that
 /// has not so much room makes do with the first.
 bool Reader::readIntoArrays(const Text& text, void* record) const {
-    if (message_->begin != nullptr) message_->begin(record);
+    askForAll(message_->record, record);
     bool result = message_->read(text, record);
     auto* const memory = static_cast<char*>(record);
     bool hasRoom = false;
