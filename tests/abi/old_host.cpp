@@ -69,6 +69,11 @@ bool call(Operation reader, Reply& reply, WithEntries<List, Entry, Array, Count,
     return result;
 }
 
+bool call(decltype(&KVJStatusParser::ParseJobList) reader, Reply& reply, KVJobList& record) {
+    record.count = KVJOBLIST_CAPACITY;
+    return (KVJStatusParser().*reader)(*reply.wide.c_str(), static_cast<int>(reply.wide.size()), record);
+}
+
 struct Capabilities {
     _Capabilities caps;
     _PortCaps ports[16];
