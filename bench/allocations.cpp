@@ -46,6 +46,7 @@ std::size_t HeapUse::peak() const noexcept { return static_cast<std::size_t>(mos
 }  // namespace kvjxml::bench
 
 // glibc's heap by its own names: what stands here takes the place of the usual ones, for C++'s operators too.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" {
 
 void* __libc_malloc(std::size_t size) noexcept;
@@ -72,3 +73,4 @@ void free(void* memory) noexcept {
 }
 
 }  // extern "C"
+// NOLINTEND(bugprone-reserved-identifier)

@@ -10,6 +10,7 @@
 namespace Kavrin {
 
 // Host applications know these records by names with leading underscores.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 
 /// A port of the printer.
 struct _PortCaps {
@@ -131,6 +132,8 @@ struct _Capabilities {
     bool laminator;                        ///< "laminator": true for exactly "present".
     _laminatorType laminatorType;          ///< "laminator_type": "1_side" 1, "2_side" 2; any other word 0.
 };
+
+// NOLINTEND(bugprone-reserved-identifier)
 
 }  // namespace Kavrin
 

@@ -42,6 +42,7 @@ enum WirelessCrypto : int {
 };
 
 // Host applications know these records by names with leading underscores.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 
 /// "feeder_mode": "manual" 0, "hopper" 1, "alreadyinprinter" 2, "auto" 3. Any other word reads, and any other code is
 /// written, as the hopper.
@@ -300,6 +301,8 @@ struct _KVConfiguration {
     _InternalEncoderInfo internalEncoder;      ///< "internal_encoder"
     _eFeedMode feederMode;                     ///< "feeder_mode"
 };
+
+// NOLINTEND(bugprone-reserved-identifier)
 
 }  // namespace Kavrin
 

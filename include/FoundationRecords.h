@@ -11,6 +11,7 @@
 namespace Kavrin {
 
 // Host applications know these records by names with a leading underscore and a capital.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 
 /// An integer setting with its permitted range: an element with the attributes "min" and "max" and the value as text,
 /// `<speed min="1" max="9">5</speed>`. The unit is that of the setting.
@@ -26,6 +27,8 @@ struct _MinMaxValFloat {
     float max;    ///< Attribute "max": the largest value that the printer takes.
     float value;  ///< The element's text: the value in force.
 };
+
+// NOLINTEND(bugprone-reserved-identifier)
 
 /// The words of a "coercivity" element, indexed by the coercivity code: 0 "none", 1 "low", 2 "high".
 /// KVJHelper::CoercivityToInt reads them back.

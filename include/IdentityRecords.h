@@ -10,6 +10,7 @@
 namespace Kavrin {
 
 // Host applications know these records by names with leading underscores.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 
 /// One entry of the service history.
 struct _tagLogServiceValues {
@@ -44,6 +45,8 @@ struct __GETTRACK {
     char track2[256];  ///< "mag" / "track2"
     char track3[256];  ///< "mag" / "track3"
 };
+
+// NOLINTEND(bugprone-reserved-identifier)
 
 /// Who a printer is: the reply "printer_id", read by KVJPrinterIDParser::ParsePrinterInfo and written by
 /// KVJSetPrinterInfo. Texts are terminated; a longer one is cut to its field and that read reports false.

@@ -26,6 +26,7 @@
 namespace Kavrin {
 
 // Host applications know these records by names with leading underscores and capitals.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 
 /// A type of card. The first eight elements stand in its "information". Of its settings only the values are read, as
 /// they are; their ranges stay 0. Settings with a fraction are written with their maximum as text.
@@ -69,6 +70,8 @@ struct _KVMediaInfo {
     _KVMediaInfo(const _KVMediaInfo&) = delete;
     _KVMediaInfo& operator=(const _KVMediaInfo&) = delete;
 };
+
+// NOLINTEND(bugprone-reserved-identifier)
 
 /// Creates a record with four null fields, a new one each time, which the caller owns: release it with DestroyKVMedia.
 KVJXML_API _KVMediaInfo* GetKVMedia();

@@ -11,6 +11,7 @@
 namespace Kavrin {
 
 // Host applications know these records by names with leading underscores.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 
 /// The Diffie-Hellman values that the printer proposes: the reply "diffie_hellman", read by
 /// KVJSecAction::ParseHostDHKeyValues. Each is hexadecimal after "0x", else decimal; a text that does not begin with a
@@ -69,6 +70,8 @@ struct _tagSecActionXMLValues {
     const char* nonce;   ///< The printer's nonce.
     const char* hmac;    ///< The keyed digest.
 };
+
+// NOLINTEND(bugprone-reserved-identifier)
 
 }  // namespace Kavrin
 

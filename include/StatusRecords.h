@@ -7,6 +7,7 @@
 #define KVJXML_STATUS_RECORDS_H
 
 // Names with a leading underscore or capital are the ones that host applications know these records by.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 
 /// One loaded medium, a part of MediaStatus. Diameters and sizes are in the printer's own units.
 struct _MediaStatusInfo {
@@ -406,5 +407,7 @@ struct _tagAccessPoints {
 };
 
 }  // namespace Kavrin
+
+// NOLINTEND(bugprone-reserved-identifier)
 
 #endif
