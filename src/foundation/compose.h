@@ -107,7 +107,7 @@ constexpr DescribedRow describeWritten(const auto& row) { return describe(row); 
 template <const auto& Table>
 inline constexpr auto describedWritten = [] {
     std::array<DescribedRow, Table.size()> list{};
-    std::ranges::transform(Table, list.begin(), [](const auto& row) { return describeWritten(row); });
+    for (std::size_t i = 0; i < list.size(); ++i) list[i] = describeWritten(Table[i]);
     return list;
 }();
 

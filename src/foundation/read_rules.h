@@ -4,7 +4,6 @@
 #ifndef KVJXML_FOUNDATION_READ_RULES_H
 #define KVJXML_FOUNDATION_READ_RULES_H
 
-#include <algorithm>
 #include <cstddef>
 #include <span>
 #include <string_view>
@@ -79,7 +78,9 @@ inline constexpr ReadRule<RecordOf<Member>> flag{
 /// A word as a template argument.
 template <std::size_t N>
 struct Literal {
-    consteval Literal(const char (&word)[N]) { std::ranges::copy(word, characters); }
+    consteval Literal(const char (&word)[N]) {
+        for (std::size_t i = 0; i < N; ++i) characters[i] = word[i];
+    }
     char characters[N]{};
 };
 

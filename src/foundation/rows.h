@@ -13,7 +13,6 @@
 #ifndef KVJXML_FOUNDATION_ROWS_H
 #define KVJXML_FOUNDATION_ROWS_H
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string_view>
@@ -66,8 +65,12 @@ template <class Record, template <class> class RowOf, std::size_t N>
 bool walk(Element element, Record& record, const std::array<RowOf<Record>, N>& table) {
     bool result = false;
     for (const Element child : element.children()) {
-        const auto row = std::ranges::find(table, child.name(), &RowOf<Record>::name);
-        if (row != table.end()) result = row->rule.read(child, record);
+        const std::string_view name = child.name();
+        for (const auto& row : table) {
+            if (row.name != name) continue;
+            result = row.rule.read(child, record);
+            break;
+        }
     }
     return result;
 }
@@ -76,7 +79,7 @@ bool walk(Element element, Record& record, const std::array<RowOf<Record>, N>& t
 template <const auto& Table>
 inline constexpr auto described = [] {
     std::array<DescribedRow, Table.size()> list{};
-    std::ranges::transform(Table, list.begin(), [](const auto& row) { return describe(row); });
+    for (std::size_t i = 0; i < list.size(); ++i) list[i] = describe(Table[i]);
     return list;
 }();
 

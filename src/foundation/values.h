@@ -52,7 +52,8 @@ inline bool readTruth(Element element, bool& value) {
 inline bool readHardwareAddress(Element element, unsigned char* address) {
     const char* content = element.text();
     if (content == nullptr) return false;
-    std::ranges::copy(convert::toHardwareAddress(content), address);
+    const auto bytes = convert::toHardwareAddress(content);
+    std::copy(bytes.begin(), bytes.end(), address);
     return true;
 }
 

@@ -109,7 +109,7 @@ constexpr HostList section(bool isOneEntry = false) {
     return list<Array, Table>(row->name, isOneEntry);
 }
 
-using Kavrin::_Capabilities;
+using Kavrin::_Capabilities;  // NOLINT(bugprone-reserved-identifier): hosts know it by that name
 constexpr HostList capabilitiesLists[] = {
     section<&_Capabilities::hostPorts, capabilities::hostPorts>(),
     section<&_Capabilities::devicePorts, capabilities::devicePorts>(true),
