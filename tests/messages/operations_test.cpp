@@ -2,27 +2,16 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <regex>
 #include <string>
 #include <vector>
 
 #include "messages/message.h"
 #include "messages/request.h"
+#include "support/lines.h"
 
 namespace {
 
-/// The names in what the library exports: the pattern's first group.
-std::vector<std::string> exported(const std::string& pattern) {
-    const std::regex operation(pattern);
-    std::vector<std::string> names;
-    std::ifstream symbols(SYMBOLS);
-    std::smatch match;
-    for (std::string line; std::getline(symbols, line);) {
-        if (std::regex_match(line, match, operation)) names.push_back(match[1]);
-    }
-    return names;
-}
+using kvjxml::tests::exported;
 
 template <class Rows>
 std::vector<std::string> operationsOf(const Rows& rows) {

@@ -4,12 +4,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <ostream>
-#include <regex>
 #include <string>
 #include <vector>
 
+#include "support/lines.h"
 #include "words/word_file.h"
 
 namespace kvjxml::tests {
@@ -23,16 +22,9 @@ namespace {
 
 using namespace kvjxml::tests;
 
-/// The names, with their classes, of what the library exports under a pattern.
-std::vector<std::string> exported(const std::string& pattern) {
-    const std::regex operation("(?:Kavrin::)?(" + pattern + ")\\(.*\\)");
-    std::vector<std::string> names;
-    std::ifstream symbols(SYMBOLS);
-    std::smatch match;
-    for (std::string line; std::getline(symbols, line);) {
-        if (std::regex_match(line, match, operation)) names.push_back(match[1]);
-    }
-    return names;
+/// The operations, with their classes, that the library exports under a pattern.
+std::vector<std::string> exportedAs(const std::string& pattern) {
+    return exported("(?:Kavrin::)?(" + pattern + ")\\(.*\\)");
 }
 
 template <class Operation>
@@ -45,7 +37,7 @@ std::vector<std::string> namesOf(std::span<const Operation> operations) {
 TEST(WordOperations, AreAllThatLookUpAWord) {
     EXPECT_THAT(
         namesOf(readingOperations()),
-        testing::UnorderedElementsAreArray(exported(
+        testing::UnorderedElementsAreArray(exportedAs(
             R"(\w+::\w+ToInt|\w+::stringTo\w+|\w+::GetWirelessState|KVJ(?:Config|Status)Parser::Get(?:Security|Crypto)|KVJConfigParser::get(?:USBSpeed|FeederMode))")));
 }
 
@@ -53,13 +45,13 @@ TEST(WordOperations, AreAllThatLookUpAWord) {
 TEST(WordOperations, AreAllThatLookUpACode) {
     EXPECT_THAT(
         namesOf(writingOperations()),
-        testing::UnorderedElementsAreArray(exported(
+        testing::UnorderedElementsAreArray(exportedAs(
             R"(\w+::(?!LamType|Laminator|printSystemType)\w+ToString|\w+::\w+FromInt|KVJSetConfig::Get(?:Security|Crypto))")));
 }
 
 template <class Operation>
 std::string nameOf(const testing::TestParamInfo<Operation>& test) {
-    return std::regex_replace(std::string(test.param.name), std::regex("::"), "_");
+    return identifierOf(test.param.name);
 }
 
 class ReadingOperations : public testing::TestWithParam<ReadingOperation> {};

@@ -4,10 +4,8 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <optional>
 #include <ostream>
-#include <regex>
 #include <set>
 #include <span>
 #include <string>
@@ -16,6 +14,7 @@
 #include "foundation/words.h"
 #include "messages/message.h"
 #include "messages/request.h"
+#include "support/lines.h"
 #include "words/operations.h"
 #include "words/tables.h"
 #include "words/word_file.h"
@@ -31,6 +30,7 @@ namespace {
 using kvjxml::DescribedRow;
 using kvjxml::NamedWords;
 using kvjxml::Words;
+using kvjxml::tests::linesLike;
 using kvjxml::tests::WordFile;
 using kvjxml::tests::WordRow;
 
@@ -40,15 +40,15 @@ using Names = std::set<std::string, std::less<>>;
 
 /// The tables in a source, by their names with namespaces.
 void addTablesOf(const std::filesystem::path& source, Names& names) {
-    static const std::regex space(R"(namespace kvjxml::(\w+) \{)");
-    static const std::regex table(
-        R"(inline constexpr (?:WordTable (\w+)[\{\(].*|auto (\w+) = \w+\.leavingOthers\(\);))");
-    std::ifstream in(source);
+    const std::string pattern =
+        R"(namespace kvjxml::(\w+) \{|inline constexpr (?:WordTable (\w+)[\{\(].*|auto (\w+) = \w+\.leavingOthers\(\);))";
     std::string prefix;
-    std::smatch match;
-    for (std::string line; std::getline(in, line);) {
-        if (std::regex_match(line, match, space)) prefix = match[1].str() + "::";
-        if (std::regex_match(line, match, table)) names.insert(prefix + match[1].str() + match[2].str());
+    for (const auto& line : linesLike(pattern, source)) {
+        if (!line[0].empty()) {
+            prefix = line[0] + "::";
+        } else {
+            names.insert(prefix + line[1] + line[2]);
+        }
     }
 }
 
@@ -135,8 +135,7 @@ TEST_P(WordTable, WritesACodeAsItsWord) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(, WordTable, testing::ValuesIn(kvjxml::tests::wordTables()), [](const auto& test) {
-    return std::regex_replace(std::string(test.param.name), std::regex("::"), "_");
-});
+INSTANTIATE_TEST_SUITE_P(, WordTable, testing::ValuesIn(kvjxml::tests::wordTables()),
+                         [](const auto& test) { return kvjxml::tests::identifierOf(test.param.name); });
 
 }  // namespace
