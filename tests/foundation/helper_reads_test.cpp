@@ -1,4 +1,4 @@
-// What the text and the attributes of an element read as.
+// What the text and the attributes of an element read as: KVJHelper, which has the same conversions as the rows.
 #include <gtest/gtest.h>
 
 #include <climits>

@@ -1,4 +1,4 @@
-// What values look like as elements and attributes of a request.
+// What values look like as elements and attributes of a request: KVJHelper, which writes as the rows do.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
