@@ -29,8 +29,8 @@ public:
 };
 
 struct Composer {
-    std::string_view name;
-    const char* copy;  ///< the file that it leaves for the service engineer; null for none
+    std::string_view name;  ///< the request's; what is composed of a part of it says so after a comma
+    const char* copy;       ///< the file that it leaves for the service engineer; null for none
     std::unique_ptr<Composing> (*begin)();
 };
 
