@@ -56,6 +56,7 @@ struct ListCase {
     /// That the first entries of the array have these numbers, and that the others are as they were. Number 0 is an
     /// entry that is as it was.
     void (*expectEntries)(const _Capabilities& caps, std::size_t size, const Numbers& numbers);
+    /// Points one record to the array of the other.
     void (*lendTheSame)(_Capabilities& to, const _Capabilities& from);
 };
 
@@ -129,6 +130,7 @@ protected:
     void lend(std::size_t size) {
         size_ = size;
         entries_ = list.lend(caps, size);
+        lent_ = caps;
     }
     void lendNone() { lend(0); }
 
@@ -161,7 +163,7 @@ protected:
     void expect(int count, const Numbers& numbers) {
         list.expectEntries(caps, size_, numbers);
         _Capabilities expected = preset<_Capabilities>();
-        list.lendTheSame(expected, caps);
+        list.lendTheSame(expected, lent_);
         expected.*list.count = count;
         EXPECT_EQ(fieldsOf(caps), fieldsOf(expected));
     }
@@ -169,6 +171,7 @@ protected:
 private:
     std::size_t size_{};
     std::shared_ptr<void> entries_;
+    _Capabilities lent_;  ///< as it was when the array was lent
 };
 
 // ---- All lists ----
