@@ -29,7 +29,7 @@ void given(void* memory) noexcept {
 
 }  // namespace
 
-namespace kvjxml::bench {
+namespace kvj::bench {
 
 std::size_t allocations() noexcept { return count; }
 
@@ -43,7 +43,7 @@ HeapUse::~HeapUse() { measuring = false; }
 std::size_t HeapUse::kept() const noexcept { return static_cast<std::size_t>(std::max<std::ptrdiff_t>(now, 0)); }
 std::size_t HeapUse::peak() const noexcept { return static_cast<std::size_t>(most); }
 
-}  // namespace kvjxml::bench
+}  // namespace kvj::bench
 
 // glibc's heap by its own names: what stands here takes the place of the usual ones, for C++'s operators too.
 // NOLINTBEGIN(bugprone-reserved-identifier)

@@ -5,7 +5,7 @@
 
 #include <cstddef>
 
-namespace kvjxml::bench {
+namespace kvj::bench {
 
 /// How often the calling thread took memory from the heap so far.
 std::size_t allocations() noexcept;
@@ -25,6 +25,6 @@ public:
     [[nodiscard]] std::size_t peak() const noexcept;
 };
 
-}  // namespace kvjxml::bench
+}  // namespace kvj::bench
 
 #endif

@@ -28,7 +28,7 @@
 #include <memory>
 #include <string_view>
 
-namespace kvjxml::bench::by_hand {
+namespace kvj::bench::by_hand {
 
 using namespace Kavrin;  // the records
 
@@ -819,6 +819,6 @@ void readConfiguration(Element root, _KVConfiguration& configuration) {
 
 // clang-format on
 
-}  // namespace kvjxml::bench::by_hand
+}  // namespace kvj::bench::by_hand
 
 #endif

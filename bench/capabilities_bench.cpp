@@ -8,7 +8,7 @@
 
 namespace {
 
-using namespace kvjxml::bench;
+using namespace kvj::bench;
 
 /// A record with room for the sample.
 struct Description {

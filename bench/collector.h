@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace kvjxml::bench {
+namespace kvj::bench {
 
 class Collector : public benchmark::BenchmarkReporter {
 public:
@@ -55,6 +55,6 @@ private:
     bool failed_ = false;
 };
 
-}  // namespace kvjxml::bench
+}  // namespace kvj::bench
 
 #endif

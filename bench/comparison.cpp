@@ -8,7 +8,7 @@
 #include "fields/media.h"
 #include "fields/status.h"
 
-namespace kvjxml::bench {
+namespace kvj::bench {
 
 namespace {
 
@@ -33,4 +33,4 @@ void compare(const char* name, const Kavrin::_KVMediaInfo& record, const Kavrin:
     compareFields(name, record, expected);
 }
 
-}  // namespace kvjxml::bench
+}  // namespace kvj::bench

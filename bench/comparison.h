@@ -8,7 +8,7 @@
 #include <MediaRecords.h>
 #include <StatusRecords.h>
 
-namespace kvjxml::bench {
+namespace kvj::bench {
 
 /// @throws std::runtime_error, with the name and the fields that differ and their values, when there are any.
 void compare(const char* name, const Kavrin::KVGeneralStatus& record, const Kavrin::KVGeneralStatus& expected);
@@ -16,6 +16,6 @@ void compare(const char* name, const Kavrin::_Capabilities& record, const Kavrin
 void compare(const char* name, const Kavrin::_KVConfiguration& record, const Kavrin::_KVConfiguration& expected);
 void compare(const char* name, const Kavrin::_KVMediaInfo& record, const Kavrin::_KVMediaInfo& expected);
 
-}  // namespace kvjxml::bench
+}  // namespace kvj::bench
 
 #endif

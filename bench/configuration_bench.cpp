@@ -8,7 +8,7 @@
 
 namespace {
 
-using namespace kvjxml::bench;
+using namespace kvj::bench;
 
 constexpr long everything = 0xFFFFFF;
 

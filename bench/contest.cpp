@@ -18,7 +18,7 @@
 #include "allocations.h"
 #include "collector.h"
 
-namespace kvjxml::bench {
+namespace kvj::bench {
 
 namespace {
 
@@ -199,4 +199,4 @@ bool print(const TiXmlDocument& document, std::vector<wchar_t>& out) {
     return document.Accept(&printer) && std::mbstowcs(out.data(), printer.CStr(), out.size()) < out.size();
 }
 
-}  // namespace kvjxml::bench
+}  // namespace kvj::bench

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-namespace kvjxml::bench {
+namespace kvj::bench {
 
 struct Contender {
     const char* name;
@@ -74,6 +74,6 @@ private:
 /// Prints a document with the library's indent as wide text.
 bool print(const TiXmlDocument& document, std::vector<wchar_t>& out);
 
-}  // namespace kvjxml::bench
+}  // namespace kvj::bench
 
 #endif

@@ -67,7 +67,7 @@ std::string attributes(std::size_t size, std::string_view beginning, std::string
 
 /// The elements of a general status.
 std::string ordinary(std::size_t size) {
-    const std::string sample = kvjxml::bench::sample("get_general_status");
+    const std::string sample = kvj::bench::sample("get_general_status");
     const std::size_t first = sample.find("    <printer_state>");
     const std::size_t last = sample.rfind("</get_general_status>");
     if (first == std::string::npos || last == std::string::npos)
@@ -168,7 +168,7 @@ bool read(const std::wstring& text) {
 
 /// How many bytes of the heap are in use at most while a reply is read, for each of its bytes.
 double heapPerByte(const std::wstring& text) {
-    const kvjxml::bench::HeapUse use;
+    const kvj::bench::HeapUse use;
     read(text);
     return static_cast<double>(use.peak()) / static_cast<double>(text.size());
 }
@@ -193,7 +193,7 @@ std::string nameOf(const Shape& shape, const Size& size) { return std::string(sh
 
 /// One line per shape: for each size the time, and how often an ordinary reply's time per byte that is; and the heap,
 /// of the size where it takes most.
-class Report : public kvjxml::bench::Collector {
+class Report : public kvj::bench::Collector {
 public:
     void Finalize() override {
         std::printf("locale %s\n%-23s", std::setlocale(LC_CTYPE, nullptr), "CPU time, ratio");
@@ -210,7 +210,7 @@ public:
 
 private:
     static double perByte(const Measured& measured) {
-        return kvjxml::bench::median(measured.times) / measured.counters.at("bytes");
+        return kvj::bench::median(measured.times) / measured.counters.at("bytes");
     }
 
     /// @return the heap that was used.
@@ -223,7 +223,7 @@ private:
         }
         const double ratio = perByte(*measured) / perByte(*reference);
         worst_ = std::max(worst_, ratio);
-        std::printf("%10.3f ms %6.2f", kvjxml::bench::median(measured->times), ratio);
+        std::printf("%10.3f ms %6.2f", kvj::bench::median(measured->times), ratio);
         return measured->counters.at("heap");
     }
 
@@ -234,7 +234,7 @@ private:
 
 int main(int argc, char** argv) try {
     constexpr int repetitions = 7;
-    if (!kvjxml::bench::initialize(argc, argv, repetitions)) return EXIT_FAILURE;
+    if (!kvj::bench::initialize(argc, argv, repetitions)) return EXIT_FAILURE;
     for (const Shape& shape : shapes) {
         for (const Size& size : sizes) {
             benchmark::RegisterBenchmark(nameOf(shape, size).c_str(), measure, shape, size.bytes)

@@ -12,7 +12,7 @@
 
 namespace {
 
-using namespace kvjxml::bench;
+using namespace kvj::bench;
 
 /// A catalogue of `count` cards, all like the first of the sample.
 std::string catalogue(std::size_t count) {

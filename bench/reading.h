@@ -15,7 +15,7 @@
 #include "contest.h"
 #include "rivals.h"
 
-namespace kvjxml::bench {
+namespace kvj::bench {
 
 /// How much of the others' time the library may take.
 struct Limits {
@@ -59,6 +59,6 @@ Task reading(std::string name, std::size_t bytes, Library library, ByHand byHand
     return task;
 }
 
-}  // namespace kvjxml::bench
+}  // namespace kvj::bench
 
 #endif

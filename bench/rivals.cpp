@@ -13,7 +13,7 @@
 
 #include "by_hand.h"
 
-namespace kvjxml::bench {
+namespace kvj::bench {
 
 namespace {
 
@@ -312,4 +312,4 @@ constexpr Rival all[] = {rival<Pugixml>("pugixml"), rival<Tinyxml2>("tinyxml2"),
 
 std::span<const Rival> rivals() { return all; }
 
-}  // namespace kvjxml::bench
+}  // namespace kvj::bench

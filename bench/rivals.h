@@ -11,7 +11,7 @@
 #include <span>
 #include <string>
 
-namespace kvjxml::bench {
+namespace kvj::bench {
 
 /// Wide replies are converted in the process's locale, as a host's own reader has to. What a parser can keep from one
 /// reply to the next, it keeps.
@@ -25,6 +25,6 @@ struct Rival {
 
 std::span<const Rival> rivals();
 
-}  // namespace kvjxml::bench
+}  // namespace kvj::bench
 
 #endif

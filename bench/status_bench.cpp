@@ -10,7 +10,7 @@
 
 namespace {
 
-using namespace kvjxml::bench;
+using namespace kvj::bench;
 
 /// All elements of the message, and between them four that the library does not know, as the next firmware may send
 /// them: one with a reference, one with attributes and one with children.

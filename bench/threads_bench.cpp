@@ -15,7 +15,7 @@
 namespace {
 
 void readStatus(benchmark::State& state) {
-    const std::wstring reply = kvjxml::bench::wide(kvjxml::bench::sample("get_general_status"));
+    const std::wstring reply = kvj::bench::wide(kvj::bench::sample("get_general_status"));
     for ([[maybe_unused]] const auto iteration : state) {
         Kavrin::KVGeneralStatus status{};
         Kavrin::KVJStatusParser().ParseStatus(reply.front(), static_cast<int>(reply.size()), status);
@@ -24,7 +24,7 @@ void readStatus(benchmark::State& state) {
 }
 
 void readCatalogue(benchmark::State& state) {
-    const std::string reply = kvjxml::bench::sample("media");
+    const std::string reply = kvj::bench::sample("media");
     for ([[maybe_unused]] const auto iteration : state) {
         const auto media = Kavrin::MakeKVMedia();
         Kavrin::KVJMediaParser().GetMedia(reply.front(), 0, *media);
@@ -40,7 +40,7 @@ constexpr Job jobs[] = {{"get_general_status", readStatus}, {"media", readCatalo
 
 std::string nameOf(const Job& job, int threads) { return std::string(job.name) + "/" + std::to_string(threads); }
 
-class Report : public kvjxml::bench::Collector {
+class Report : public kvj::bench::Collector {
 public:
     Report() : Collector(&Run::GetAdjustedRealTime) {}
 
@@ -51,8 +51,8 @@ public:
             const Measured* one = find(nameOf(job, 1));
             const Measured* two = find(nameOf(job, 2));
             if (one == nullptr || two == nullptr) continue;
-            const double alone = kvjxml::bench::median(one->times);
-            const double together = kvjxml::bench::median(two->times);
+            const double alone = kvj::bench::median(one->times);
+            const double together = kvj::bench::median(two->times);
             std::printf("%-20s %20.3f us %8.3f us %13.2f  %.2f %s\n", job.name, alone, together, alone / together,
                         limit, alone / together >= limit ? "met" : "MISSED");
         }
@@ -63,7 +63,7 @@ public:
 
 int main(int argc, char** argv) try {
     constexpr int repetitions = 40;
-    if (!kvjxml::bench::initialize(argc, argv, repetitions)) return EXIT_FAILURE;
+    if (!kvj::bench::initialize(argc, argv, repetitions)) return EXIT_FAILURE;
     for (const Job& job : jobs) {
         for (const int threads : {1, 2}) {
             benchmark::RegisterBenchmark(nameOf(job, threads).c_str(), job.run)

@@ -13,7 +13,7 @@
 
 namespace {
 
-using namespace kvjxml::bench;
+using namespace kvj::bench;
 
 /// A walk over the root element of a sample; it is its own contender, for a run with another library to compare with.
 template <class Walk>

@@ -5,9 +5,9 @@
 
 namespace Kavrin {
 
-using kvjxml::anyCodeOf;
-using kvjxml::walk;
-namespace tables = kvjxml::capabilities;
+using kvj::anyCodeOf;
+using kvj::walk;
+namespace tables = kvj::capabilities;
 
 namespace {
 
@@ -18,7 +18,7 @@ bool readList(TiXmlElement* section, _Capabilities& caps) {
     return tables::list<Count, Array, Table>.read(section, reading);
 }
 
-bool readCapabilities(kvjxml::Element root, _Capabilities& caps) {
+bool readCapabilities(kvj::Element root, _Capabilities& caps) {
     tables::Reading reading(caps);
     return walk(root, reading, tables::whole);
 }
@@ -26,7 +26,7 @@ bool readCapabilities(kvjxml::Element root, _Capabilities& caps) {
 }  // namespace
 
 bool KVJCapsParser::GetCapabilities(const wchar_t& text, int length, _Capabilities& caps) {
-    const kvjxml::Reply reply(text, length);
+    const kvj::Reply reply(text, length);
     readCapabilities(reply.root("capabilities", "get_capabilities"), caps);
     return false;  // Whatever was read: hosts look at the record.
 }
@@ -117,7 +117,7 @@ bool KVJCapsParser::getSwInterface(TiXmlElement* entry, _InterfaceCaps& swInterf
 }
 
 bool KVJCapsParser::getOCPLanguage(TiXmlElement* entry, _OCPLanguageCaps& language) {
-    return walk(entry, language, kvjxml::panelLanguage);
+    return walk(entry, language, kvj::panelLanguage);
 }
 
 bool KVJCapsParser::getFontCaps(TiXmlElement* entry, _FontCaps& font) { return walk(entry, font, tables::font); }
@@ -154,6 +154,6 @@ int KVJCapsParser::graphicsFormatToInt(const char* word) { return anyCodeOf(tabl
 int KVJCapsParser::magHeadTypeToInt(const char* word) { return anyCodeOf(tables::magHeadTypes, word); }
 int KVJCapsParser::magStripeLocationToInt(const char* word) { return anyCodeOf(tables::magStripeLocations, word); }
 int KVJCapsParser::printerTypeToInt(const char* word) { return anyCodeOf(tables::printSystems, word); }
-int KVJCapsParser::laminationTypeToInt(const char* word) { return anyCodeOf(kvjxml::laminationTypes, word); }
+int KVJCapsParser::laminationTypeToInt(const char* word) { return anyCodeOf(kvj::laminationTypes, word); }
 
 }  // namespace Kavrin

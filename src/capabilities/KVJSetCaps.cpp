@@ -5,17 +5,17 @@
 
 namespace Kavrin {
 
-using kvjxml::addGroup;
-using kvjxml::addList;
-using kvjxml::compose;
-using kvjxml::wordOf;
-using kvjxml::writeWord;
-namespace put = kvjxml::put;
-namespace tables = kvjxml::capabilities;
+using kvj::addGroup;
+using kvj::addList;
+using kvj::compose;
+using kvj::wordOf;
+using kvj::writeWord;
+namespace put = kvj::put;
+namespace tables = kvj::capabilities;
 
 bool KVJSetCaps::SetCapabilities(const _Capabilities& caps, wchar_t* out, int outLen, int mode, bool directToCard) {
     directToCard_ = directToCard;
-    root_ = kvjxml::beginRequest(*this, "capabilities");
+    root_ = kvj::beginRequest(*this, "capabilities");
     addCapabilities(root_, caps, mode);
     return saveJob(out, outLen);
 }
@@ -44,7 +44,7 @@ bool KVJSetCaps::addDevicePorts(TiXmlElement* under, const _Capabilities& caps) 
 }
 
 bool KVJSetCaps::addPorts(TiXmlElement* under, const _PortCaps* ports, int count, char* entryName) {
-    return kvjxml::addEntries(under, entryName, ports, count, put::group<tables::portTags>);
+    return kvj::addEntries(under, entryName, ports, count, put::group<tables::portTags>);
 }
 
 bool KVJSetCaps::addSWInterfaces(TiXmlElement* under, const _InterfaceCaps* interfaces, int count) {
@@ -54,7 +54,7 @@ bool KVJSetCaps::addSWInterfaces(TiXmlElement* under, const _InterfaceCaps* inte
 
 bool KVJSetCaps::addOcpLanguages(TiXmlElement* under, const _OCPLanguageCaps* languages, int count) {
     return count != 0 &&
-           addList(under, "ocp_languages", "ocp_language", languages, count, put::group<kvjxml::panelLanguage>);
+           addList(under, "ocp_languages", "ocp_language", languages, count, put::group<kvj::panelLanguage>);
 }
 
 bool KVJSetCaps::addImageSharpeningLevels(TiXmlElement* under, const _Capabilities& caps) {
@@ -123,7 +123,7 @@ bool KVJSetCaps::magStripeLocationToString(char* buf, int code) {
 
 bool KVJSetCaps::printTypeToString(char* buf, int code) {
     // False tells hosts that they have nothing to do, and so it is for "2_side".
-    return writeWord(buf, kvjxml::laminationTypes, code) && code == 1;
+    return writeWord(buf, kvj::laminationTypes, code) && code == 1;
 }
 
 bool KVJSetCaps::LamTypeToString(char* buf, _laminatorType code) {
@@ -143,21 +143,21 @@ bool KVJSetCaps::printSystemTypeToString(char* buf, int /*code*/) {
 }
 
 bool KVJSetCaps::CommsChannelFromInt(int code, char* buf, int /*ignored*/) {
-    writeWord(buf, kvjxml::commsChannelsInCapabilities, code);
+    writeWord(buf, kvj::commsChannelsInCapabilities, code);
     return buf != nullptr;
 }
 
 bool KVJSetCaps::ContactlessEncFromInt(int code, char* buf, int /*ignored*/) {
-    writeWord(buf, kvjxml::contactlessEncodersWritten, code);
+    writeWord(buf, kvj::contactlessEncodersWritten, code);
     return buf != nullptr;
 }
 
-bool KVJSetCaps::ribbonTypeToString(char* buf, int code) { return writeWord(buf, kvjxml::ribbonTypesWritten, code); }
-bool KVJSetCaps::feederTypeToString(char* buf, int code) { return writeWord(buf, kvjxml::cardMaterials, code); }
-bool KVJSetCaps::feederSmartToString(char* buf, int code) { return writeWord(buf, kvjxml::smartEncoders, code); }
+bool KVJSetCaps::ribbonTypeToString(char* buf, int code) { return writeWord(buf, kvj::ribbonTypesWritten, code); }
+bool KVJSetCaps::feederTypeToString(char* buf, int code) { return writeWord(buf, kvj::cardMaterials, code); }
+bool KVJSetCaps::feederSmartToString(char* buf, int code) { return writeWord(buf, kvj::smartEncoders, code); }
 
-bool KVJSetCaps::saveJob(wchar_t* out, int outLen) { return kvjxml::print(*this, out, outLen); }
+bool KVJSetCaps::saveJob(wchar_t* out, int outLen) { return kvj::print(*this, out, outLen); }
 
-bool KVJSetCaps::saveJob(char* path) { return kvjxml::save(*this, path); }
+bool KVJSetCaps::saveJob(char* path) { return kvj::save(*this, path); }
 
 }  // namespace Kavrin

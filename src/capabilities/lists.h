@@ -12,7 +12,7 @@
 #include "foundation/read_rules.h"
 #include "foundation/rows.h"
 
-namespace kvjxml::capabilities {
+namespace kvj::capabilities {
 
 using namespace Kavrin;  // the records
 
@@ -50,6 +50,6 @@ inline constexpr ReadRule<Reading> list{
         return walk(section, entries, Table);
     }};
 
-}  // namespace kvjxml::capabilities
+}  // namespace kvj::capabilities
 
 #endif

@@ -13,7 +13,7 @@
 #include "shared/encoder.h"
 #include "shared/panel.h"
 
-namespace kvjxml::capabilities {
+namespace kvj::capabilities {
 
 using Caps = _Capabilities;
 
@@ -322,6 +322,6 @@ inline constexpr auto encoderAlone = tags<_InternalEncoderInfo>({
 
 // clang-format on
 
-}  // namespace kvjxml::capabilities
+}  // namespace kvj::capabilities
 
 #endif

@@ -8,27 +8,27 @@
 
 namespace Kavrin {
 
-using kvjxml::anyCodeOf;
-using kvjxml::walk;
-namespace tables = kvjxml::configuration;
+using kvj::anyCodeOf;
+using kvj::walk;
+namespace tables = kvj::configuration;
 
 char szRibbonName[32];
 
 namespace {
 
-bool readConfiguration(kvjxml::Element root, _KVConfiguration& out) {
+bool readConfiguration(kvj::Element root, _KVConfiguration& out) {
     if (!root) return false;
     std::memset(&out, 0, sizeof out);
     walk(root, out, tables::document);
-    return kvjxml::countChildren(root) != 0;
+    return kvj::countChildren(root) != 0;
 }
 
 }  // namespace
 
 bool KVJConfigParser::GetConfiguration(const char* text, int /*length*/, _KVConfiguration& out) {
     Clear();
-    const kvjxml::Reply reply(text);
-    kvjxml::tellFault(reply, *this);
+    const kvj::Reply reply(text);
+    kvj::tellFault(reply, *this);
     readConfiguration(reply.root("configuration", "set_configuration"), out);
     return false;  // Whatever was read: hosts look at the record.
 }
@@ -52,7 +52,7 @@ bool KVJConfigParser::getUSBTimeout(TiXmlElement* element, _USBTimeout& timeout)
 }
 
 bool KVJConfigParser::getOCPValues(TiXmlElement* element, _OCPLanguageCaps& language) {
-    return walk(element, language, kvjxml::panelLanguage);
+    return walk(element, language, kvj::panelLanguage);
 }
 
 bool KVJConfigParser::getUsageCounters(TiXmlElement* element, _KVConfiguration& out) {
@@ -108,19 +108,19 @@ bool KVJConfigParser::getCardInfo(TiXmlElement* element, _CustomCardInfo& card) 
 }
 
 bool KVJConfigParser::getCardInformation(TiXmlElement* element, _CustomCardInfo& card) {
-    return walk(element, card, kvjxml::cardInformation<_CustomCardInfo>);
+    return walk(element, card, kvj::cardInformation<_CustomCardInfo>);
 }
 
 bool KVJConfigParser::getTransferTemp(TiXmlElement* element, _TransferTempInfo& temperatures) {
-    return walk(element, temperatures, kvjxml::transferTemps);
+    return walk(element, temperatures, kvj::transferTemps);
 }
 
 bool KVJConfigParser::getTransferSpeed(TiXmlElement* element, _TransferSpeedInfo& speeds) {
-    return walk(element, speeds, kvjxml::transferSpeeds);
+    return walk(element, speeds, kvj::transferSpeeds);
 }
 
 bool KVJConfigParser::getLaminatorAdjustments(TiXmlElement* element, _LaminationAdjustmentsNew& adjustments) {
-    return walk(element, adjustments, kvjxml::laminatorAdjustments);
+    return walk(element, adjustments, kvj::laminatorAdjustments);
 }
 
 bool KVJConfigParser::getTransferSettings(TiXmlElement* element, _ImageTransferInfo& transfer) {
@@ -174,11 +174,11 @@ bool KVJConfigParser::getIP(TiXmlElement* element, char* name, unsigned long& ad
 }
 
 bool KVJConfigParser::getFeederMode(TiXmlElement* element, _eFeedMode& mode) {
-    return kvjxml::readWord(element, mode, kvjxml::feederModes);
+    return kvj::readWord(element, mode, kvj::feederModes);
 }
 
 bool KVJConfigParser::getUSBSpeed(TiXmlElement* element, USB_Speed& speed) {
-    return kvjxml::readWord(element, speed, tables::usbSpeeds);
+    return kvj::readWord(element, speed, tables::usbSpeeds);
 }
 
 bool KVJConfigParser::GetSecurity(TiXmlElement* element, WirelessSecurity& security) {
@@ -190,11 +190,11 @@ bool KVJConfigParser::GetCrypto(TiXmlElement* element, WirelessCrypto& crypto) {
 }
 
 bool KVJConfigParser::getMinMaxVal(TiXmlElement* element, _MinMaxVal& setting) {
-    return kvjxml::readSetting(element, setting);
+    return kvj::readSetting(element, setting);
 }
 
 bool KVJConfigParser::getMinMaxVal(TiXmlElement* element, _MinMaxValFloat& setting) {
-    return kvjxml::readSetting(element, setting);
+    return kvj::readSetting(element, setting);
 }
 
 // ---- Words ----
@@ -204,7 +204,7 @@ ErrorControl KVJConfigParser::stringToErrorControl(char* word) {
 }
 
 _eFeedMode KVJConfigParser::stringToFeederMode(char* word) {
-    return static_cast<_eFeedMode>(anyCodeOf(kvjxml::feederModes, word));
+    return static_cast<_eFeedMode>(anyCodeOf(kvj::feederModes, word));
 }
 
 }  // namespace Kavrin

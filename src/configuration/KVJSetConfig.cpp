@@ -6,17 +6,17 @@
 
 namespace Kavrin {
 
-using kvjxml::addGroup;
-using kvjxml::addTag;
-using kvjxml::compose;
-using kvjxml::wordOf;
-using kvjxml::writeWord;
-namespace tables = kvjxml::configuration;
+using kvj::addGroup;
+using kvj::addTag;
+using kvj::compose;
+using kvj::wordOf;
+using kvj::writeWord;
+namespace tables = kvj::configuration;
 
 bool KVJSetConfig::SetConfiguration(const _KVConfiguration& cfg, wchar_t* out, int outLen, long mask, int cardSelect,
                                     bool skipTransfer) {
     skipTransfer_ = skipTransfer;
-    root_ = kvjxml::beginRequest(*this, "configuration");
+    root_ = kvj::beginRequest(*this, "configuration");
     return addConfiguration(root_, cfg, mask, cardSelect) && saveJob(out, outLen);
 }
 
@@ -46,7 +46,7 @@ bool KVJSetConfig::addWirelessParams(TiXmlElement* element, const _WirelessParam
 }
 
 bool KVJSetConfig::addOCPLanguage(TiXmlElement* under, const _OCPLanguageCaps& language) {
-    return addGroup(under, "ocp_language", language, kvjxml::panelLanguage);
+    return addGroup(under, "ocp_language", language, kvj::panelLanguage);
 }
 
 bool KVJSetConfig::addErrorControl(TiXmlElement* under, ErrorControl errorControl) {
@@ -110,19 +110,19 @@ bool KVJSetConfig::addCardInfo(TiXmlElement* under, const _CustomCardInfo& card)
 }
 
 bool KVJSetConfig::addCardInformation(TiXmlElement* under, const _CustomCardInfo& card) {
-    return addGroup(under, "information", card, kvjxml::cardInformationTags<_CustomCardInfo>);
+    return addGroup(under, "information", card, kvj::cardInformationTags<_CustomCardInfo>);
 }
 
 bool KVJSetConfig::addTransferTemps(TiXmlElement* under, const _TransferTempInfo& temperatures) {
-    return addGroup(under, "transfer_temps", temperatures, kvjxml::transferTemps);
+    return addGroup(under, "transfer_temps", temperatures, kvj::transferTemps);
 }
 
 bool KVJSetConfig::addTransferSpeeds(TiXmlElement* under, const _TransferSpeedInfo& speeds) {
-    return addGroup(under, "transfer_speeds", speeds, kvjxml::transferSpeeds);
+    return addGroup(under, "transfer_speeds", speeds, kvj::transferSpeeds);
 }
 
 bool KVJSetConfig::addLamAdjustments(TiXmlElement* under, const _LaminationAdjustmentsNew& adjustments) {
-    return addGroup(under, "laminator_adjustments", adjustments, kvjxml::laminatorAdjustments);
+    return addGroup(under, "laminator_adjustments", adjustments, kvj::laminatorAdjustments);
 }
 
 bool KVJSetConfig::addTransferSettings(TiXmlElement* under, const _ImageTransferInfo& transfer) {
@@ -150,28 +150,28 @@ bool KVJSetConfig::addCleanParams(TiXmlElement* under, const _CleaningParams& cl
 
 const char* KVJSetConfig::GetSecurity(WirelessSecurity security) { return wordOf(tables::securityWords, security, ""); }
 const char* KVJSetConfig::GetCrypto(WirelessCrypto crypto) { return wordOf(tables::cryptoWords, crypto, ""); }
-const char* KVJSetConfig::FeederModeToString(_eFeedMode mode) { return wordOf(kvjxml::feederModes, mode, "hopper"); }
+const char* KVJSetConfig::FeederModeToString(_eFeedMode mode) { return wordOf(kvj::feederModes, mode, "hopper"); }
 
-bool KVJSetConfig::RibbonNameToString(char* buf, int code) { return writeWord(buf, kvjxml::ribbonNames, code); }
-bool KVJSetConfig::ribbonTypeToString(char* buf, int code) { return writeWord(buf, kvjxml::ribbonTypesWritten, code); }
-bool KVJSetConfig::feederTypeToString(char* buf, int code) { return writeWord(buf, kvjxml::cardMaterials, code); }
-bool KVJSetConfig::feederSmartToString(char* buf, int code) { return writeWord(buf, kvjxml::smartEncoders, code); }
+bool KVJSetConfig::RibbonNameToString(char* buf, int code) { return writeWord(buf, kvj::ribbonNames, code); }
+bool KVJSetConfig::ribbonTypeToString(char* buf, int code) { return writeWord(buf, kvj::ribbonTypesWritten, code); }
+bool KVJSetConfig::feederTypeToString(char* buf, int code) { return writeWord(buf, kvj::cardMaterials, code); }
+bool KVJSetConfig::feederSmartToString(char* buf, int code) { return writeWord(buf, kvj::smartEncoders, code); }
 
 bool KVJSetConfig::CommsChannelFromInt(int code, char* buf, int /*ignored*/) {
-    writeWord(buf, kvjxml::commsChannels, code);
+    writeWord(buf, kvj::commsChannels, code);
     return buf != nullptr;
 }
 
 bool KVJSetConfig::ContactlessEncFromInt(int code, char* buf, int /*ignored*/) {
-    writeWord(buf, kvjxml::contactlessEncodersWritten, code);
+    writeWord(buf, kvj::contactlessEncodersWritten, code);
     return buf != nullptr;
 }
 
 bool KVJSetConfig::saveJob(wchar_t* out, int outLen) {
-    kvjxml::keepDiagnosticCopy(*this, "/tmp/firmwaresettings");
-    return kvjxml::print(*this, out, outLen);
+    kvj::keepDiagnosticCopy(*this, "/tmp/firmwaresettings");
+    return kvj::print(*this, out, outLen);
 }
 
-bool KVJSetConfig::saveJob(char* path) { return kvjxml::save(*this, path); }
+bool KVJSetConfig::saveJob(char* path) { return kvj::save(*this, path); }
 
 }  // namespace Kavrin

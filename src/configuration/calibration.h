@@ -7,7 +7,7 @@
 #include "ConfigurationRecords.h"
 #include "foundation/both.h"
 
-namespace kvjxml::configuration {
+namespace kvj::configuration {
 
 using namespace Kavrin;  // the records
 using Mechanics = _MechanicalAdjustments;
@@ -131,6 +131,6 @@ inline constexpr auto mechanicsTags = tags<Mechanics>({
 
 // clang-format on
 
-}  // namespace kvjxml::configuration
+}  // namespace kvj::configuration
 
 #endif

@@ -10,7 +10,7 @@
 #include "shared/encoder.h"
 #include "shared/panel.h"
 
-namespace kvjxml::configuration {
+namespace kvj::configuration {
 
 // ---- Words ----
 
@@ -132,6 +132,6 @@ inline constexpr auto documentSections = sections<_KVConfiguration>({
 
 // clang-format on
 
-}  // namespace kvjxml::configuration
+}  // namespace kvj::configuration
 
 #endif

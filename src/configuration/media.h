@@ -10,7 +10,7 @@
 #include "foundation/vocabulary.h"
 #include "shared/card.h"
 
-namespace kvjxml::configuration {
+namespace kvj::configuration {
 
 using namespace Kavrin;  // the records
 
@@ -225,6 +225,6 @@ inline constexpr auto cleaningSections = tags<_CleaningParams>({
 
 // clang-format on
 
-}  // namespace kvjxml::configuration
+}  // namespace kvj::configuration
 
 #endif

@@ -8,7 +8,7 @@
 #include "foundation/words.h"
 #include "foundation/write_rules.h"
 
-namespace kvjxml::configuration {
+namespace kvj::configuration {
 
 using namespace Kavrin;  // the records
 
@@ -123,6 +123,6 @@ inline constexpr auto wirelessTags = tags<_WirelessParams>({
 
 // clang-format on
 
-}  // namespace kvjxml::configuration
+}  // namespace kvj::configuration
 
 #endif

@@ -7,7 +7,7 @@
 #include "configuration/shown.h"
 #include "foundation/values.h"
 
-namespace kvjxml::configuration {
+namespace kvj::configuration {
 
 bool readRibbonName(Element element, char (&description)[64]) {
     using Kavrin::szRibbonName;  // Hosts look there as well.
@@ -26,4 +26,4 @@ bool readRibbonName(Element element, char (&description)[64]) {
     return result;
 }
 
-}  // namespace kvjxml::configuration
+}  // namespace kvj::configuration

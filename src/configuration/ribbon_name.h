@@ -7,7 +7,7 @@
 
 #include "foundation/element.h"
 
-namespace kvjxml::configuration {
+namespace kvj::configuration {
 
 /// How much of a ribbon's name is read, with its terminator.
 inline constexpr std::size_t ribbonNameCapacity = 32;
@@ -16,6 +16,6 @@ inline constexpr std::size_t ribbonNameCapacity = 32;
 /// standard error stream for it, often on a terminal.
 bool readRibbonName(Element element, char (&description)[64]);
 
-}  // namespace kvjxml::configuration
+}  // namespace kvj::configuration
 
 #endif

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cstddef>
 
-namespace kvjxml::configuration {
+namespace kvj::configuration {
 
 /// The character that a terminated text begins with, and how many bytes it has.
 struct Character {
@@ -49,6 +49,6 @@ struct Shown {
     char characters[Capacity]{};
 };
 
-}  // namespace kvjxml::configuration
+}  // namespace kvj::configuration
 
 #endif

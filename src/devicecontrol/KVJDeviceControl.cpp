@@ -6,11 +6,11 @@
 #include "foundation/request.h"
 #include "foundation/tags.h"
 
-namespace convert = kvjxml::convert;
-namespace tables = kvjxml::devicecontrol;
-using kvjxml::addText;
-using kvjxml::setAttribute;
-using kvjxml::wordOf;
+namespace convert = kvj::convert;
+namespace tables = kvj::devicecontrol;
+using kvj::addText;
+using kvj::setAttribute;
+using kvj::wordOf;
 
 namespace {
 
@@ -25,8 +25,8 @@ bool setAttribute(TiXmlElement* element, const char* name, float value) {
 
 /// Begins a command with its root, and adds the element of its device; null when the device has no name.
 TiXmlElement* beginCommand(TiXmlDocument& command, TiXmlElement*& root, const char* device) {
-    root = kvjxml::beginRequestAnew(command, "device_control");
-    return kvjxml::addTag(root, device);
+    root = kvj::beginRequestAnew(command, "device_control");
+    return kvj::addTag(root, device);
 }
 
 bool is(const char* text, const char* word) { return text != nullptr && convert::equal(text, word); }
@@ -118,8 +118,8 @@ bool KVJDeviceControl::RunRFIDCommands(char* device, int mode, int antenna, char
 
 bool KVJDeviceControl::saveJob(char* out, int /*capacity*/) {
     if (out == nullptr) return false;
-    kvjxml::keepDiagnosticCopy(*this, "/tmp/composedXML");
-    return kvjxml::print(*this, out);
+    kvj::keepDiagnosticCopy(*this, "/tmp/composedXML");
+    return kvj::print(*this, out);
 }
 
-bool KVJDeviceControl::saveJob(char* path) { return kvjxml::save(*this, path); }
+bool KVJDeviceControl::saveJob(char* path) { return kvj::save(*this, path); }

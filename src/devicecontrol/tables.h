@@ -5,7 +5,7 @@
 
 #include "foundation/words.h"
 
-namespace kvjxml::devicecontrol {
+namespace kvj::devicecontrol {
 
 inline constexpr WordTable motors(
     {{"card_feed", 0}, {"card_x", 1}, {"ribbon", 2}, {"head_lift", 3}, {"options", 4}, {"flipper", 5}});
@@ -30,6 +30,6 @@ inline constexpr WordTable spools({{"both", 0}, {"top", 1}, {"bottom", 2}});
 
 inline constexpr WordTable rfidModes({{"off", 0}, {"on", 1}, {"modulate", 2}});
 
-}  // namespace kvjxml::devicecontrol
+}  // namespace kvj::devicecontrol
 
 #endif

@@ -10,7 +10,7 @@
 #include "fields/list.h"
 #include "shared/card.h"
 
-namespace kvjxml {
+namespace kvj {
 
 // clang-format off
 
@@ -259,6 +259,6 @@ inline constexpr FieldList<
 
 // clang-format on
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

@@ -5,7 +5,7 @@
 
 #include "foundation/convert.h"
 
-namespace kvjxml {
+namespace kvj {
 
 namespace {
 
@@ -93,4 +93,4 @@ std::string describeDifferences(const RecordType& type, const void* expected, co
     return text;
 }
 
-}  // namespace kvjxml
+}  // namespace kvj

@@ -8,7 +8,7 @@
 
 #include "fields/field.h"
 
-namespace kvjxml {
+namespace kvj {
 
 struct Difference {
     std::string path;  ///< of the field, such as "/wireless/ssid" or "/jobs/3/uuid"
@@ -24,6 +24,6 @@ std::vector<Difference> differences(const RecordType& type, const void* expected
 /// The same, for people: one line for each; empty when there is none.
 std::string describeDifferences(const RecordType& type, const void* expected, const void* actual);
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

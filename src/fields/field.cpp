@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace kvjxml {
+namespace kvj {
 
 namespace {
 
@@ -53,4 +53,4 @@ std::size_t countOf(const Entries& entries, const void* record) {
     return count;
 }
 
-}  // namespace kvjxml
+}  // namespace kvj

@@ -10,7 +10,7 @@
 #include <span>
 #include <string_view>
 
-namespace kvjxml {
+namespace kvj {
 
 enum class FieldType : std::uint8_t {
     flag,             ///< a bool
@@ -114,6 +114,6 @@ inline std::string_view textOf(const Field& field, const void* record) {
     return {first, strnlen(first, field.size)};
 }
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

@@ -7,7 +7,7 @@
 
 #include "fields/list.h"
 
-namespace kvjxml {
+namespace kvj {
 
 // clang-format off
 
@@ -64,6 +64,6 @@ inline constexpr FieldList<
 
 // clang-format on
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

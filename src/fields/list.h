@@ -24,7 +24,7 @@
 #include "fields/field.h"
 #include "foundation/member.h"
 
-namespace kvjxml {
+namespace kvj {
 
 template <auto... Fields>
 struct FieldList {};
@@ -310,6 +310,6 @@ struct RecordTypeOf {
     static constexpr RecordType value{qualifiedNameOf<Record>(), sizeof(Record), alignof(Record), all};
 };
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

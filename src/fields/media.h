@@ -7,7 +7,7 @@
 
 #include "fields/configuration.h"
 
-namespace kvjxml {
+namespace kvj {
 
 // clang-format off
 
@@ -43,6 +43,6 @@ inline constexpr FieldList<
 
 // clang-format on
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

@@ -7,7 +7,7 @@
 #include "fields/security.h"
 #include "fields/status.h"
 
-namespace kvjxml {
+namespace kvj {
 
 namespace {
 
@@ -87,4 +87,4 @@ constexpr const auto& all = typesOf<
 
 std::span<const RecordType* const> recordTypes() { return all; }
 
-}  // namespace kvjxml
+}  // namespace kvj

@@ -7,10 +7,10 @@
 
 #include "fields/field.h"
 
-namespace kvjxml {
+namespace kvj {
 
 std::span<const RecordType* const> recordTypes();
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

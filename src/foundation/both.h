@@ -19,7 +19,7 @@
 #include "foundation/rows.h"
 #include "foundation/write_rules.h"
 
-namespace kvjxml {
+namespace kvj {
 
 /// How an element is read and written.
 template <class Record>
@@ -51,18 +51,18 @@ consteval std::array<BothRow<Record>, N> bothWays(const BothRow<Record> (&list)[
     return withoutRepeats(list);
 }
 
-}  // namespace kvjxml
+}  // namespace kvj
 
-namespace kvjxml::both {
-
-template <auto Member>
-inline constexpr BothRules<RecordOf<Member>> number{kvjxml::number<Member>, put::number<Member>};
+namespace kvj::both {
 
 template <auto Member>
-inline constexpr BothRules<RecordOf<Member>> text{kvjxml::text<Member>, put::text<Member>};
+inline constexpr BothRules<RecordOf<Member>> number{kvj::number<Member>, put::number<Member>};
 
 template <auto Member>
-inline constexpr BothRules<RecordOf<Member>> setting{kvjxml::setting<Member>, put::setting<Member>};
+inline constexpr BothRules<RecordOf<Member>> text{kvj::text<Member>, put::text<Member>};
+
+template <auto Member>
+inline constexpr BothRules<RecordOf<Member>> setting{kvj::setting<Member>, put::setting<Member>};
 
 /// A truth word, written as "yes" or "no".
 template <auto Member>
@@ -70,18 +70,18 @@ inline constexpr BothRules<RecordOf<Member>> yesOrNo{flag<Member>, put::yesOrNo<
 
 /// The code of a word; a code without one is written as `Otherwise`.
 template <auto Member, const auto& Table, Literal Otherwise = "">
-inline constexpr BothRules<RecordOf<Member>> word{kvjxml::word<Member, Table>, put::word<Member, Table, Otherwise>};
+inline constexpr BothRules<RecordOf<Member>> word{kvj::word<Member, Table>, put::word<Member, Table, Otherwise>};
 
 /// Bits, an element for each.
 template <auto Member, const auto& Table>
-inline constexpr BothRules<RecordOf<Member>> bits{kvjxml::bits<Member, Table>, put::bits<Member, Table>};
+inline constexpr BothRules<RecordOf<Member>> bits{kvj::bits<Member, Table>, put::bits<Member, Table>};
 
 template <const auto& Table>
-inline constexpr BothRules<RecordOfTable<Table>> group{kvjxml::group<Table>, put::group<Table>};
+inline constexpr BothRules<RecordOfTable<Table>> group{kvj::group<Table>, put::group<Table>};
 
 template <auto Member, const auto& Table>
-inline constexpr BothRules<RecordOf<Member>> part{kvjxml::part<Member, Table>, put::part<Member, Table>};
+inline constexpr BothRules<RecordOf<Member>> part{kvj::part<Member, Table>, put::part<Member, Table>};
 
-}  // namespace kvjxml::both
+}  // namespace kvj::both
 
 #endif

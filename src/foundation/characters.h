@@ -10,7 +10,7 @@
 #include <cstdint>
 #include <string_view>
 
-namespace kvjxml::characters {
+namespace kvj::characters {
 
 /// Kinds of bytes; one byte can be of several.
 enum Kind : std::uint8_t {
@@ -71,6 +71,6 @@ inline bool beginsWithMark(const char* text) noexcept {
 }
 inline constexpr std::size_t markLength = 3;
 
-}  // namespace kvjxml::characters
+}  // namespace kvj::characters
 
 #endif

@@ -19,7 +19,7 @@
 #include "foundation/rows.h"
 #include "foundation/tags.h"
 
-namespace kvjxml {
+namespace kvj {
 
 /// What a host asks for besides the record.
 struct Selection {
@@ -165,6 +165,6 @@ bool addList(TiXmlElement* parent, const char* name, const char* entryName, cons
     return list != nullptr && addEntries(list, entryName, entries, count, rule);
 }
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

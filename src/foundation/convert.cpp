@@ -12,7 +12,7 @@
 #include <cstring>
 #include <limits>
 
-namespace kvjxml::convert {
+namespace kvj::convert {
 
 namespace {
 
@@ -244,4 +244,4 @@ Digits fromPrefixedHex(unsigned value) noexcept {
     return digits;
 }
 
-}  // namespace kvjxml::convert
+}  // namespace kvj::convert

@@ -7,7 +7,7 @@
 
 #include <array>
 
-namespace kvjxml::convert {
+namespace kvj::convert {
 
 /// The number that a text begins with, as atoi, atol and atof read it: 0 for a text that is no number.
 int toInt(const char* text) noexcept;
@@ -65,6 +65,6 @@ Digits fromIpAddress(unsigned long address) noexcept;
 /// "0x%02x"
 Digits fromPrefixedHex(unsigned value) noexcept;
 
-}  // namespace kvjxml::convert
+}  // namespace kvj::convert
 
 #endif

@@ -12,7 +12,7 @@
 #include <memory>
 #include <string>
 
-namespace kvjxml {
+namespace kvj {
 
 namespace {
 
@@ -86,4 +86,4 @@ void keepDiagnosticCopy(const TiXmlDocument& request, const char* path) {
     if (isWhole && std::rename(name.c_str(), path) == 0) static_cast<void>(unfinished.release());
 }
 
-}  // namespace kvjxml
+}  // namespace kvj

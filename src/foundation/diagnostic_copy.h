@@ -6,7 +6,7 @@
 
 #include <tinyxml.h>
 
-namespace kvjxml {
+namespace kvj {
 
 /// Leaves a copy of `request` in the file `path`. When that fails, nothing is said and the file is as it was. A copy
 /// can hold a network key, and everyone knows its name. So it is written to a new file that only its owner can read,
@@ -16,6 +16,6 @@ namespace kvjxml {
 /// The host gets no signal when the file would grow beyond what the process may write.
 void keepDiagnosticCopy(const TiXmlDocument& request, const char* path);
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

@@ -8,7 +8,7 @@
 
 #include "foundation/element.h"
 
-namespace kvjxml {
+namespace kvj {
 
 Text::Text(std::size_t length) : length_(length) {
     // No array is that long.
@@ -63,4 +63,4 @@ std::size_t Element::offset() const noexcept {
     return at;
 }
 
-}  // namespace kvjxml
+}  // namespace kvj

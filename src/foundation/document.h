@@ -11,7 +11,7 @@
 #include <limits>
 #include <memory>
 
-namespace kvjxml {
+namespace kvj {
 
 class Element;
 
@@ -100,6 +100,6 @@ private:
     bool hasByteOrderMark_ = false;
 };
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

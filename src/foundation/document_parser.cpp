@@ -12,7 +12,7 @@
 #include "foundation/references.h"
 #include "foundation/repeated.h"
 
-namespace kvjxml {
+namespace kvj {
 
 namespace {
 
@@ -392,4 +392,4 @@ void Document::parse() {
     DocumentParser(*this).parse();
 }
 
-}  // namespace kvjxml
+}  // namespace kvj

@@ -13,7 +13,7 @@
 
 #include "foundation/document.h"
 
-namespace kvjxml {
+namespace kvj {
 
 /// A view, to be passed by value. The element belongs to its document, or to the host. A null one has no text, no
 /// attribute and no children.
@@ -142,6 +142,6 @@ inline std::size_t countChildren(Element element) {
     return count;
 }
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

@@ -12,7 +12,7 @@
 #include "foundation/member.h"
 #include "foundation/words.h"
 
-namespace kvjxml {
+namespace kvj {
 
 /// The kind of value that an element is read as or written from. Beside each stand the members of a Description that it
 /// has, other than the field.
@@ -131,6 +131,6 @@ struct DescribedRow {
     long section{};                ///< the bit that it is written for; 0 when it is no section
 };
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-namespace kvjxml {
+namespace kvj {
 
 template <class Member>
 struct MemberOf;
@@ -45,7 +45,7 @@ consteval std::string_view nameOfType() {
 /// The name of a table, with the namespaces that it is in below the library's own.
 template <const auto& Argument>
 consteval std::string_view nameOfTable() {
-    constexpr std::string_view library = "kvjxml::";
+    constexpr std::string_view library = "kvj::";
     const std::string_view name = argumentOf(__PRETTY_FUNCTION__);
     return name.starts_with(library) ? name.substr(library.size()) : name;
 }
@@ -56,6 +56,6 @@ consteval std::string_view qualifiedNameOf() {
     return argumentOf(__PRETTY_FUNCTION__);
 }
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

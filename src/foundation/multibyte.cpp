@@ -6,7 +6,7 @@
 #include <cwchar>
 #include <string>
 
-namespace kvjxml {
+namespace kvj {
 
 namespace {
 
@@ -75,4 +75,4 @@ void toWide(const char* text, wchar_t* out, std::size_t capacity) noexcept {
     static_cast<void>(std::mbsrtowcs(out, &text, capacity, &state));
 }
 
-}  // namespace kvjxml
+}  // namespace kvj

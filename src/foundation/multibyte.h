@@ -5,7 +5,7 @@
 
 #include <cstddef>
 
-namespace kvjxml {
+namespace kvj {
 
 /// Converts up to `length` wide characters to at most `length` bytes, and a NUL when there is room for it, as wcstombs
 /// does with a terminated text. A character that the locale does not know ends the text. Nothing after these characters
@@ -18,6 +18,6 @@ void toMultibyte(const wchar_t* text, std::size_t length, char* bytes);
 /// mbstowcs does. A byte that the locale does not know ends the text.
 void toWide(const char* text, wchar_t* out, std::size_t capacity) noexcept;
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

@@ -16,7 +16,7 @@
 #include "foundation/rows.h"
 #include "foundation/values.h"
 
-namespace kvjxml {
+namespace kvj {
 
 /// The integer that readNumber makes of a text.
 template <class Value>
@@ -217,6 +217,6 @@ template <const auto& Text>
 inline constexpr ReadRule<List<RecordOfTable<Text>>> each{
     Text.description, [](Element element, List<RecordOfTable<Text>>& list) { return readNext(element, list, Text); }};
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

@@ -4,7 +4,7 @@
 #include <cstring>
 #include <string_view>
 
-namespace kvjxml {
+namespace kvj {
 
 namespace {
 
@@ -81,4 +81,4 @@ char* decodeReference(char* from, char*& to, bool utf8) noexcept {
     return from + 1;  // Only the ampersand is lost.
 }
 
-}  // namespace kvjxml
+}  // namespace kvj

@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-namespace kvjxml {
+namespace kvj {
 
 namespace {
 
@@ -114,4 +114,4 @@ std::size_t firstRepeated(Attributes attributes, const char* text) {
     return first;
 }
 
-}  // namespace kvjxml
+}  // namespace kvj

@@ -8,7 +8,7 @@
 
 #include "foundation/document.h"
 
-namespace kvjxml {
+namespace kvj {
 
 /// The index of the first attribute whose name has come before; the number of attributes when no name comes twice. The
 /// names are offsets into `text`; they are terminated, and Text::padding follows the last. The time is in proportion to
@@ -16,6 +16,6 @@ namespace kvjxml {
 /// @throws std::bad_alloc  when there are many.
 std::size_t firstRepeated(std::span<const Document::Attribute> attributes, const char* text);
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

@@ -4,7 +4,7 @@
 
 #include "foundation/multibyte.h"
 
-namespace kvjxml {
+namespace kvj {
 
 Text copyOf(const wchar_t* reply, std::int64_t length) {
     if (length <= 0) return {};
@@ -30,4 +30,4 @@ void tellFault(const Document& reply, TiXmlDocument& host) {
     if (reply.fault()) host.SetError(reply.fault().id, nullptr, nullptr, TIXML_ENCODING_UNKNOWN);
 }
 
-}  // namespace kvjxml
+}  // namespace kvj

@@ -10,7 +10,7 @@
 #include "foundation/document.h"
 #include "foundation/element.h"
 
-namespace kvjxml {
+namespace kvj {
 
 /// A reply of `length` wide characters. It is converted in the process's locale, and of the multibyte text the first
 /// `length` bytes are taken. Nothing is read for a length of zero or less.
@@ -30,6 +30,6 @@ public:
 /// document keeps what it reported before.
 void tellFault(const Document& reply, TiXmlDocument& host);
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

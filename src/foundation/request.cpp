@@ -5,7 +5,7 @@
 
 #include "foundation/multibyte.h"
 
-namespace kvjxml {
+namespace kvj {
 
 namespace {
 
@@ -45,4 +45,4 @@ bool print(const TiXmlDocument& request, char* out) {
 
 bool save(const TiXmlDocument& request, const char* path) { return path != nullptr && request.SaveFile(path); }
 
-}  // namespace kvjxml
+}  // namespace kvj

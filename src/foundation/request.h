@@ -6,7 +6,7 @@
 
 #include <tinyxml.h>
 
-namespace kvjxml {
+namespace kvj {
 
 /// Appends the declaration (version 1.0, UTF-8) and an empty root element to `request`.
 /// @return the root, owned by `request`. What `request` holds already stays in front of them.
@@ -28,6 +28,6 @@ bool print(const TiXmlDocument& request, char* out);
 /// Saves `request` to the file `path`. False when `path` is null or the file cannot be written.
 bool save(const TiXmlDocument& request, const char* path);
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

@@ -20,7 +20,7 @@
 #include "foundation/element.h"
 #include "foundation/kinds.h"
 
-namespace kvjxml {
+namespace kvj {
 
 /// How the content of an element gets into a record.
 template <class Record>
@@ -89,6 +89,6 @@ Record recordOf(const std::array<RowOf<Record>, N>&);
 template <const auto& Table>
 using RecordOfTable = decltype(recordOf(Table));
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

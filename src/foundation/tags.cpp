@@ -3,7 +3,7 @@
 #include <memory>
 #include <utility>
 
-namespace kvjxml {
+namespace kvj {
 
 namespace {
 
@@ -51,4 +51,4 @@ bool setAttribute(TiXmlElement* element, const char* name, const char* value) {
     return true;
 }
 
-}  // namespace kvjxml
+}  // namespace kvj

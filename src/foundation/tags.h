@@ -6,7 +6,7 @@
 
 #include <tinyxml.h>
 
-namespace kvjxml {
+namespace kvj {
 
 /// Adds an element; null when it cannot be added.
 TiXmlElement* addTag(TiXmlElement* parent, const char* name);
@@ -23,6 +23,6 @@ bool addText(TiXmlElement* element, const char* text);
 /// Sets an attribute.
 bool setAttribute(TiXmlElement* element, const char* name, const char* value);
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

@@ -9,7 +9,7 @@
 #include "foundation/convert.h"
 #include "foundation/element.h"
 
-namespace kvjxml {
+namespace kvj {
 
 /// Stores what a conversion makes of a text, if there is one.
 template <class Value, class Convert>
@@ -69,6 +69,6 @@ inline bool readAttribute(Element element, const char* name, float& value) {
     return content != nullptr && convert::scanFloat(content, value);
 }
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

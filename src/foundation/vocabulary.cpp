@@ -5,7 +5,7 @@
 namespace Kavrin {
 
 namespace {
-constexpr auto coercivities = kvjxml::Words(kvjxml::coercivitiesWritten).rows;
+constexpr auto coercivities = kvj::Words(kvj::coercivitiesWritten).rows;
 }
 const char* const COERCIVITYTYPES[3] = {coercivities[0].word, coercivities[1].word, coercivities[2].word};
 

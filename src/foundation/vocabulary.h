@@ -6,7 +6,7 @@
 
 #include "foundation/words.h"
 
-namespace kvjxml {
+namespace kvj {
 
 /// An unknown ribbon counts as black: the printer then prints, in one colour, instead of refusing the card.
 inline constexpr int blackRibbon = 263;
@@ -96,6 +96,6 @@ inline constexpr WordTable laminatorRegistrations{-1, {{"none", 0}, {"hologram",
 /// Both directions; an unknown word reads, and an unknown mode is written, as the hopper.
 inline constexpr WordTable feederModes{1, {{"manual", 0}, {"hopper", 1}, {"alreadyinprinter", 2}, {"auto", 3}}};
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

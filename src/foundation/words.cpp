@@ -5,7 +5,7 @@
 
 #include "foundation/convert.h"
 
-namespace kvjxml {
+namespace kvj {
 
 namespace {
 
@@ -50,4 +50,4 @@ bool writeWord(char* buffer, Words table, int code, const char* other) noexcept 
     return word != nullptr;
 }
 
-}  // namespace kvjxml
+}  // namespace kvj

@@ -8,7 +8,7 @@
 #include <span>
 #include <string_view>
 
-namespace kvjxml {
+namespace kvj {
 
 struct Word {
     const char* word;
@@ -74,6 +74,6 @@ const char* wordOf(Words table, int code, const char* other) noexcept;
 /// @return whether it has one; false for a null buffer.
 bool writeWord(char* buffer, Words table, int code, const char* other = "") noexcept;
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

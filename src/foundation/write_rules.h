@@ -13,7 +13,7 @@
 #include "foundation/member.h"
 #include "foundation/read_rules.h"
 
-namespace kvjxml {
+namespace kvj {
 
 /// Adds a setting with its range.
 inline bool addSetting(TiXmlElement* parent, const char* name, const Kavrin::_MinMaxVal& setting) {
@@ -26,9 +26,9 @@ inline bool addSetting(TiXmlElement* parent, const char* name, const Kavrin::_Mi
     return addSetting(parent, name, convert::fromDouble(setting.min, 2).c_str(), max.c_str(), max.c_str());
 }
 
-}  // namespace kvjxml
+}  // namespace kvj
 
-namespace kvjxml::put {
+namespace kvj::put {
 
 /// A decimal number.
 template <auto Member>
@@ -173,6 +173,6 @@ inline constexpr WriteRule<RecordOf<Member>> part{
         return addGroup(parent, name, record.*Member, Table, selection);
     }};
 
-}  // namespace kvjxml::put
+}  // namespace kvj::put
 
 #endif

@@ -5,9 +5,9 @@
 
 namespace Kavrin {
 
-using kvjxml::Reply;
-using kvjxml::walk;
-namespace tables = kvjxml::identity;
+using kvj::Reply;
+using kvj::walk;
+namespace tables = kvj::identity;
 
 bool KVJGetEIN::GetMagneticTracks(const char& reply, int /*ignored*/, __GETTRACK& tracks) {
     return walk(Reply(&reply).root("data"), tracks, tables::magneticTracks);

@@ -8,16 +8,16 @@
 
 namespace Kavrin {
 
-using kvjxml::Element;
-using kvjxml::List;
-using kvjxml::Reply;
-using kvjxml::walk;
-namespace tables = kvjxml::identity;
+using kvj::Element;
+using kvj::List;
+using kvj::Reply;
+using kvj::walk;
+namespace tables = kvj::identity;
 
 namespace {
 
 bool readServiceHistory(Element element, _tagLogServiceXML& log) {
-    const std::size_t children = kvjxml::countChildren(element);
+    const std::size_t children = kvj::countChildren(element);
     if (children == 0) return false;
     if (log.entries == nullptr) {
         log.count = static_cast<int>(children);

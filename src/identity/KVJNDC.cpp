@@ -8,7 +8,7 @@ namespace Kavrin {
 bool KVJNDC::GetLaminatorResponse(const wchar_t& reply, int length, char* response) {
     constexpr int capacity = 512;
     if (response == nullptr) return false;
-    return kvjxml::readText(kvjxml::Reply(reply, length).root("lam_ndc_rsp"), response, capacity);
+    return kvj::readText(kvj::Reply(reply, length).root("lam_ndc_rsp"), response, capacity);
 }
 
 }  // namespace Kavrin

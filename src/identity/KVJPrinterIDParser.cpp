@@ -7,13 +7,13 @@ namespace Kavrin {
 
 bool KVJPrinterIDParser::ParsePrinterInfo(const char* text, int /*length*/, KVPrinterInfo& info) {
     Clear();
-    const kvjxml::Reply reply(text);
-    kvjxml::tellFault(reply, *this);
-    return kvjxml::walk(reply.root("printer_id"), info, kvjxml::identity::printer);
+    const kvj::Reply reply(text);
+    kvj::tellFault(reply, *this);
+    return kvj::walk(reply.root("printer_id"), info, kvj::identity::printer);
 }
 
 bool KVJPrinterIDParser::parsePrinterInfo(TiXmlElement* element, KVPrinterInfo& info) {
-    return kvjxml::walk(element, info, kvjxml::identity::printer);
+    return kvj::walk(element, info, kvj::identity::printer);
 }
 
 }  // namespace Kavrin

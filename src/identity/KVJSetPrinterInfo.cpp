@@ -6,11 +6,11 @@
 
 namespace Kavrin {
 
-using kvjxml::compose;
-namespace tables = kvjxml::identity;
+using kvj::compose;
+namespace tables = kvj::identity;
 
 bool KVJSetPrinterInfo::SetPrinterInfo(const KVPrinterInfo& info, wchar_t* out, int capacity, long mask) {
-    return addPrinterInfo(kvjxml::beginRequest(*this, "printer_id"), info, mask) && saveJob(out, capacity);
+    return addPrinterInfo(kvj::beginRequest(*this, "printer_id"), info, mask) && saveJob(out, capacity);
 }
 
 bool KVJSetPrinterInfo::addPrinterInfo(TiXmlElement* under, const KVPrinterInfo& info, long mask) {
@@ -23,10 +23,10 @@ bool KVJSetPrinterInfo::addPrinterInfo(TiXmlElement* under, const KVPrinterInfo&
 }
 
 bool KVJSetPrinterInfo::saveJob(wchar_t* out, int capacity) {
-    kvjxml::keepDiagnosticCopy(*this, "/tmp/printidsettings");
-    return kvjxml::print(*this, out, capacity);
+    kvj::keepDiagnosticCopy(*this, "/tmp/printidsettings");
+    return kvj::print(*this, out, capacity);
 }
 
-bool KVJSetPrinterInfo::saveJob(char* path) { return kvjxml::save(*this, path); }
+bool KVJSetPrinterInfo::saveJob(char* path) { return kvj::save(*this, path); }
 
 }  // namespace Kavrin

@@ -7,7 +7,7 @@
 #include "foundation/read_rules.h"
 #include "foundation/rows.h"
 
-namespace kvjxml::identity {
+namespace kvj::identity {
 
 using namespace Kavrin;  // the records
 
@@ -53,6 +53,6 @@ inline constexpr auto magneticTracks = rows<__GETTRACK>({
 
 // clang-format on
 
-}  // namespace kvjxml::identity
+}  // namespace kvj::identity
 
 #endif

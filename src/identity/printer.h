@@ -7,7 +7,7 @@
 #include "foundation/read_rules.h"
 #include "foundation/write_rules.h"
 
-namespace kvjxml::identity {
+namespace kvj::identity {
 
 using namespace Kavrin;  // the records
 
@@ -77,6 +77,6 @@ inline constexpr auto printerSections = sections<KVPrinterInfo>({
 
 // clang-format on
 
-}  // namespace kvjxml::identity
+}  // namespace kvj::identity
 
 #endif

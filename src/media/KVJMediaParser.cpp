@@ -5,11 +5,11 @@
 
 namespace Kavrin {
 
-using kvjxml::walk;
-namespace tables = kvjxml::media;
+using kvj::walk;
+namespace tables = kvj::media;
 
 bool KVJMediaParser::GetMedia(const char& text, int /*length*/, _KVMediaInfo& media) {
-    walk(kvjxml::Reply(&text).root("media"), media, tables::catalogue);
+    walk(kvj::Reply(&text).root("media"), media, tables::catalogue);
     return false;  // Whatever was read: hosts look at the lists.
 }
 
@@ -50,7 +50,7 @@ bool KVJMediaParser::getLaminateInfo(TiXmlElement* entry, _KVMediaInfo& media) {
 }
 
 bool KVJMediaParser::getCardInformation(TiXmlElement* element, _CardInfo& card) {
-    return walk(element, card, kvjxml::cardInformation<_CardInfo>);
+    return walk(element, card, kvj::cardInformation<_CardInfo>);
 }
 
 bool KVJMediaParser::getTransferTemp(TiXmlElement* element, _TransferTempInfo& temperatures) {

@@ -5,8 +5,8 @@
 
 namespace Kavrin {
 
-using kvjxml::addGroup;
-namespace tables = kvjxml::media;
+using kvj::addGroup;
+namespace tables = kvj::media;
 
 namespace {
 
@@ -25,13 +25,13 @@ bool isBasic(const _CardInfo& card) { return card.type == 0 || card.type == 1; }
 
 bool KVJSetMedia::SetMedia(_KVMediaInfo& media, wchar_t* out, int outLen, char allCards, bool omitTransfer) {
     omitTransfer_ = omitTransfer;
-    root_ = kvjxml::beginRequest(*this, "media");
+    root_ = kvj::beginRequest(*this, "media");
     addMedia(media, allCards);
     return saveJob(out, outLen);
 }
 
 bool KVJSetMedia::addMedia(_KVMediaInfo& media, char allCards) {
-    TiXmlElement* cards = kvjxml::addTag(rootIn(*this, root_), "cards");
+    TiXmlElement* cards = kvj::addTag(rootIn(*this, root_), "cards");
     if (cards == nullptr || media.cards == nullptr) return false;
     bool result = false;
     for (const _CardInfo* card : *media.cards) {
@@ -45,23 +45,23 @@ bool KVJSetMedia::addCardInfo(TiXmlElement* under, _CardInfo card) {
 }
 
 bool KVJSetMedia::addCardInformation(TiXmlElement* under, const _CardInfo& card) {
-    return addGroup(under, "information", card, kvjxml::cardInformationTags<_CardInfo>);
+    return addGroup(under, "information", card, kvj::cardInformationTags<_CardInfo>);
 }
 
 bool KVJSetMedia::addTransferTemps(TiXmlElement* under, const _TransferTempInfo& temperatures) {
-    return addGroup(under, "transfer_temps", temperatures, kvjxml::transferTemps);
+    return addGroup(under, "transfer_temps", temperatures, kvj::transferTemps);
 }
 
 bool KVJSetMedia::addTransferSpeeds(TiXmlElement* under, const _TransferSpeedInfo& speeds) {
-    return addGroup(under, "transfer_speeds", speeds, kvjxml::transferSpeeds);
+    return addGroup(under, "transfer_speeds", speeds, kvj::transferSpeeds);
 }
 
 bool KVJSetMedia::addLaminationAdjustments(TiXmlElement* under, const _LaminationAdjustmentsNew& adjustments) {
-    return addGroup(under, "laminator_adjustments", adjustments, kvjxml::laminatorAdjustments);
+    return addGroup(under, "laminator_adjustments", adjustments, kvj::laminatorAdjustments);
 }
 
-bool KVJSetMedia::saveJob(wchar_t* out, int outLen) { return kvjxml::print(*this, out, outLen); }
+bool KVJSetMedia::saveJob(wchar_t* out, int outLen) { return kvj::print(*this, out, outLen); }
 
-bool KVJSetMedia::saveJob(char* path) { return kvjxml::save(*this, path); }
+bool KVJSetMedia::saveJob(char* path) { return kvj::save(*this, path); }
 
 }  // namespace Kavrin

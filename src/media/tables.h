@@ -11,7 +11,7 @@
 #include "foundation/write_rules.h"
 #include "shared/card.h"
 
-namespace kvjxml::media {
+namespace kvj::media {
 
 using namespace Kavrin;  // the records
 
@@ -70,8 +70,8 @@ inline constexpr auto card = rows<_CardInfo>({
 });
 inline constexpr auto cardTags = tags<_CardInfo>({
     {"information",           put::group<cardInformationTags<_CardInfo>>},
-    {"transfer_temps",        put::part<&_CardInfo::transferTemps, kvjxml::transferTemps>, withTransfer},
-    {"transfer_speeds",       put::part<&_CardInfo::transferSpeeds, kvjxml::transferSpeeds>, withTransfer},
+    {"transfer_temps",        put::part<&_CardInfo::transferTemps, kvj::transferTemps>, withTransfer},
+    {"transfer_speeds",       put::part<&_CardInfo::transferSpeeds, kvj::transferSpeeds>, withTransfer},
     {"laminator_adjustments", put::part<&_CardInfo::laminationAdjustments, laminatorAdjustments>},
     {"cal_table",             put::number<&_CardInfo::calTable>},
 });
@@ -103,6 +103,6 @@ inline constexpr auto catalogue = rows<_KVMediaInfo>({
 
 // clang-format on
 
-}  // namespace kvjxml::media
+}  // namespace kvj::media
 
 #endif

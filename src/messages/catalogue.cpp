@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-namespace kvjxml {
+namespace kvj {
 
 namespace {
 
@@ -43,4 +43,4 @@ void endCatalogue(void* media) {
     std::destroy_at(&catalogue);
 }
 
-}  // namespace kvjxml
+}  // namespace kvj

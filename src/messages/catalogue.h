@@ -3,7 +3,7 @@
 #ifndef KVJXML_MESSAGES_CATALOGUE_H
 #define KVJXML_MESSAGES_CATALOGUE_H
 
-namespace kvjxml {
+namespace kvj {
 
 /// Makes a built catalogue of memory that is large enough for one.
 void beginCatalogue(void* media);
@@ -11,6 +11,6 @@ void beginCatalogue(void* media);
 /// Releases the lists and their entries.
 void endCatalogue(void* media);
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

@@ -6,7 +6,7 @@
 
 #include "fields/list.h"
 
-namespace kvjxml {
+namespace kvj {
 
 namespace command {
 
@@ -192,6 +192,6 @@ inline constexpr FieldList<
 
 // clang-format on
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

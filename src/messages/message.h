@@ -11,7 +11,7 @@
 #include "foundation/element.h"
 #include "foundation/rows.h"
 
-namespace kvjxml {
+namespace kvj {
 
 /// A reply in both forms that readers take.
 struct ReplyText {
@@ -49,6 +49,6 @@ struct Message {
 
 std::span<const Message> messages();
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

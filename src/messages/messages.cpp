@@ -33,7 +33,7 @@
 #include "status/sensors.h"
 #include "status/wireless.h"
 
-namespace kvjxml {
+namespace kvj {
 
 namespace {
 
@@ -204,4 +204,4 @@ constexpr Message table[] = {
 
 std::span<const Message> messages() { return table; }
 
-}  // namespace kvjxml
+}  // namespace kvj

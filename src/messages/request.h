@@ -10,7 +10,7 @@
 #include "fields/field.h"
 #include "foundation/rows.h"
 
-namespace kvjxml {
+namespace kvj {
 
 /// What a host says besides the record.
 struct Choices {
@@ -59,6 +59,6 @@ struct Request {
 
 std::span<const Request> requests();
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

@@ -18,7 +18,7 @@
 #include "messages/commands.h"
 #include "messages/request.h"
 
-namespace kvjxml {
+namespace kvj {
 
 namespace {
 
@@ -209,4 +209,4 @@ constexpr Request table[] = {
 
 std::span<const Request> requests() { return table; }
 
-}  // namespace kvjxml
+}  // namespace kvj

@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <memory>
 
-namespace kvjxml {
+namespace kvj {
 
 /// Memory for a record, all zero, as hosts begin with. What a host does to it after that, and at the end, is that of a
 /// row of the messages or requests.
@@ -29,6 +29,6 @@ private:
     std::unique_ptr<std::byte[]> memory_;  ///< aligned for any record
 };
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

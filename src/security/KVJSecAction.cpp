@@ -8,11 +8,11 @@
 
 namespace Kavrin {
 
-using kvjxml::Element;
-using kvjxml::readText;
-using kvjxml::Reply;
-using kvjxml::walk;
-namespace tables = kvjxml::security;
+using kvj::Element;
+using kvj::readText;
+using kvj::Reply;
+using kvj::walk;
+namespace tables = kvj::security;
 
 namespace {
 
@@ -61,7 +61,7 @@ bool KVJSecAction::ParseSecureDirectiveValues(const wchar_t& reply, unsigned lon
     if (const char* text = action.text()) {
         // The whole text is searched for the name: in the part that fits, an unlocking could look like a locking.
         const char* name = actionNameIn(text);
-        kvjxml::convert::copy(name != nullptr ? name : text, directive.action, sizeof directive.action);
+        kvj::convert::copy(name != nullptr ? name : text, directive.action, sizeof directive.action);
     }
     return walk(action, directive, tables::directive);
 }

@@ -9,10 +9,10 @@
 
 namespace Kavrin {
 
-using kvjxml::addTag;
-using kvjxml::addText;
-using kvjxml::beginRequestAnew;
-using kvjxml::setAttribute;
+using kvj::addTag;
+using kvj::addText;
+using kvj::beginRequestAnew;
+using kvj::setAttribute;
 
 namespace {
 
@@ -56,7 +56,7 @@ bool KVJSetSecActions::SecureActionDirectiveXML(_tagSecActionXMLValues& values, 
     TiXmlElement* action = addTag(root_, "action");
     addPrinter(action, values);
     addTag(action, "hmac", values.hmac);
-    if (timeout != 0) addTag(action, "timeout", kvjxml::convert::fromInt(timeout).c_str());
+    if (timeout != 0) addTag(action, "timeout", kvj::convert::fromInt(timeout).c_str());
     return saveJob(out, capacity);
 }
 
@@ -97,8 +97,8 @@ bool KVJSetSecActions::SetHostAndEncryptXML(wchar_t* out, int capacity, char* cu
     return saveJob(out, capacity);
 }
 
-bool KVJSetSecActions::saveJob(wchar_t* out, int capacity) { return kvjxml::print(*this, out, capacity); }
+bool KVJSetSecActions::saveJob(wchar_t* out, int capacity) { return kvj::print(*this, out, capacity); }
 
-bool KVJSetSecActions::saveJob(char* path) { return kvjxml::save(*this, path); }
+bool KVJSetSecActions::saveJob(char* path) { return kvj::save(*this, path); }
 
 }  // namespace Kavrin

@@ -11,7 +11,7 @@
 #include "foundation/rows.h"
 #include "foundation/words.h"
 
-namespace kvjxml::security {
+namespace kvj::security {
 
 using namespace Kavrin;  // the records
 
@@ -131,6 +131,6 @@ inline constexpr auto keyChanges = rows<_tagSecSetKeys>({
 
 // clang-format on
 
-}  // namespace kvjxml::security
+}  // namespace kvj::security
 
 #endif

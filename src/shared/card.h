@@ -8,7 +8,7 @@
 #include "foundation/both.h"
 #include "foundation/vocabulary.h"
 
-namespace kvjxml {
+namespace kvj {
 
 // ---- One-bit fields, which no member pointer can name ----
 
@@ -101,6 +101,6 @@ inline constexpr auto laminatorAdjustments = bothWays<Kavrin::_LaminationAdjustm
 
 // clang-format on
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

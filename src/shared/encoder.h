@@ -9,7 +9,7 @@
 #include "foundation/vocabulary.h"
 #include "foundation/write_rules.h"
 
-namespace kvjxml {
+namespace kvj {
 
 // clang-format off
 
@@ -31,6 +31,6 @@ inline constexpr auto internalEncoderTags = tags<Kavrin::_InternalEncoderInfo>({
 
 // clang-format on
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

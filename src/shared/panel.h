@@ -6,7 +6,7 @@
 #include "CapabilitiesRecords.h"
 #include "foundation/both.h"
 
-namespace kvjxml {
+namespace kvj {
 
 // clang-format off
 
@@ -18,6 +18,6 @@ inline constexpr auto panelLanguage = bothWays<Kavrin::_OCPLanguageCaps>({
 
 // clang-format on
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 #endif

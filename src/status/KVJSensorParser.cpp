@@ -5,9 +5,9 @@
 
 namespace Kavrin {
 
-using kvjxml::Reply;
-using kvjxml::walk;
-namespace tables = kvjxml::status;
+using kvj::Reply;
+using kvj::walk;
+namespace tables = kvj::status;
 
 bool KVJSensorParser::ParseSensorInfo(const wchar_t& reply, int length, KVSensorInfo& sensors) {
     return walk(Reply(reply, length).root("get_sensor_status"), sensors, tables::sensorInfo);

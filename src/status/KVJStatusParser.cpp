@@ -11,12 +11,12 @@
 
 namespace Kavrin {
 
-using kvjxml::anyCodeOf;
-using kvjxml::Element;
-using kvjxml::List;
-using kvjxml::Reply;
-using kvjxml::walk;
-namespace tables = kvjxml::status;
+using kvj::anyCodeOf;
+using kvj::Element;
+using kvj::List;
+using kvj::Reply;
+using kvj::walk;
+namespace tables = kvj::status;
 
 namespace {
 
@@ -31,7 +31,7 @@ bool readJobList(Element element, KVJobList& list) {
 
 bool readAccessPoints(Element element, _tagAccessPoints& list) {
     if (!element) return false;
-    const std::size_t children = kvjxml::countChildren(element);
+    const std::size_t children = kvj::countChildren(element);
     // A host that passes no count has an array as large as the reply needs.
     const bool isShort = list.accessPoints != nullptr && list.count > 0 && list.count < children;
     if (!isShort) list.count = static_cast<unsigned int>(children);

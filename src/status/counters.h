@@ -8,7 +8,7 @@
 #include "foundation/rows.h"
 #include "foundation/words.h"
 
-namespace kvjxml::status {
+namespace kvj::status {
 
 using namespace Kavrin;  // the records
 
@@ -57,6 +57,6 @@ inline constexpr auto cleaningStatus = rows<KVCleaningStatus>({
 
 // clang-format on
 
-}  // namespace kvjxml::status
+}  // namespace kvj::status
 
 #endif

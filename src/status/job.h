@@ -8,7 +8,7 @@
 #include "foundation/rows.h"
 #include "foundation/words.h"
 
-namespace kvjxml::status {
+namespace kvj::status {
 
 using namespace Kavrin;  // the records
 
@@ -162,6 +162,6 @@ inline constexpr auto jobList = rows<List<_KVJobInfo>>({
 
 // clang-format on
 
-}  // namespace kvjxml::status
+}  // namespace kvj::status
 
 #endif

@@ -10,7 +10,7 @@
 #include "foundation/rows.h"
 #include "foundation/vocabulary.h"
 
-namespace kvjxml::status {
+namespace kvj::status {
 
 /// A description that the words of a panel sequence are appended to.
 struct PanelSequence {
@@ -100,6 +100,6 @@ inline constexpr auto mediaStatus = rows<MediaStatus>({
 
 // clang-format on
 
-}  // namespace kvjxml::status
+}  // namespace kvj::status
 
 #endif

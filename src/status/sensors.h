@@ -7,7 +7,7 @@
 #include "foundation/read_rules.h"
 #include "foundation/rows.h"
 
-namespace kvjxml::status {
+namespace kvj::status {
 
 using namespace Kavrin;  // the records
 
@@ -163,6 +163,6 @@ inline constexpr auto sensorStates = rows<_KVPrinterSensorInfo>({
 
 // clang-format on
 
-}  // namespace kvjxml::status
+}  // namespace kvj::status
 
 #endif

@@ -8,7 +8,7 @@
 #include "foundation/rows.h"
 #include "foundation/words.h"
 
-namespace kvjxml::status {
+namespace kvj::status {
 
 using namespace Kavrin;  // the records
 
@@ -135,6 +135,6 @@ inline constexpr auto accessPoints = rows<List<_tagAccessPoint>>({
 
 // clang-format on
 
-}  // namespace kvjxml::status
+}  // namespace kvj::status
 
 #endif

@@ -16,7 +16,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 using Add = std::function<bool(KVJSetCaps&, TiXmlElement*)>;
 

@@ -12,14 +12,14 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 template <class Entry>
 using EntryReader = bool (KVJCapsParser::*)(TiXmlElement*, Entry&);
 
 template <class Entry>
 bool read(EntryReader<Entry> reader, const std::string& children, Entry& entry) {
-    Xml element(kvjxml::tests::element("any", children).c_str());
+    Xml element(kvj::tests::element("any", children).c_str());
     return (KVJCapsParser().*reader)(element.root(), entry);
 }
 

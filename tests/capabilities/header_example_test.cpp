@@ -13,7 +13,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 /// A "fonts" section for each number, with fonts of the names "1", "2" and so on.
 std::string replyWith(const std::vector<int>& sections) {

@@ -19,7 +19,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 // ---- Entries that are told apart by a number from 1 to 5: what the printer sends, and what of the entry it fills ----
 
@@ -63,7 +63,7 @@ struct ListCase {
 template <auto Array>
 constexpr ListCase listOf(const char* section, const char* entry,
                           bool (KVJCapsParser::*reader)(TiXmlElement*, _Capabilities&), int _Capabilities::*count) {
-    using Entry = std::remove_pointer_t<kvjxml::ValueOf<Array>>;
+    using Entry = std::remove_pointer_t<kvj::ValueOf<Array>>;
     return {
         .section = section,
         .entry = entry,

@@ -13,7 +13,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 /// Composes a whole description and reads it into a preset record with preset entries in its lists.
 struct ReadBack {

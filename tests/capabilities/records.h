@@ -10,7 +10,7 @@
 
 #include "CapabilitiesRecords.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 using namespace Kavrin;  // the records
 
@@ -171,6 +171,6 @@ inline auto fieldsOf(const Lists& lists) {
                       fieldsOf(lists.templates), fieldsOf(lists.graphics), fieldsOf(lists.barCodes));
 }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

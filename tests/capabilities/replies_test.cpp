@@ -14,7 +14,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 /// Reads a reply; the result of that is the same for every reply.
 void read(const std::string& reply, _Capabilities& caps) {

@@ -11,7 +11,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 template <class Record>
 using SectionReader = bool (KVJCapsParser::*)(TiXmlElement*, Record&);

@@ -5,7 +5,7 @@
 
 #include "capabilities/records.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 struct Whole {
     Lists lists{{{1, 0}, {2, 3}},
@@ -44,6 +44,6 @@ struct Whole {
     Whole& operator=(const Whole&) = delete;
 };
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

@@ -19,7 +19,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 /// The element at a path of an expected document, as it is written.
 std::string expectedAt(const std::string& document, std::string_view path) {
@@ -250,7 +250,7 @@ TEST(Network, WithoutAddressesHasNeitherThemNorSnmp) {
     _KVConfiguration cfg;
     fill(cfg);
     TiXmlElement under("ethernet");
-    EXPECT_TRUE(kvjxml::compose(&under, cfg.ethernet, kvjxml::configuration::networkTags, {.withoutAddresses = true}));
+    EXPECT_TRUE(kvj::compose(&under, cfg.ethernet, kvj::configuration::networkTags, {.withoutAddresses = true}));
     EXPECT_EQ(written(under), "<ethernet><dhcp>enabled</dhcp></ethernet>");
 }
 
@@ -258,8 +258,8 @@ TEST(Network, WithoutAddressesOnlyTheWiredOneLacksThemInAWholeDocument) {
     _KVConfiguration cfg;
     fill(cfg);
     TiXmlElement under("r");
-    EXPECT_TRUE(kvjxml::compose(&under, cfg, kvjxml::configuration::documentSections,
-                                {.withoutAddresses = true, .sections = 0x6}));
+    EXPECT_TRUE(
+        kvj::compose(&under, cfg, kvj::configuration::documentSections, {.withoutAddresses = true, .sections = 0x6}));
     TiXmlElement wireless("r");
     EXPECT_TRUE(KVJSetConfig().addConfiguration(&wireless, cfg, 0x4, 0));
     const std::string wirelessAlone = written(wireless).substr(std::strlen("<r>"));

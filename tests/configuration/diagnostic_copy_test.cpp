@@ -9,7 +9,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 class ConfigurationCopy : public Requests {
 protected:
@@ -84,7 +84,7 @@ TEST_F(ConfigurationCopy, IsNotLeftByReading) {
 
 TEST_F(ConfigurationCopy, IsNotLeftThroughALinkAndTheHostHasItsRequest) {
     const TemporaryFolder folder;
-    kvjxml::tests::write(folder / "target", "precious");
+    kvj::tests::write(folder / "target", "precious");
     std::filesystem::create_symlink(folder / "target", copyPath);
     EXPECT_EQ(composed(cfg, {.mask = 0x40}), (Composed{true, documentOf("standby_timeout")}));
     EXPECT_EQ(contentOf(folder / "target"), "precious");

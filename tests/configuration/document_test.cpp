@@ -14,7 +14,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 /// A configuration that is preset, zero, or as the complete reply has it.
 struct Record {

@@ -16,7 +16,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 /// A field, its element, and the reader of the section that it stands in.
 template <class Record, class Value>

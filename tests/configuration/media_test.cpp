@@ -11,7 +11,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 // ---- Ribbon ----
 

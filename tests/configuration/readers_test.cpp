@@ -14,7 +14,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 /// What a reader made of a record, and its result.
 struct Outcome {

@@ -9,7 +9,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 /// A setting with a fraction comes back as its maximum.
 template <class Record>

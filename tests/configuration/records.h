@@ -19,7 +19,7 @@
 #include "support/files.h"
 #include "support/xml.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 using namespace Kavrin;  // the records
 
@@ -412,6 +412,6 @@ inline void fillAsRead(_KVConfiguration& cfg) {
     cfg.internalEncoder.contactStation = false;
 }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

@@ -14,7 +14,7 @@
 #include "configuration/records.h"
 #include "hostile/copy_scope.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 /// Every bit that a mask can have in 32 bits.
 inline constexpr long allBits = 0xFFFFFFFF;
@@ -58,6 +58,6 @@ protected:
     static bool leftCopy() { return std::filesystem::exists(std::filesystem::symlink_status(copyPath)); }
 };
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

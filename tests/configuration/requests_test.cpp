@@ -12,7 +12,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 /// A bit, and the documents that it alone gives for a retransfer printer and for one that prints on the card; null for
 /// none. The order is that in which the sections are written.

@@ -12,7 +12,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 // ---- A setting by itself ----
 

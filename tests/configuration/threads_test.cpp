@@ -17,7 +17,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 constexpr int rounds = 100;
 

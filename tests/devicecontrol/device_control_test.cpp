@@ -24,8 +24,8 @@
 
 #include "support/files.h"
 
-using kvjxml::tests::contentOf;
-using kvjxml::tests::TemporaryFolder;
+using kvj::tests::contentOf;
+using kvj::tests::TemporaryFolder;
 
 namespace {
 
@@ -635,7 +635,7 @@ TEST_F(LastCommand, ThatWasComposedWithoutABufferIsThere) {
 TEST_F(LastCommand, IsSavedToAFile) {
     const TemporaryFolder folder;
     const std::filesystem::path path = folder / "command.xml";
-    kvjxml::tests::write(path, std::string(5000, 'z'));
+    kvj::tests::write(path, std::string(5000, 'z'));
     for (std::size_t i = 0; i < composers.size(); ++i) {
         const std::string text = printed([&](char* out) { return composers[i](control, out, someCapacity); });
         EXPECT_TRUE(control.saveJob(Text(path.string()))) << i;
@@ -674,7 +674,7 @@ protected:
 
     /// A copy that no command leaves, to see whether it is touched.
     static void writeOld() {
-        kvjxml::tests::write(copyPath, "old");
+        kvj::tests::write(copyPath, "old");
         std::filesystem::permissions(copyPath, std::filesystem::perms{0644});
     }
     static void expectOld() {
@@ -706,7 +706,7 @@ TEST_F(ServiceCopy, IsReadableByItsOwnerAlone) {
 }
 
 TEST_F(ServiceCopy, ReplacesALongerOneThatEveryoneCouldRead) {
-    kvjxml::tests::write(copyPath, std::string(5000, 'z'));
+    kvj::tests::write(copyPath, std::string(5000, 'z'));
     std::filesystem::permissions(copyPath, std::filesystem::perms{0644});
     motor(0, 0, 0, 9);
     EXPECT_EQ(contentOf(copyPath), command("<motor state=\"off\" />"));
@@ -755,7 +755,7 @@ TEST_F(ServiceCopy, IsNotTouchedByASaveToAnotherFile) {
 
 TEST_F(ServiceCopy, ALinkIsNotFollowed) {
     const std::filesystem::path target = folder / "target";
-    kvjxml::tests::write(target, "precious");
+    kvj::tests::write(target, "precious");
     std::filesystem::permissions(target, std::filesystem::perms{0644});
     std::filesystem::create_symlink(target, copyPath);
     EXPECT_EQ(motor(0, 0, 0, 9), command("<motor state=\"off\" />"));

@@ -5,7 +5,7 @@
 
 using std::string_view_literals::operator""sv;
 
-namespace kvjxml::differential {
+namespace kvj::differential {
 
 namespace {
 
@@ -95,4 +95,4 @@ void compareAllOfTokens(Comparison& compare, unsigned length) {
     }
 }
 
-}  // namespace kvjxml::differential
+}  // namespace kvj::differential

@@ -8,7 +8,7 @@
 #include "foundation/element.h"
 #include "support/tree.h"
 
-namespace kvjxml::differential {
+namespace kvj::differential {
 
 namespace {
 
@@ -73,4 +73,4 @@ void Comparison::operator()(std::string_view text) {
     }
 }
 
-}  // namespace kvjxml::differential
+}  // namespace kvj::differential

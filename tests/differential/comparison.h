@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-namespace kvjxml::differential {
+namespace kvj::differential {
 
 class Comparison {
 public:
@@ -37,6 +37,6 @@ private:
     unsigned of_ = 1;
 };
 
-}  // namespace kvjxml::differential
+}  // namespace kvj::differential
 
 #endif

@@ -17,7 +17,7 @@
 
 namespace {
 
-using namespace kvjxml::differential;
+using namespace kvj::differential;
 
 struct Options {
     std::uint64_t length = 0;

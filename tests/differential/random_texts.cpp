@@ -7,7 +7,7 @@
 
 using std::string_view_literals::operator""sv;
 
-namespace kvjxml::differential {
+namespace kvj::differential {
 
 namespace {
 
@@ -293,4 +293,4 @@ void compareRandom(Comparison& compare, std::uint64_t documents, std::uint64_t s
     }
 }
 
-}  // namespace kvjxml::differential
+}  // namespace kvj::differential

@@ -9,7 +9,7 @@
 
 #include "comparison.h"
 
-namespace kvjxml::differential {
+namespace kvj::differential {
 
 /// Every text of at most this many characters, in each of the places where characters have another meaning.
 void compareAllOfCharacters(Comparison& compare, unsigned length);
@@ -21,6 +21,6 @@ void compareAllOfTokens(Comparison& compare, unsigned length);
 void compareRandom(Comparison& compare, std::uint64_t documents, std::uint64_t seed,
                    const std::vector<std::string>& samples);
 
-}  // namespace kvjxml::differential
+}  // namespace kvj::differential
 
 #endif

@@ -12,11 +12,11 @@
 
 namespace {
 
-using kvjxml::Field;
-using kvjxml::FieldType;
-using kvjxml::RecordType;
-using kvjxml::Storage;
-using kvjxml::tests::runShell;
+using kvj::Field;
+using kvj::FieldType;
+using kvj::RecordType;
+using kvj::Storage;
+using kvj::tests::runShell;
 
 constexpr std::size_t byte = 8;
 
@@ -137,7 +137,7 @@ std::string padded(std::string text, std::size_t width) {
 
 std::string layout() {
     std::ostringstream out;
-    for (const RecordType* const type : kvjxml::recordTypes()) {
+    for (const RecordType* const type : kvj::recordTypes()) {
         out << type->name << ": size " << type->size << ", alignment " << type->alignment << '\n';
         for (const Place& place : placesOf(*type)) {
             const bool isBit = place.field->type == FieldType::bit;
@@ -159,7 +159,7 @@ TEST(Layout, IsTheOneThatHostsWereBuiltAgainst) {
 
 // A list in another order than the record's, or with a field too few where padding is, would not end here and there.
 TEST(Layout, AFieldBeginsWhereTheOneBeforeItEnds) {
-    for (const RecordType* const type : kvjxml::recordTypes()) {
+    for (const RecordType* const type : kvj::recordTypes()) {
         std::size_t end = 0;
         for (const Place& place : placesOf(*type)) {
             EXPECT_EQ(place.begin, roundedUp(end, alignmentOf(*place.field)))

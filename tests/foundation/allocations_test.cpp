@@ -13,9 +13,9 @@
 
 namespace {
 
-using kvjxml::tests::Name;
-using kvjxml::tests::wide;
-using kvjxml::tests::Xml;
+using kvj::tests::Name;
+using kvj::tests::wide;
+using kvj::tests::Xml;
 
 template <class Action>
 std::size_t allocationsOf(Action action) {
@@ -39,13 +39,13 @@ const std::string reply =
     "</get_count>\n";
 
 std::size_t allocationsOfNarrow(const std::string& text) {
-    return allocationsOf([&] { static_cast<void>(kvjxml::Reply(text.c_str()).root("get_count")); });
+    return allocationsOf([&] { static_cast<void>(kvj::Reply(text.c_str()).root("get_count")); });
 }
 
 std::size_t allocationsOfWide(const std::string& text) {
     const std::wstring characters = wide(text);
     const auto length = static_cast<std::int64_t>(characters.size());
-    return allocationsOf([&] { static_cast<void>(kvjxml::Reply(characters[0], length).root("get_count")); });
+    return allocationsOf([&] { static_cast<void>(kvj::Reply(characters[0], length).root("get_count")); });
 }
 
 TEST(Allocations, AnOrdinaryReplyTakesOneForItsText) {
@@ -62,15 +62,15 @@ TEST(Allocations, ALongReplyTakesOneMoreForItsElements) {
 
 TEST(Allocations, AReplyWithoutTextTakesNone) {
     const wchar_t nothing = L'\0';
-    EXPECT_EQ(allocationsOf([&] { static_cast<void>(kvjxml::Reply(nothing, 0).root("get_count")); }), 0U);
+    EXPECT_EQ(allocationsOf([&] { static_cast<void>(kvj::Reply(nothing, 0).root("get_count")); }), 0U);
 }
 
 TEST(Allocations, ACharacterCutAtTheEndOfAReplyDoesNotLeadBehindIt) {
     for (std::size_t padding = 0; padding < 8; ++padding) {
         const std::string text = "<?xml version=\"1.0\"?>" + std::string(padding, ' ') + "<a>\xF0";
-        const kvjxml::Reply cut(text.c_str());
+        const kvj::Reply cut(text.c_str());
         ASSERT_TRUE(cut.root("a")) << padding;
-        EXPECT_EQ(kvjxml::countChildren(cut.root("a")), 0U) << padding;
+        EXPECT_EQ(kvj::countChildren(cut.root("a")), 0U) << padding;
     }
 }
 

@@ -7,10 +7,10 @@
 
 #include "support/xml.h"
 
-namespace both = kvjxml::both;
-using kvjxml::Kind;
-using kvjxml::tests::written;
-using kvjxml::tests::Xml;
+namespace both = kvj::both;
+using kvj::Kind;
+using kvj::tests::written;
+using kvj::tests::Xml;
 
 namespace {
 
@@ -27,16 +27,16 @@ struct Record {
     Inner inner{};
 };
 
-constexpr kvjxml::WordTable states{-1, {{"idle", 1}, {"printing", 2}}};
-constexpr kvjxml::WordTable levels({{"low", 0x2}, {"high", 0x1}});
+constexpr kvj::WordTable states{-1, {{"idle", 1}, {"printing", 2}}};
+constexpr kvj::WordTable levels({{"low", 0x2}, {"high", 0x1}});
 
-constexpr auto inner = kvjxml::bothWays<Inner>({
+constexpr auto inner = kvj::bothWays<Inner>({
     {"speed", both::setting<&Inner::speed>},
 });
-constexpr auto more = kvjxml::bothWays<Record>({
+constexpr auto more = kvj::bothWays<Record>({
     {"flag", both::yesOrNo<&Record::flag>},
 });
-constexpr auto table = kvjxml::bothWays<Record>({
+constexpr auto table = kvj::bothWays<Record>({
     {"number", both::number<&Record::number>},
     {"text", both::text<&Record::text>},
     {"state", both::word<&Record::state, states, "none">},
@@ -52,13 +52,13 @@ constexpr const char* document =
 Record recordIn(const std::string& xml) {
     Xml read(xml.c_str());
     Record record;
-    EXPECT_TRUE(kvjxml::walk(read.root(), record, table));
+    EXPECT_TRUE(kvj::walk(read.root(), record, table));
     return record;
 }
 
 std::string writtenOf(const Record& record) {
     TiXmlElement root("r");
-    EXPECT_TRUE(kvjxml::compose(&root, record, table));
+    EXPECT_TRUE(kvj::compose(&root, record, table));
     return written(root);
 }
 
@@ -90,8 +90,8 @@ TEST(Both, ACodeWithoutAWordIsWrittenAsTheOtherWord) {
 }
 
 TEST(Both, SaysOfItselfWhatEachDirectionDoes) {
-    const auto& read = kvjxml::described<table>;
-    const auto& put = kvjxml::describedWritten<table>;
+    const auto& read = kvj::described<table>;
+    const auto& put = kvj::describedWritten<table>;
     ASSERT_EQ(read.size(), 6U);
     ASSERT_EQ(put.size(), 6U);
     EXPECT_EQ(read[2].description.otherWord, "");

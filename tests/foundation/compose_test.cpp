@@ -12,9 +12,9 @@
 #include "foundation/write_rules.h"
 #include "support/xml.h"
 
-using kvjxml::Selection;
-using kvjxml::tests::written;
-namespace put = kvjxml::put;
+using kvj::Selection;
+using kvj::tests::written;
+namespace put = kvj::put;
 
 namespace {
 
@@ -43,20 +43,20 @@ struct Record {
     const Entry* entries = nullptr;
 };
 
-constexpr kvjxml::WordTable states{-1, {{"idle", 0}, {"printing", 2}}};
-constexpr kvjxml::WordTable levels({{"low", 0x8}, {"off", 0x1}});
+constexpr kvj::WordTable states{-1, {{"idle", 0}, {"printing", 2}}};
+constexpr kvj::WordTable levels({{"low", 0x8}, {"off", 0x1}});
 
 /// A rule that adds nothing and says so.
-constexpr kvjxml::WriteRule<Record> failing{
+constexpr kvj::WriteRule<Record> failing{
     {}, [](TiXmlElement*, const char*, const Record&, const Selection&) { return false; }};
-constexpr kvjxml::Condition<Record> whenReady{"when ready",
-                                              [](const Record& record, const Selection&) { return record.ready; }};
+constexpr kvj::Condition<Record> whenReady{"when ready",
+                                           [](const Record& record, const Selection&) { return record.ready; }};
 
 /// What a table makes of a record, without white space, and its result.
 template <class Table>
 auto composed(const Table& table, const Record& record = {}, const Selection& selection = {}) {
     TiXmlElement parent("p");
-    const bool result = kvjxml::compose(&parent, record, table, selection);
+    const bool result = kvj::compose(&parent, record, table, selection);
     return std::pair(written(parent), result);
 }
 
@@ -64,14 +64,14 @@ std::pair<std::string, bool> wrote(const std::string& content) { return {"<p>" +
 const std::pair<std::string, bool> nothing{"<p />", false};
 
 /// What a rule adds as "x".
-std::pair<std::string, bool> added(const kvjxml::WriteRule<Record>& rule, const Record& record = {},
+std::pair<std::string, bool> added(const kvj::WriteRule<Record>& rule, const Record& record = {},
                                    const Selection& selection = {}) {
-    return composed(kvjxml::Tag<Record>{"x", rule}, record, selection);
+    return composed(kvj::Tag<Record>{"x", rule}, record, selection);
 }
 
 // ---- The loop ----
 
-constexpr auto three = kvjxml::tags<Record>({
+constexpr auto three = kvj::tags<Record>({
     {"integer", put::number<&Record::integer>},
     {"uuid", put::text<&Record::uuid>},
     {"unsigned", put::number<&Record::unsignedInteger>},
@@ -84,16 +84,16 @@ TEST(Compose, WritesEachRowInTheOrderOfTheTable) {
 TEST(Compose, AddsBehindWhatTheParentHolds) {
     TiXmlElement parent("p");
     parent.LinkEndChild(new TiXmlElement("before"));
-    EXPECT_TRUE(kvjxml::compose(&parent, Record{}, three));
-    EXPECT_TRUE(kvjxml::compose(&parent, Record{}, three));
+    EXPECT_TRUE(kvj::compose(&parent, Record{}, three));
+    EXPECT_TRUE(kvj::compose(&parent, Record{}, three));
     const std::string rows = "<integer>1</integer><uuid>abc</uuid><unsigned>2</unsigned>";
     EXPECT_EQ(written(parent), "<p><before />" + rows + rows + "</p>");
 }
 
-TEST(Compose, WithoutAParentItIsFalse) { EXPECT_FALSE(kvjxml::compose(nullptr, Record{}, three)); }
+TEST(Compose, WithoutAParentItIsFalse) { EXPECT_FALSE(kvj::compose(nullptr, Record{}, three)); }
 
 TEST(Compose, ARowMayRepeatAName) {
-    constexpr auto twice = kvjxml::tags<Record>({
+    constexpr auto twice = kvj::tags<Record>({
         {"name", put::text<&Record::uuid>},
         {"name", put::yesOrNo<&Record::ready>},
     });
@@ -101,12 +101,12 @@ TEST(Compose, ARowMayRepeatAName) {
 }
 
 TEST(Compose, TheResultIsThatOfTheLastRowWritten) {
-    constexpr auto last = kvjxml::tags<Record>({
+    constexpr auto last = kvj::tags<Record>({
         {"integer", put::number<&Record::integer>},
         {"failing", failing},
     });
     EXPECT_EQ(composed(last), std::pair(std::string("<p><integer>1</integer></p>"), false));
-    constexpr auto first = kvjxml::tags<Record>({
+    constexpr auto first = kvj::tags<Record>({
         {"failing", failing},
         {"integer", put::number<&Record::integer>},
     });
@@ -114,12 +114,12 @@ TEST(Compose, TheResultIsThatOfTheLastRowWritten) {
 }
 
 TEST(Compose, ARowThatIsNotWantedHasNoSayInTheResult) {
-    constexpr auto table = kvjxml::tags<Record>({
+    constexpr auto table = kvj::tags<Record>({
         {"integer", put::number<&Record::integer>},
         {"failing", failing, whenReady},
     });
     EXPECT_EQ(composed(table), wrote("<integer>1</integer>"));
-    constexpr auto other = kvjxml::tags<Record>({
+    constexpr auto other = kvj::tags<Record>({
         {"failing", failing},
         {"integer", put::number<&Record::integer>, whenReady},
     });
@@ -127,26 +127,26 @@ TEST(Compose, ARowThatIsNotWantedHasNoSayInTheResult) {
 }
 
 TEST(Compose, WithoutAnyRowThatIsWantedItIsFalse) {
-    constexpr auto table = kvjxml::tags<Record>({{"integer", put::number<&Record::integer>, whenReady}});
+    constexpr auto table = kvj::tags<Record>({{"integer", put::number<&Record::integer>, whenReady}});
     EXPECT_EQ(composed(table), nothing);
 }
 
 TEST(Compose, WithoutAnyRowThatIsWantedItIsWhatTheCallerSays) {
-    constexpr auto table = kvjxml::tags<Record>({{"failing", failing, whenReady}});
+    constexpr auto table = kvj::tags<Record>({{"failing", failing, whenReady}});
     TiXmlElement parent("p");
     Record record;
-    EXPECT_TRUE(kvjxml::compose(&parent, record, table, {}, true));
+    EXPECT_TRUE(kvj::compose(&parent, record, table, {}, true));
     record.ready = true;
-    EXPECT_FALSE(kvjxml::compose(&parent, record, table, {}, true));
+    EXPECT_FALSE(kvj::compose(&parent, record, table, {}, true));
 }
 
 // ---- Conditions ----
 
-constexpr auto conditional = kvjxml::tags<Record>({
+constexpr auto conditional = kvj::tags<Record>({
     {"always", put::number<&Record::integer>},
     {"ready", put::number<&Record::integer>, whenReady},
-    {"transfer", put::number<&Record::integer>, kvjxml::withTransfer},
-    {"direct", put::number<&Record::integer>, kvjxml::directToCard},
+    {"transfer", put::number<&Record::integer>, kvj::withTransfer},
+    {"direct", put::number<&Record::integer>, kvj::directToCard},
 });
 
 TEST(Condition, IsAskedOfTheRecordAndOfTheSelection) {
@@ -163,21 +163,21 @@ TEST(Condition, IsAskedOfTheRecordAndOfTheSelection) {
 }
 
 TEST(Condition, HoldsForOneRowAloneAsWell) {
-    constexpr kvjxml::Tag<Record> row{"x", put::number<&Record::integer>, whenReady};
+    constexpr kvj::Tag<Record> row{"x", put::number<&Record::integer>, whenReady};
     Record record;
     EXPECT_EQ(composed(row, record), nothing);
     record.ready = true;
     EXPECT_EQ(composed(row, record), wrote("<x>1</x>"));
-    EXPECT_FALSE(kvjxml::compose(nullptr, record, row));
+    EXPECT_FALSE(kvj::compose(nullptr, record, row));
 }
 
 // ---- Sections ----
 
-constexpr auto sections = kvjxml::sections<Record>({
+constexpr auto sections = kvj::sections<Record>({
     {0x1, "one", put::number<&Record::integer>},
-    {0x4, "four", put::number<&Record::integer>, kvjxml::always, true},
+    {0x4, "four", put::number<&Record::integer>, kvj::always, true},
     {0x4, "four_too", put::number<&Record::integer>},
-    {0x8, "eight", put::number<&Record::integer>, kvjxml::withTransfer},
+    {0x8, "eight", put::number<&Record::integer>, kvj::withTransfer},
     {0x100000000, "far", put::number<&Record::integer>},
 });
 
@@ -285,11 +285,11 @@ TEST(WriteRule, BitsAreAnElementForEachThatHasAWordInTheOrderOfTheWords) {
     EXPECT_EQ(added(rule, record), wrote("<x>low</x><x>off</x>"));
 }
 
-constexpr auto innerTags = kvjxml::tags<Inner>({
+constexpr auto innerTags = kvj::tags<Inner>({
     {"number", put::number<&Inner::number>},
-    {"direct", put::number<&Inner::number>, kvjxml::directToCard},
+    {"direct", put::number<&Inner::number>, kvj::directToCard},
 });
-constexpr auto unwantedTags = kvjxml::tags<Record>({{"integer", put::number<&Record::integer>, whenReady}});
+constexpr auto unwantedTags = kvj::tags<Record>({{"integer", put::number<&Record::integer>, whenReady}});
 
 TEST(WriteRule, AGroupIsAnElementAroundItsRows) {
     EXPECT_EQ(added(put::group<three>), wrote("<x><integer>1</integer><uuid>abc</uuid><unsigned>2</unsigned></x>"));
@@ -311,14 +311,14 @@ TEST(WriteRule, AGroupWithoutARowThatIsWantedIsAnEmptyElementAndFalse) {
 }
 
 TEST(WriteRule, AGroupHasTheResultOfItsLastRow) {
-    static constexpr auto table = kvjxml::tags<Record>({
+    static constexpr auto table = kvj::tags<Record>({
         {"integer", put::number<&Record::integer>},
         {"failing", failing},
     });
     EXPECT_EQ(added(put::group<table>), std::pair(std::string("<p><x><integer>1</integer></x></p>"), false));
 }
 
-constexpr auto entryTags = kvjxml::tags<Entry>({{"number", put::number<&Entry::number>}});
+constexpr auto entryTags = kvj::tags<Entry>({{"number", put::number<&Entry::number>}});
 constexpr const auto& entryRule = put::group<entryTags>;
 constexpr const auto& listRule = put::list<&Record::entryCount, &Record::entries, "entry", entryRule>;
 
@@ -349,10 +349,10 @@ TEST(WriteRule, AListWithoutEntriesIsAnEmptyElementAndFalse) {
 TEST(WriteRule, EntriesAloneAreAddedToTheParentItself) {
     const Entry entries[] = {{7}, {8}};
     TiXmlElement parent("p");
-    EXPECT_TRUE(kvjxml::addEntries(&parent, "e", entries, 2, entryRule));
+    EXPECT_TRUE(kvj::addEntries(&parent, "e", entries, 2, entryRule));
     EXPECT_EQ(written(parent), "<p><e><number>7</number></e><e><number>8</number></e></p>");
-    EXPECT_FALSE(kvjxml::addEntries(&parent, nullptr, entries, 2, entryRule));
-    EXPECT_FALSE(kvjxml::addEntries(nullptr, "e", entries, 2, entryRule));
+    EXPECT_FALSE(kvj::addEntries(&parent, nullptr, entries, 2, entryRule));
+    EXPECT_FALSE(kvj::addEntries(nullptr, "e", entries, 2, entryRule));
     EXPECT_EQ(written(parent), "<p><e><number>7</number></e><e><number>8</number></e></p>");
 }
 
@@ -362,7 +362,7 @@ TEST(WriteRule, WithoutAParentEachIsFalse) {
     record.levels = 0xF;
     record.entries = entries;
     record.entryCount = 1;
-    const auto addedToNothing = [&](const kvjxml::WriteRule<Record>& rule) {
+    const auto addedToNothing = [&](const kvj::WriteRule<Record>& rule) {
         return rule.write(nullptr, "x", record, {});
     };
     EXPECT_FALSE(addedToNothing(put::number<&Record::integer>));
@@ -383,7 +383,7 @@ TEST(WriteRule, WithoutAParentEachIsFalse) {
 // ---- What rows say of themselves ----
 
 TEST(DescribedRequest, HasItsRowsInOrderWithTheirConditions) {
-    const auto& rows = kvjxml::described<conditional>;
+    const auto& rows = kvj::described<conditional>;
     ASSERT_EQ(rows.size(), 4U);
     EXPECT_EQ(rows[0].name, "always");
     EXPECT_EQ(rows[0].description.field.name, "integer");
@@ -395,37 +395,37 @@ TEST(DescribedRequest, HasItsRowsInOrderWithTheirConditions) {
 }
 
 TEST(DescribedRequest, ASectionSaysItsBitAndItsCondition) {
-    const auto& rows = kvjxml::described<sections>;
+    const auto& rows = kvj::described<sections>;
     ASSERT_EQ(rows.size(), 5U);
     EXPECT_EQ(rows[1].section, 0x4);
     EXPECT_EQ(rows[2].section, 0x4);
     EXPECT_EQ(rows[4].section, 0x100000000);
     EXPECT_EQ(rows[1].condition, "");
-    EXPECT_EQ(rows[3].condition, kvjxml::withTransfer.description);
+    EXPECT_EQ(rows[3].condition, kvj::withTransfer.description);
 }
 
 TEST(DescribedRequest, AFlagSaysBothItsWords) {
-    const kvjxml::Description description = put::either<&Record::ready, "on", "off">.description;
-    EXPECT_EQ(description.kind, kvjxml::Kind::either);
+    const kvj::Description description = put::either<&Record::ready, "on", "off">.description;
+    EXPECT_EQ(description.kind, kvj::Kind::either);
     EXPECT_EQ(description.field.name, "ready");
     EXPECT_EQ(description.word, "on");
     EXPECT_EQ(description.otherWord, "off");
 }
 
 TEST(DescribedRequest, AWordSaysItsTableAndTheWordOfOtherCodes) {
-    const kvjxml::Description description = put::word<&Record::state, states, "none">.description;
-    EXPECT_EQ(description.kind, kvjxml::Kind::word);
+    const kvj::Description description = put::word<&Record::state, states, "none">.description;
+    EXPECT_EQ(description.kind, kvj::Kind::word);
     EXPECT_EQ(description.field.name, "state");
     EXPECT_EQ(description.otherWord, "none");
     EXPECT_TRUE(description.words.name.ends_with("states"));
-    EXPECT_EQ(description.words.words.rows.data(), kvjxml::Words(states).rows.data());
+    EXPECT_EQ(description.words.words.rows.data(), kvj::Words(states).rows.data());
 }
 
 TEST(DescribedRequest, GroupsPartsAndListsSayTheirRows) {
     EXPECT_TRUE(put::group<three>.description.field.empty());
     EXPECT_EQ(put::group<three>.description.group.size(), 3U);
-    const kvjxml::Description part = put::part<&Record::inner, innerTags>.description;
-    EXPECT_EQ(part.kind, kvjxml::Kind::part);
+    const kvj::Description part = put::part<&Record::inner, innerTags>.description;
+    EXPECT_EQ(part.kind, kvj::Kind::part);
     EXPECT_EQ(part.field.name, "inner");
     ASSERT_EQ(part.group.size(), 2U);
     EXPECT_EQ(part.group[0].name, "number");

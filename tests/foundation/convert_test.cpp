@@ -21,8 +21,8 @@
 
 #include "foundation/locale_scope.h"
 
-namespace convert = kvjxml::convert;
-using kvjxml::tests::LocaleScope;
+namespace convert = kvj::convert;
+using kvj::tests::LocaleScope;
 
 namespace {
 

@@ -22,23 +22,23 @@
 #include "support/file_size_limit.h"
 #include "support/files.h"
 
-using kvjxml::tests::contentOf;
-using kvjxml::tests::FileSizeLimit;
-using kvjxml::tests::TemporaryFolder;
+using kvj::tests::contentOf;
+using kvj::tests::FileSizeLimit;
+using kvj::tests::TemporaryFolder;
 
 namespace {
 
 /// A request with a text of this many characters.
 TiXmlDocument requestOf(std::size_t length) {
     TiXmlDocument request;
-    TiXmlElement* root = kvjxml::beginRequest(request, "nonce");
+    TiXmlElement* root = kvj::beginRequest(request, "nonce");
     root->LinkEndChild(new TiXmlText(std::string(length, 'n').c_str()));
     return request;
 }
 
 std::string textOf(const TiXmlDocument& request) {
     const TemporaryFolder folder;
-    if (!kvjxml::save(request, (folder / "request.xml").c_str())) throw std::runtime_error("cannot save");
+    if (!kvj::save(request, (folder / "request.xml").c_str())) throw std::runtime_error("cannot save");
     return contentOf(folder / "request.xml");
 }
 
@@ -68,7 +68,7 @@ protected:
     std::filesystem::path other = elsewhere / "other";
 
     void keep(std::size_t length = 10) const {
-        kvjxml::keepDiagnosticCopy(requestOf(length), path.c_str());
+        kvj::keepDiagnosticCopy(requestOf(length), path.c_str());
         for (const auto& entry : std::filesystem::directory_iterator(folder / "")) EXPECT_EQ(entry.path(), path);
     }
 };
@@ -95,7 +95,7 @@ TEST_F(DiagnosticCopy, IsReadableByItsOwnerUnderATightUmask) {
 }
 
 TEST_F(DiagnosticCopy, ReplacesALongerOneThatEveryoneCouldRead) {
-    kvjxml::tests::write(path, std::string(5000, 'z'));
+    kvj::tests::write(path, std::string(5000, 'z'));
     std::filesystem::permissions(path, std::filesystem::perms{0644});
     keep();
     EXPECT_EQ(contentOf(path), copyText);
@@ -103,7 +103,7 @@ TEST_F(DiagnosticCopy, ReplacesALongerOneThatEveryoneCouldRead) {
 }
 
 TEST_F(DiagnosticCopy, WhoHoldsTheOldOneOpenSeesTheOldOne) {
-    kvjxml::tests::write(path, "old");
+    kvj::tests::write(path, "old");
     std::filesystem::permissions(path, std::filesystem::perms{0644});
     std::ifstream reader(path);
     keep();
@@ -114,7 +114,7 @@ TEST_F(DiagnosticCopy, WhoHoldsTheOldOneOpenSeesTheOldOne) {
 // ---- What is in the way ----
 
 TEST_F(DiagnosticCopy, ALinkIsNotFollowed) {
-    kvjxml::tests::write(other, "precious");
+    kvj::tests::write(other, "precious");
     std::filesystem::permissions(other, std::filesystem::perms{0644});
     std::filesystem::create_symlink(other, path);
     keep();
@@ -131,7 +131,7 @@ TEST_F(DiagnosticCopy, ALinkToNothingCreatesNothing) {
 }
 
 TEST_F(DiagnosticCopy, AFileWithASecondNameIsNotTouched) {
-    kvjxml::tests::write(other, "precious");
+    kvj::tests::write(other, "precious");
     std::filesystem::permissions(other, std::filesystem::perms{0644});
     std::filesystem::create_hard_link(other, path);
     keep();
@@ -142,7 +142,7 @@ TEST_F(DiagnosticCopy, AFileWithASecondNameIsNotTouched) {
 
 TEST_F(DiagnosticCopy, AFileOfAnotherUserKeepsItsContent) {
     if (geteuid() != 0) GTEST_SKIP() << "only root can give a file away";
-    kvjxml::tests::write(path, "precious");
+    kvj::tests::write(path, "precious");
     std::filesystem::permissions(path, std::filesystem::perms{0644});
     ASSERT_EQ(chown(path.c_str(), 65534, 65534), 0);
     keep();
@@ -177,12 +177,12 @@ TEST_F(DiagnosticCopy, APipeThatSomebodyReadsIsNotTouched) {
 }
 
 TEST_F(DiagnosticCopy, AMissingFolderStaysMissing) {
-    kvjxml::keepDiagnosticCopy(requestOf(10), (folder / "missing/settings").c_str());
+    kvj::keepDiagnosticCopy(requestOf(10), (folder / "missing/settings").c_str());
     EXPECT_FALSE(std::filesystem::exists(folder / "missing"));
 }
 
 TEST_F(DiagnosticCopy, AFileThatIsReadOnlyStaysAsItIs) {
-    kvjxml::tests::write(path, "old");
+    kvj::tests::write(path, "old");
     std::filesystem::permissions(path, std::filesystem::perms{0400});
     keep();
     EXPECT_EQ(contentOf(path), "old");
@@ -259,7 +259,7 @@ TEST_F(DiagnosticCopy, BeyondTheLimitTheOldOneStaysAndNoSignalComes) {
             pthread_sigmask(how, &signals, nullptr);
             const std::vector<int> blocked = blockedSignals();
             for (const rlim_t limit : {0U, 4096U}) {
-                kvjxml::tests::write(path, "old");
+                kvj::tests::write(path, "old");
                 {
                     const FileSizeLimit limited(limit);
                     keep(100'000);
@@ -343,7 +343,7 @@ constexpr std::size_t lengths[] = {100, 20'000, 60'000};
 
 void keepAll(const std::filesystem::path& path, int rounds) {
     for (int round = 0; round < rounds; ++round) {
-        for (const std::size_t length : lengths) kvjxml::keepDiagnosticCopy(requestOf(length), path.c_str());
+        for (const std::size_t length : lengths) kvj::keepDiagnosticCopy(requestOf(length), path.c_str());
     }
 }
 

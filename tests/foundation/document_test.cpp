@@ -15,8 +15,8 @@
 #include "foundation/locale_scope.h"
 #include "foundation/reading.h"
 
-using namespace kvjxml;
-using namespace kvjxml::tests;
+using namespace kvj;
+using namespace kvj::tests;
 using std::string_view_literals::operator""sv;
 
 #define MARK "\xEF\xBB\xBF"  // Makes a text UTF-8 that it begins.

@@ -8,9 +8,9 @@
 #include "support/tree.h"
 #include "support/xml.h"
 
-using namespace kvjxml;
-using kvjxml::tests::documentOf;
-using kvjxml::tests::Xml;
+using namespace kvj;
+using kvj::tests::documentOf;
+using kvj::tests::Xml;
 
 namespace {
 

@@ -12,8 +12,8 @@
 #include "foundation/name.h"
 #include "support/xml.h"
 
-using kvjxml::tests::Name;
-using kvjxml::tests::Xml;
+using kvj::tests::Name;
+using kvj::tests::Xml;
 
 namespace {
 

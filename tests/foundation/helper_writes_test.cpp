@@ -12,8 +12,8 @@
 #include "foundation/name.h"
 #include "support/xml.h"
 
-using kvjxml::tests::Name;
-using kvjxml::tests::written;
+using kvj::tests::Name;
+using kvj::tests::written;
 
 namespace {
 

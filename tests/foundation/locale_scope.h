@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 /// While this lives, the process is in the locale `name`; after that it is in its former one again.
 class LocaleScope {
@@ -24,6 +24,6 @@ private:
     std::string before_;
 };
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

@@ -13,9 +13,9 @@
 #include "foundation/locale_scope.h"
 #include "support/guarded_memory.h"
 
-using kvjxml::tests::End;
-using kvjxml::tests::GuardedMemory;
-using kvjxml::tests::LocaleScope;
+using kvj::tests::End;
+using kvj::tests::GuardedMemory;
+using kvj::tests::LocaleScope;
 
 namespace {
 
@@ -29,7 +29,7 @@ std::string multibyte(const std::wstring& text) {
     std::ranges::copy(text, exact);
     const GuardedMemory buffers(text.size() + 1);
     char* const bytes = buffers.at(End::back, text.size());
-    kvjxml::toMultibyte(exact, text.size(), bytes);
+    kvj::toMultibyte(exact, text.size(), bytes);
     return {bytes, text.size()};
 }
 
@@ -155,7 +155,7 @@ TEST(ToMultibyte, ACharacterOfUtf8CostsTheEndTheBytesBeyondOne) {
 /// A buffer of as many '#', with what the text is converted to in its beginning.
 std::wstring wideOf(const std::string& text, std::size_t capacity) {
     std::wstring buffer(capacity + 1, L'#');
-    kvjxml::toWide(text.c_str(), buffer.data(), capacity);
+    kvj::toWide(text.c_str(), buffer.data(), capacity);
     return buffer;
 }
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 class Name {
 public:
@@ -17,6 +17,6 @@ private:
     std::string text_;
 };
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

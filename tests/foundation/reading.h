@@ -10,7 +10,7 @@
 
 #include "support/tree.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 inline constexpr int none = 0;
 inline constexpr int wrongElement = TiXmlBase::TIXML_ERROR_PARSING_ELEMENT;
@@ -38,6 +38,6 @@ inline void expectReadings(std::initializer_list<Reading> readings) {
     }
 }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

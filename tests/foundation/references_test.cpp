@@ -13,7 +13,7 @@ using std::string_literals::operator""s;
 /// What is written for the reference that a text begins with, and what then follows; "none" when it cannot be decoded.
 std::string decoded(std::string text, bool utf8) {
     char* to = text.data();
-    const char* rest = kvjxml::decodeReference(text.data(), to, utf8);
+    const char* rest = kvj::decodeReference(text.data(), to, utf8);
     if (rest == nullptr) return "none";
     return std::string(text.data(), to) + "|" + rest;
 }
@@ -81,7 +81,7 @@ TEST(References, OfANumberWithoutASemicolonAreNone) {
 TEST(References, MayBeDecodedToWhereTheyStandOrBefore) {
     std::string text = "abc&#x10000;";
     char* to = text.data() + 1;
-    EXPECT_EQ(kvjxml::decodeReference(text.data() + 3, to, true), text.data() + text.size());
+    EXPECT_EQ(kvj::decodeReference(text.data() + 3, to, true), text.data() + text.size());
     EXPECT_EQ(to, text.data() + 5);
     EXPECT_EQ(text.substr(0, 5), "a\xF0\x90\x80\x80");
 }

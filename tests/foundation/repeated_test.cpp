@@ -12,7 +12,7 @@
 
 namespace {
 
-using kvjxml::Document;
+using kvj::Document;
 
 std::size_t firstRepeated(const std::vector<std::string>& names) {
     std::string text = "\n";
@@ -21,8 +21,8 @@ std::size_t firstRepeated(const std::vector<std::string>& names) {
         attributes.push_back({static_cast<std::uint32_t>(text.size()), 0});
         text += name + '\0';
     }
-    text.append(kvjxml::Text::padding, '\0');
-    return kvjxml::firstRepeated(attributes, text.c_str());
+    text.append(kvj::Text::padding, '\0');
+    return kvj::firstRepeated(attributes, text.c_str());
 }
 
 /// The same, found in the plainest way.

@@ -17,13 +17,13 @@
 #include "support/tree.h"
 #include "support/xml.h"
 
-using kvjxml::Element;
-using kvjxml::Reply;
-using kvjxml::tests::End;
-using kvjxml::tests::GuardedMemory;
-using kvjxml::tests::LocaleScope;
-using kvjxml::tests::treeOf;
-using kvjxml::tests::wide;
+using kvj::Element;
+using kvj::Reply;
+using kvj::tests::End;
+using kvj::tests::GuardedMemory;
+using kvj::tests::LocaleScope;
+using kvj::tests::treeOf;
+using kvj::tests::wide;
 using std::string_literals::operator""s;
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
@@ -153,7 +153,7 @@ TEST(Reply, ATerminatorWithinTheTextEndsIt) {
 // ---- Cut replies ----
 
 TEST(Reply, EveryBeginningOfOneHasTheRootOnceItsNameIsThere) {
-    const std::string text = kvjxml::tests::contentOf(EXAMPLES_DIR "/replies/get_job_status.xml");
+    const std::string text = kvj::tests::contentOf(EXAMPLES_DIR "/replies/get_job_status.xml");
     const std::size_t named = text.find("<get_job_status") + 15;
     ASSERT_LT(named, text.size());
     for (std::size_t length = 1; length <= text.size(); ++length) {

@@ -12,10 +12,10 @@
 #include "support/files.h"
 #include "support/xml.h"
 
-using kvjxml::tests::contentOf;
-using kvjxml::tests::LocaleScope;
-using kvjxml::tests::TemporaryFolder;
-using kvjxml::tests::wide;
+using kvj::tests::contentOf;
+using kvj::tests::LocaleScope;
+using kvj::tests::TemporaryFolder;
+using kvj::tests::wide;
 
 namespace {
 
@@ -27,7 +27,7 @@ void addText(TiXmlElement* element, const char* text) { element->LinkEndChild(ne
 class Request : public TiXmlDocument {
 public:
     Request() {
-        TiXmlElement* root = kvjxml::beginRequest(*this, "media");
+        TiXmlElement* root = kvj::beginRequest(*this, "media");
         root->SetAttribute("version", 2);
         TiXmlElement* cards = root->LinkEndChild(new TiXmlElement("cards"))->ToElement();
         addText(cards->LinkEndChild(new TiXmlElement("name"))->ToElement(), "a & b");
@@ -52,7 +52,7 @@ struct Printed {
 
 Printed printed(const TiXmlDocument& request, int capacity, std::size_t room) {
     std::wstring buffer(room + 2, L'#');
-    const bool result = kvjxml::print(request, &buffer[1], capacity);
+    const bool result = kvj::print(request, &buffer[1], capacity);
     for (wchar_t& character : buffer) {
         if (character == L'\0') character = L'0';
     }
@@ -61,7 +61,7 @@ Printed printed(const TiXmlDocument& request, int capacity, std::size_t room) {
 
 TiXmlDocument documentOf(const char* text) {
     TiXmlDocument request;
-    addText(kvjxml::beginRequest(request, "r"), text);
+    addText(kvj::beginRequest(request, "r"), text);
     return request;
 }
 
@@ -69,7 +69,7 @@ TiXmlDocument documentOf(const char* text) {
 
 TEST(Request, BeginsWithTheDeclarationAndAnEmptyRoot) {
     TiXmlDocument request;
-    const TiXmlElement* root = kvjxml::beginRequest(request, "configuration");
+    const TiXmlElement* root = kvj::beginRequest(request, "configuration");
     ASSERT_NE(root, nullptr);
     EXPECT_STREQ(root->Value(), "configuration");
     EXPECT_EQ(root->GetDocument(), &request);
@@ -78,35 +78,35 @@ TEST(Request, BeginsWithTheDeclarationAndAnEmptyRoot) {
 
 TEST(Request, IsIndentedByFourBlanksALevel) {
     std::vector<char> buffer(1000, '#');
-    EXPECT_TRUE(kvjxml::print(Request(), buffer.data()));
+    EXPECT_TRUE(kvj::print(Request(), buffer.data()));
     EXPECT_STREQ(buffer.data(), requestText.c_str());
 }
 
 TEST(Request, BegunAgainOnOneDocumentStandsBehindTheFirst) {
     TiXmlDocument request;
-    const TiXmlElement* first = kvjxml::beginRequest(request, "media");
-    const TiXmlElement* second = kvjxml::beginRequest(request, "media");
+    const TiXmlElement* first = kvj::beginRequest(request, "media");
+    const TiXmlElement* second = kvj::beginRequest(request, "media");
     EXPECT_NE(first, second);
     std::vector<char> buffer(1000, '#');
-    EXPECT_TRUE(kvjxml::print(request, buffer.data()));
+    EXPECT_TRUE(kvj::print(request, buffer.data()));
     EXPECT_EQ(std::string(buffer.data()), declaration + "<media />\n" + declaration + "<media />\n");
 }
 
 TEST(Request, BegunAnewOnOneDocumentTakesThePlaceOfTheFirst) {
     Request request;
-    const TiXmlElement* root = kvjxml::beginRequestAnew(request, "nonce");
+    const TiXmlElement* root = kvj::beginRequestAnew(request, "nonce");
     EXPECT_EQ(root, request.RootElement());
     std::vector<char> buffer(1000, '#');
-    EXPECT_TRUE(kvjxml::print(request, buffer.data()));
+    EXPECT_TRUE(kvj::print(request, buffer.data()));
     EXPECT_EQ(std::string(buffer.data()), declaration + "<nonce />\n");
 }
 
 TEST(Request, BegunAnewOnAnEmptyDocumentIsTheOnlyOne) {
     TiXmlDocument request;
-    const TiXmlElement* root = kvjxml::beginRequestAnew(request, "nonce");
+    const TiXmlElement* root = kvj::beginRequestAnew(request, "nonce");
     EXPECT_EQ(root, request.RootElement());
     std::vector<char> buffer(1000, '#');
-    EXPECT_TRUE(kvjxml::print(request, buffer.data()));
+    EXPECT_TRUE(kvj::print(request, buffer.data()));
     EXPECT_EQ(std::string(buffer.data()), declaration + "<nonce />\n");
 }
 
@@ -141,8 +141,8 @@ TEST(PrintWide, WithoutCapacityNothingIsWritten) {
 }
 
 TEST(PrintWide, WithoutABufferItIsFalse) {
-    EXPECT_FALSE(kvjxml::print(Request(), static_cast<wchar_t*>(nullptr), 100));
-    EXPECT_FALSE(kvjxml::print(Request(), static_cast<wchar_t*>(nullptr), 0));
+    EXPECT_FALSE(kvj::print(Request(), static_cast<wchar_t*>(nullptr), 100));
+    EXPECT_FALSE(kvj::print(Request(), static_cast<wchar_t*>(nullptr), 0));
 }
 
 TEST(PrintWide, InAUtf8LocaleACharacterIsOneWideCharacter) {
@@ -169,7 +169,7 @@ TEST(PrintWide, InAUtf8LocaleABrokenCharacterEndsTheText) {
 
 TEST(PrintNarrow, TheTextIsWrittenWithItsTerminatorAndNoMore) {
     std::string buffer(requestText.size() + 3, '#');
-    EXPECT_TRUE(kvjxml::print(Request(), &buffer[1]));
+    EXPECT_TRUE(kvj::print(Request(), &buffer[1]));
     EXPECT_EQ(buffer, "#" + requestText + '\0' + "#");
 }
 
@@ -177,36 +177,36 @@ TEST(PrintNarrow, BytesBeyondAsciiAreWrittenAsTheyAreInAnyLocale) {
     for (const char* locale : {"C", "C.UTF-8"}) {
         const LocaleScope scope(locale);
         std::vector<char> buffer(1000, '#');
-        EXPECT_TRUE(kvjxml::print(documentOf("caf\xC3\xA9 \xE9"), buffer.data()));
+        EXPECT_TRUE(kvj::print(documentOf("caf\xC3\xA9 \xE9"), buffer.data()));
         EXPECT_EQ(std::string(buffer.data()), declaration + "<r>caf\xC3\xA9 \xE9</r>\n") << locale;
     }
 }
 
-TEST(PrintNarrow, WithoutABufferItIsFalse) { EXPECT_FALSE(kvjxml::print(Request(), nullptr)); }
+TEST(PrintNarrow, WithoutABufferItIsFalse) { EXPECT_FALSE(kvj::print(Request(), nullptr)); }
 
 // ---- Files ----
 
 TEST(Save, WritesTheDocument) {
     const TemporaryFolder folder;
     const std::filesystem::path path = folder / "request.xml";
-    EXPECT_TRUE(kvjxml::save(Request(), path.c_str()));
+    EXPECT_TRUE(kvj::save(Request(), path.c_str()));
     EXPECT_EQ(contentOf(path), requestText);
 }
 
 TEST(Save, ReplacesALongerFile) {
     const TemporaryFolder folder;
     const std::filesystem::path path = folder / "request.xml";
-    kvjxml::tests::write(path, std::string(5000, 'z'));
-    EXPECT_TRUE(kvjxml::save(Request(), path.c_str()));
+    kvj::tests::write(path, std::string(5000, 'z'));
+    EXPECT_TRUE(kvj::save(Request(), path.c_str()));
     EXPECT_EQ(contentOf(path), requestText);
 }
 
 TEST(Save, WithoutAFileToWriteItIsFalse) {
     const TemporaryFolder folder;
-    EXPECT_FALSE(kvjxml::save(Request(), nullptr));
-    EXPECT_FALSE(kvjxml::save(Request(), ""));
-    EXPECT_FALSE(kvjxml::save(Request(), (folder / "").c_str()));
-    EXPECT_FALSE(kvjxml::save(Request(), (folder / "missing/request.xml").c_str()));
+    EXPECT_FALSE(kvj::save(Request(), nullptr));
+    EXPECT_FALSE(kvj::save(Request(), ""));
+    EXPECT_FALSE(kvj::save(Request(), (folder / "").c_str()));
+    EXPECT_FALSE(kvj::save(Request(), (folder / "missing/request.xml").c_str()));
 }
 
 }  // namespace

@@ -10,16 +10,16 @@
 #include "foundation/read_rules.h"
 #include "support/xml.h"
 
-using kvjxml::tests::Xml;
+using kvj::tests::Xml;
 
 // Tables of the same name in different places.
-namespace kvjxml::here {
+namespace kvj::here {
 constexpr WordTable levels({{"low", 1}});
 }
-namespace kvjxml::there {
+namespace kvj::there {
 constexpr WordTable levels({{"low", 2}});
 }
-namespace kvjxml {
+namespace kvj {
 constexpr WordTable levels({{"low", 3}});
 }
 
@@ -42,39 +42,39 @@ struct Record {
     unsigned int alarms = 77;
 };
 
-constexpr kvjxml::WordTable states{-1, {{"idle", 1}, {"printing", 2}}};
-constexpr kvjxml::WordTable colours({{"red", red}, {"blue", blue}});
+constexpr kvj::WordTable states{-1, {{"idle", 1}, {"printing", 2}}};
+constexpr kvj::WordTable colours({{"red", red}, {"blue", blue}});
 
-constexpr auto inner = kvjxml::rows<Record>({
-    {"real", kvjxml::number<&Record::real>},
-    {"alarms", kvjxml::prefixedHex<&Record::alarms>},
+constexpr auto inner = kvj::rows<Record>({
+    {"real", kvj::number<&Record::real>},
+    {"alarms", kvj::prefixedHex<&Record::alarms>},
 });
-constexpr auto table = kvjxml::rows<Record>({
-    {"integer", kvjxml::number<&Record::integer>},
-    {"unsigned", kvjxml::number<&Record::unsignedInteger>},
-    {"short", kvjxml::number<&Record::shortInteger>},
-    {"counter", kvjxml::number<&Record::counter>},
-    {"large", kvjxml::number<&Record::large>},
-    {"uuid", kvjxml::text<&Record::uuid>},
-    {"state", kvjxml::word<&Record::state, states>},
-    {"colour", kvjxml::word<&Record::colour, colours>},
-    {"ready", kvjxml::is<&Record::ready, "yes">},
-    {"alarms", kvjxml::prefixedHex<&Record::alarms>},
-    {"group", kvjxml::group<inner>},
+constexpr auto table = kvj::rows<Record>({
+    {"integer", kvj::number<&Record::integer>},
+    {"unsigned", kvj::number<&Record::unsignedInteger>},
+    {"short", kvj::number<&Record::shortInteger>},
+    {"counter", kvj::number<&Record::counter>},
+    {"large", kvj::number<&Record::large>},
+    {"uuid", kvj::text<&Record::uuid>},
+    {"state", kvj::word<&Record::state, states>},
+    {"colour", kvj::word<&Record::colour, colours>},
+    {"ready", kvj::is<&Record::ready, "yes">},
+    {"alarms", kvj::prefixedHex<&Record::alarms>},
+    {"group", kvj::group<inner>},
 });
 
 /// What the table makes of the root of a document.
 struct Walked : Record {
     bool result;
     explicit Walked(const std::string& xml) : Walked(Xml(xml.c_str())) {}
-    explicit Walked(Xml document) : result(kvjxml::walk(document.root(), static_cast<Record&>(*this), table)) {}
+    explicit Walked(Xml document) : result(kvj::walk(document.root(), static_cast<Record&>(*this), table)) {}
 };
 
 // ---- The walk ----
 
 TEST(Walk, WithoutAnElementItIsFalse) {
     Record record;
-    EXPECT_FALSE(kvjxml::walk(nullptr, record, table));
+    EXPECT_FALSE(kvj::walk(nullptr, record, table));
     EXPECT_EQ(record.integer, 77);
 }
 
@@ -312,88 +312,88 @@ TEST(GroupRow, ARepeatedGroupIsReadAgain) {
 
 // ---- What rows say of themselves ----
 
-using kvjxml::Kind;
+using kvj::Kind;
 
 TEST(Description, NamesTheRecordAndTheFieldOfEachKindOfRow) {
     const auto named = [](const auto& rule) {
         return std::string(rule.description.field.record) + "::" + std::string(rule.description.field.name);
     };
-    EXPECT_EQ(named(kvjxml::number<&Record::integer>), "Record::integer");
-    EXPECT_EQ(named(kvjxml::text<&Record::uuid>), "Record::uuid");
-    EXPECT_EQ((named(kvjxml::word<&Record::state, states>)), "Record::state");
-    EXPECT_EQ((named(kvjxml::is<&Record::ready, "yes">)), "Record::ready");
-    EXPECT_EQ(named(kvjxml::prefixedHex<&Record::alarms>), "Record::alarms");
-    EXPECT_TRUE(kvjxml::group<inner>.description.field.empty());
+    EXPECT_EQ(named(kvj::number<&Record::integer>), "Record::integer");
+    EXPECT_EQ(named(kvj::text<&Record::uuid>), "Record::uuid");
+    EXPECT_EQ((named(kvj::word<&Record::state, states>)), "Record::state");
+    EXPECT_EQ((named(kvj::is<&Record::ready, "yes">)), "Record::ready");
+    EXPECT_EQ(named(kvj::prefixedHex<&Record::alarms>), "Record::alarms");
+    EXPECT_TRUE(kvj::group<inner>.description.field.empty());
 }
 
 TEST(Description, SaysTheKindOfEachRow) {
     const auto kind = [](const auto& rule) { return rule.description.kind; };
-    EXPECT_EQ(kind(kvjxml::number<&Record::integer>), Kind::number);
-    EXPECT_EQ(kind(kvjxml::number<&Record::real>), Kind::decimal);
-    EXPECT_EQ(kind(kvjxml::prefixedHex<&Record::alarms>), Kind::number);
-    EXPECT_EQ(kind(kvjxml::text<&Record::uuid>), Kind::text);
-    EXPECT_EQ((kind(kvjxml::word<&Record::state, states>)), Kind::word);
-    EXPECT_EQ(kind(kvjxml::flag<&Record::ready>), Kind::flag);
-    EXPECT_EQ((kind(kvjxml::is<&Record::ready, "yes">)), Kind::isWord);
-    EXPECT_EQ((kind(kvjxml::isNot<&Record::ready, "no">)), Kind::isNotWord);
-    EXPECT_EQ((kind(kvjxml::attribute<&Record::integer, "count">)), Kind::attribute);
-    EXPECT_EQ(kind(kvjxml::group<inner>), Kind::group);
+    EXPECT_EQ(kind(kvj::number<&Record::integer>), Kind::number);
+    EXPECT_EQ(kind(kvj::number<&Record::real>), Kind::decimal);
+    EXPECT_EQ(kind(kvj::prefixedHex<&Record::alarms>), Kind::number);
+    EXPECT_EQ(kind(kvj::text<&Record::uuid>), Kind::text);
+    EXPECT_EQ((kind(kvj::word<&Record::state, states>)), Kind::word);
+    EXPECT_EQ(kind(kvj::flag<&Record::ready>), Kind::flag);
+    EXPECT_EQ((kind(kvj::is<&Record::ready, "yes">)), Kind::isWord);
+    EXPECT_EQ((kind(kvj::isNot<&Record::ready, "no">)), Kind::isNotWord);
+    EXPECT_EQ((kind(kvj::attribute<&Record::integer, "count">)), Kind::attribute);
+    EXPECT_EQ(kind(kvj::group<inner>), Kind::group);
 }
 
-TEST(Description, SaysTheSizeOfATextField) { EXPECT_EQ(kvjxml::text<&Record::uuid>.description.capacity, 8U); }
+TEST(Description, SaysTheSizeOfATextField) { EXPECT_EQ(kvj::text<&Record::uuid>.description.capacity, 8U); }
 
-TEST(Description, SaysTheWordOfAFlag) { EXPECT_EQ((kvjxml::is<&Record::ready, "yes">.description.word), "yes"); }
+TEST(Description, SaysTheWordOfAFlag) { EXPECT_EQ((kvj::is<&Record::ready, "yes">.description.word), "yes"); }
 
 TEST(Description, SaysTheTableOfAWord) {
-    const kvjxml::NamedWords words = kvjxml::word<&Record::state, states>.description.words;
+    const kvj::NamedWords words = kvj::word<&Record::state, states>.description.words;
     EXPECT_TRUE(words.name.ends_with("::states")) << words.name;
-    EXPECT_EQ(words.words.rows.data(), kvjxml::Words(states).rows.data());
+    EXPECT_EQ(words.words.rows.data(), kvj::Words(states).rows.data());
     ASSERT_EQ(words.words.rows.size(), 2U);
     EXPECT_STREQ(words.words.rows[1].word, "printing");
     EXPECT_EQ(words.words.rows[1].code, 2);
     EXPECT_EQ(words.words.other, -1);
-    EXPECT_EQ((kvjxml::word<&Record::colour, colours>.description.words.words.other), std::nullopt);
+    EXPECT_EQ((kvj::word<&Record::colour, colours>.description.words.words.other), std::nullopt);
 }
 
 TEST(Description, ATableOfWordsIsKnownByItsPlace) {
-    EXPECT_EQ((kvjxml::word<&Record::state, kvjxml::here::levels>.description.words.name), "here::levels");
-    EXPECT_EQ((kvjxml::word<&Record::state, kvjxml::there::levels>.description.words.name), "there::levels");
-    EXPECT_EQ((kvjxml::word<&Record::state, kvjxml::levels>.description.words.name), "levels");
+    EXPECT_EQ((kvj::word<&Record::state, kvj::here::levels>.description.words.name), "here::levels");
+    EXPECT_EQ((kvj::word<&Record::state, kvj::there::levels>.description.words.name), "there::levels");
+    EXPECT_EQ((kvj::word<&Record::state, kvj::levels>.description.words.name), "levels");
 }
 
 TEST(Description, SaysHowManyBitsOfANumberAreStored) {
     const auto bits = [](const auto& rule) {
-        const kvjxml::Number number = rule.description.number;
+        const kvj::Number number = rule.description.number;
         return std::pair(number.bits, number.isSigned);
     };
-    EXPECT_EQ(bits(kvjxml::number<&Record::integer>), std::pair(32, true));
-    EXPECT_EQ(bits(kvjxml::number<&Record::unsignedInteger>), std::pair(32, false));
-    EXPECT_EQ(bits(kvjxml::number<&Record::shortInteger>), std::pair(16, false));
-    EXPECT_EQ(bits(kvjxml::number<&Record::counter>), std::pair(16, false));
-    EXPECT_EQ(bits(kvjxml::number<&Record::large>), std::pair(64, true));
-    EXPECT_EQ(bits(kvjxml::prefixedHex<&Record::alarms>), std::pair(32, false));
+    EXPECT_EQ(bits(kvj::number<&Record::integer>), std::pair(32, true));
+    EXPECT_EQ(bits(kvj::number<&Record::unsignedInteger>), std::pair(32, false));
+    EXPECT_EQ(bits(kvj::number<&Record::shortInteger>), std::pair(16, false));
+    EXPECT_EQ(bits(kvj::number<&Record::counter>), std::pair(16, false));
+    EXPECT_EQ(bits(kvj::number<&Record::large>), std::pair(64, true));
+    EXPECT_EQ(bits(kvj::prefixedHex<&Record::alarms>), std::pair(32, false));
 }
 
 TEST(Description, TellsHexadecimalNumbersFromDecimalOnes) {
-    const kvjxml::Number decimal = kvjxml::number<&Record::integer>.description.number;
-    EXPECT_EQ(decimal.base, kvjxml::Base::decimal);
+    const kvj::Number decimal = kvj::number<&Record::integer>.description.number;
+    EXPECT_EQ(decimal.base, kvj::Base::decimal);
     EXPECT_FALSE(decimal.onlyNumbers);
-    const kvjxml::Number hexadecimal = kvjxml::prefixedHex<&Record::alarms>.description.number;
-    EXPECT_EQ(hexadecimal.base, kvjxml::Base::hexadecimal);
+    const kvj::Number hexadecimal = kvj::prefixedHex<&Record::alarms>.description.number;
+    EXPECT_EQ(hexadecimal.base, kvj::Base::hexadecimal);
     EXPECT_TRUE(hexadecimal.onlyNumbers);
 }
 
 TEST(Description, SaysWhatBecomesOfAFieldWithoutText) {
-    using kvjxml::WithoutText;
-    EXPECT_EQ(kvjxml::number<&Record::integer>.description.withoutText, WithoutText::isKept);
-    EXPECT_EQ(kvjxml::flag<&Record::ready>.description.withoutText, WithoutText::isFalse);
-    EXPECT_EQ((kvjxml::is<&Record::ready, "yes">.description.withoutText), WithoutText::isFalse);
-    EXPECT_EQ((kvjxml::is<&Record::ready, "yes", WithoutText::isKept>.description.withoutText), WithoutText::isKept);
-    EXPECT_EQ((kvjxml::isNot<&Record::ready, "no">.description.withoutText), WithoutText::isKept);
+    using kvj::WithoutText;
+    EXPECT_EQ(kvj::number<&Record::integer>.description.withoutText, WithoutText::isKept);
+    EXPECT_EQ(kvj::flag<&Record::ready>.description.withoutText, WithoutText::isFalse);
+    EXPECT_EQ((kvj::is<&Record::ready, "yes">.description.withoutText), WithoutText::isFalse);
+    EXPECT_EQ((kvj::is<&Record::ready, "yes", WithoutText::isKept>.description.withoutText), WithoutText::isKept);
+    EXPECT_EQ((kvj::isNot<&Record::ready, "no">.description.withoutText), WithoutText::isKept);
 }
 
 TEST(Description, OfATableHasItsRowsInOrderWithThoseOfItsGroups) {
-    const auto& rows = kvjxml::described<table>;
+    const auto& rows = kvj::described<table>;
     ASSERT_EQ(rows.size(), 11U);
     EXPECT_EQ(rows.front().name, "integer");
     EXPECT_EQ(rows[1].name, "unsigned");

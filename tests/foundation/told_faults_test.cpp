@@ -11,8 +11,8 @@
 
 namespace {
 
-using kvjxml::tests::contentOf;
-using kvjxml::tests::TemporaryFolder;
+using kvj::tests::contentOf;
+using kvj::tests::TemporaryFolder;
 
 #define MARK "\xEF\xBB\xBF"
 

@@ -16,12 +16,12 @@
 #include "foundation/name.h"
 #include "foundation/vocabulary.h"
 
-using kvjxml::Match;
-using kvjxml::Word;
-using kvjxml::Words;
-using kvjxml::WordTable;
-using kvjxml::tests::LocaleScope;
-using kvjxml::tests::Name;
+using kvj::Match;
+using kvj::Word;
+using kvj::Words;
+using kvj::WordTable;
+using kvj::tests::LocaleScope;
+using kvj::tests::Name;
 
 namespace {
 
@@ -33,13 +33,13 @@ void expectCodes(Reader reader, WordsAndCodes cases) {
 }
 
 void expectWords(Words table, std::initializer_list<std::pair<int, const char*>> cases) {
-    for (const auto& [code, word] : cases) EXPECT_STREQ(kvjxml::wordOf(table, code), word) << code;
+    for (const auto& [code, word] : cases) EXPECT_STREQ(kvj::wordOf(table, code), word) << code;
 }
 
 void expectNoWords(Words table, std::initializer_list<int> codes) {
-    for (const int code : codes) EXPECT_EQ(kvjxml::wordOf(table, code), nullptr) << code;
-    EXPECT_EQ(kvjxml::wordOf(table, INT_MIN), nullptr);
-    EXPECT_EQ(kvjxml::wordOf(table, INT_MAX), nullptr);
+    for (const int code : codes) EXPECT_EQ(kvj::wordOf(table, code), nullptr) << code;
+    EXPECT_EQ(kvj::wordOf(table, INT_MIN), nullptr);
+    EXPECT_EQ(kvj::wordOf(table, INT_MAX), nullptr);
 }
 
 // ---- Tables ----
@@ -50,46 +50,46 @@ constexpr WordTable ignoringCase({{"Off", 0}, {"ON", 1}}, Match::wholeIgnoringCa
 constexpr WordTable parts{-1, {{"on", 1}, {"off", 0}, {"once", 2}}, Match::part};
 
 TEST(WordTable, AWordHasTheCodeOfItsRow) {
-    EXPECT_EQ(kvjxml::codeOf(withOther, "off"), 0);
-    EXPECT_EQ(kvjxml::codeOf(withOther, "on"), 1);
-    EXPECT_EQ(kvjxml::codeOf(withOther, "working"), 1);
-    EXPECT_EQ(kvjxml::codeOf(withOther, "low"), -5);
+    EXPECT_EQ(kvj::codeOf(withOther, "off"), 0);
+    EXPECT_EQ(kvj::codeOf(withOther, "on"), 1);
+    EXPECT_EQ(kvj::codeOf(withOther, "working"), 1);
+    EXPECT_EQ(kvj::codeOf(withOther, "low"), -5);
 }
 
 TEST(WordTable, AnyOtherTextHasTheCodeOfOtherTexts) {
     for (const char* text : {"", " ", "On", "ON", "o", "onn", "on ", " on"}) {
-        EXPECT_EQ(kvjxml::codeOf(withOther, text), 7) << '"' << text << '"';
+        EXPECT_EQ(kvj::codeOf(withOther, text), 7) << '"' << text << '"';
     }
-    EXPECT_EQ(kvjxml::codeOf(withOther, nullptr), 7);
+    EXPECT_EQ(kvj::codeOf(withOther, nullptr), 7);
 }
 
 TEST(WordTable, WithoutACodeOfOtherTextsTheyHaveNone) {
-    EXPECT_EQ(kvjxml::codeOf(withoutOther, "on"), 1);
-    EXPECT_EQ(kvjxml::codeOf(withoutOther, "On"), std::nullopt);
-    EXPECT_EQ(kvjxml::codeOf(withoutOther, ""), std::nullopt);
-    EXPECT_EQ(kvjxml::codeOf(withoutOther, nullptr), std::nullopt);
+    EXPECT_EQ(kvj::codeOf(withoutOther, "on"), 1);
+    EXPECT_EQ(kvj::codeOf(withoutOther, "On"), std::nullopt);
+    EXPECT_EQ(kvj::codeOf(withoutOther, ""), std::nullopt);
+    EXPECT_EQ(kvj::codeOf(withoutOther, nullptr), std::nullopt);
 }
 
 TEST(WordTable, AnyCodeIsThatOfTheTextOrOfOtherTexts) {
-    EXPECT_EQ(kvjxml::anyCodeOf(withOther, "on"), 1);
-    EXPECT_EQ(kvjxml::anyCodeOf(withOther, "On"), 7);
-    EXPECT_EQ(kvjxml::anyCodeOf(withOther, nullptr), 7);
+    EXPECT_EQ(kvj::anyCodeOf(withOther, "on"), 1);
+    EXPECT_EQ(kvj::anyCodeOf(withOther, "On"), 7);
+    EXPECT_EQ(kvj::anyCodeOf(withOther, nullptr), 7);
 }
 
 TEST(WordTable, CaseMayBeIgnored) {
-    for (const char* text : {"Off", "off", "OFF", "oFF"}) EXPECT_EQ(kvjxml::codeOf(ignoringCase, text), 0) << text;
-    EXPECT_EQ(kvjxml::codeOf(ignoringCase, "on"), 1);
-    EXPECT_EQ(kvjxml::codeOf(ignoringCase, "offf"), std::nullopt);
+    for (const char* text : {"Off", "off", "OFF", "oFF"}) EXPECT_EQ(kvj::codeOf(ignoringCase, text), 0) << text;
+    EXPECT_EQ(kvj::codeOf(ignoringCase, "on"), 1);
+    EXPECT_EQ(kvj::codeOf(ignoringCase, "offf"), std::nullopt);
 }
 
 TEST(WordTable, OfThePartsThatOccurTheFirstRowCounts) {
-    EXPECT_EQ(kvjxml::codeOf(parts, "on"), 1);
-    EXPECT_EQ(kvjxml::codeOf(parts, "turned off"), 0);
-    EXPECT_EQ(kvjxml::codeOf(parts, "off and on"), 1);
-    EXPECT_EQ(kvjxml::codeOf(parts, "once"), 1);
-    EXPECT_EQ(kvjxml::codeOf(parts, "o"), -1);
-    EXPECT_EQ(kvjxml::codeOf(parts, "Off"), -1);
-    EXPECT_EQ(kvjxml::codeOf(parts, ""), -1);
+    EXPECT_EQ(kvj::codeOf(parts, "on"), 1);
+    EXPECT_EQ(kvj::codeOf(parts, "turned off"), 0);
+    EXPECT_EQ(kvj::codeOf(parts, "off and on"), 1);
+    EXPECT_EQ(kvj::codeOf(parts, "once"), 1);
+    EXPECT_EQ(kvj::codeOf(parts, "o"), -1);
+    EXPECT_EQ(kvj::codeOf(parts, "Off"), -1);
+    EXPECT_EQ(kvj::codeOf(parts, ""), -1);
 }
 
 TEST(WordTable, ACodeHasTheFirstWordThatCarriesIt) {
@@ -100,13 +100,12 @@ TEST(WordTable, ACodeHasTheFirstWordThatCarriesIt) {
 // ---- Ribbons ----
 
 TEST(RibbonDescription, WithTwoOverlaysHasACodeThatNoNameStandsFor) {
-    EXPECT_EQ(kvjxml::wordOf(kvjxml::ribbonNames, KVJHelper::RibbonDescriptionToInt(Name("ymckoo"))), nullptr);
+    EXPECT_EQ(kvj::wordOf(kvj::ribbonNames, KVJHelper::RibbonDescriptionToInt(Name("ymckoo"))), nullptr);
 }
 
 TEST(RibbonDescription, WithAnInhibitorPanelIsWrittenAsThePeelOffRibbon) {
     for (const char* description : {"ymcoviko", "ymcpko"}) {
-        EXPECT_STREQ(kvjxml::wordOf(kvjxml::ribbonNames, KVJHelper::RibbonDescriptionToInt(Name(description))),
-                     "YMCPKO");
+        EXPECT_STREQ(kvj::wordOf(kvj::ribbonNames, KVJHelper::RibbonDescriptionToInt(Name(description))), "YMCPKO");
     }
 }
 
@@ -165,7 +164,7 @@ TEST(Coercivity, WhatIsWrittenReadsBack) {
 }
 
 TEST(CommsChannel, TheCapabilitiesWriteAWordForUsbThatIsNotRead) {
-    EXPECT_EQ(KVJHelper::CommsChannelToInt(Name(kvjxml::wordOf(kvjxml::commsChannelsInCapabilities, 2))), 0);
+    EXPECT_EQ(KVJHelper::CommsChannelToInt(Name(kvj::wordOf(kvj::commsChannelsInCapabilities, 2))), 0);
 }
 
 }  // namespace

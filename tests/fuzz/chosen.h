@@ -8,7 +8,7 @@
 #include <span>
 #include <string_view>
 
-namespace kvjxml::fuzz {
+namespace kvj::fuzz {
 
 /// The row of that name, so that kept inputs keep their meaning when the table grows. Any other text is the name of
 /// some row too: the fuzzer comes to all rows without guessing words.
@@ -21,6 +21,6 @@ const Row& chosen(std::span<const Row> table, std::string_view name) {
                  table.size()];
 }
 
-}  // namespace kvjxml::fuzz
+}  // namespace kvj::fuzz
 
 #endif

@@ -8,22 +8,22 @@
 namespace {
 
 using Composer = Kavrin::KVJSetCaps;
-using kvjxml::fuzz::Values;
+using kvj::fuzz::Values;
 
 void capabilities(Values& values) {
     const int mode = values.number();
     const bool directToCard = values.flag();
-    kvjxml::fuzz::Arrays arrays;
-    const auto caps = kvjxml::fuzz::recordOf<Kavrin::_Capabilities>(values, arrays);
-    kvjxml::fuzz::checkWide<Composer>(values, [&](Composer& composer, wchar_t* out, int capacity) {
+    kvj::fuzz::Arrays arrays;
+    const auto caps = kvj::fuzz::recordOf<Kavrin::_Capabilities>(values, arrays);
+    kvj::fuzz::checkWide<Composer>(values, [&](Composer& composer, wchar_t* out, int capacity) {
         return composer.SetCapabilities(*caps, out, capacity, mode, directToCard);
     });
 }
 
-constexpr kvjxml::fuzz::Operation operations[] = {{"SetCapabilities", capabilities}};
+constexpr kvj::fuzz::Operation operations[] = {{"SetCapabilities", capabilities}};
 
 }  // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    return kvjxml::fuzz::run(operations, data, size);
+    return kvj::fuzz::run(operations, data, size);
 }

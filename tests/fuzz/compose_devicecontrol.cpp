@@ -6,12 +6,12 @@
 
 namespace {
 
-using kvjxml::fuzz::Text;
-using kvjxml::fuzz::Values;
+using kvj::fuzz::Text;
+using kvj::fuzz::Values;
 
 template <class Compose>
 void check(std::size_t lengthOfTexts, Compose compose) {
-    kvjxml::fuzz::checkNarrow<KVJDeviceControl>(256 + 6 * lengthOfTexts, compose);
+    kvj::fuzz::checkNarrow<KVJDeviceControl>(256 + 6 * lengthOfTexts, compose);
 }
 
 void motor(Values& values) {
@@ -71,7 +71,7 @@ void rfid(Values& values) {
     });
 }
 
-constexpr kvjxml::fuzz::Operation operations[] = {
+constexpr kvj::fuzz::Operation operations[] = {
     {"RunMotorCommand", motor},  {"RunMotorCommand by mode", motorMode},
     {"RunCamCommand", cam},      {"RunCalibrateCommand", calibrate},
     {"RunOtherCommands", other}, {"RunRFIDCommands", rfid},
@@ -80,5 +80,5 @@ constexpr kvjxml::fuzz::Operation operations[] = {
 }  // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    return kvjxml::fuzz::run(operations, data, size);
+    return kvj::fuzz::run(operations, data, size);
 }

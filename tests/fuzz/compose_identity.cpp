@@ -9,13 +9,13 @@
 namespace {
 
 using Composer = Kavrin::KVJSetPrinterInfo;
-using kvjxml::fuzz::Values;
+using kvj::fuzz::Values;
 
 template <class Compose>
 void check(Values& values, Compose compose) {
-    kvjxml::fuzz::Arrays arrays;
-    const auto info = kvjxml::fuzz::recordOf<Kavrin::KVPrinterInfo>(values, arrays);
-    kvjxml::fuzz::checkWide<Composer>(values, [&](Composer& composer, wchar_t* out, int capacity) {
+    kvj::fuzz::Arrays arrays;
+    const auto info = kvj::fuzz::recordOf<Kavrin::KVPrinterInfo>(values, arrays);
+    kvj::fuzz::checkWide<Composer>(values, [&](Composer& composer, wchar_t* out, int capacity) {
         return compose(composer, *info, out, capacity);
     });
 }
@@ -29,15 +29,15 @@ void sections(Values& values) {
 
 void whole(Values& values) {
     check(values, [](Composer& composer, const auto& info, wchar_t* out, int capacity) {
-        return composer.addPrinterInfo(kvjxml::beginRequest(composer, "printer_id"), info) &&
+        return composer.addPrinterInfo(kvj::beginRequest(composer, "printer_id"), info) &&
                composer.saveJob(out, capacity);
     });
 }
 
-constexpr kvjxml::fuzz::Operation operations[] = {{"SetPrinterInfo", sections}, {"addPrinterInfo", whole}};
+constexpr kvj::fuzz::Operation operations[] = {{"SetPrinterInfo", sections}, {"addPrinterInfo", whole}};
 
 }  // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    return kvjxml::fuzz::run(operations, data, size);
+    return kvj::fuzz::run(operations, data, size);
 }

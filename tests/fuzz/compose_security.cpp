@@ -8,12 +8,12 @@
 namespace {
 
 using Composer = Kavrin::KVJSetSecActions;
-using kvjxml::fuzz::Text;
-using kvjxml::fuzz::Values;
+using kvj::fuzz::Text;
+using kvj::fuzz::Values;
 
 template <class Compose>
 void check(Values& values, Compose compose) {
-    kvjxml::fuzz::checkWide<Composer>(values, compose);
+    kvj::fuzz::checkWide<Composer>(values, compose);
 }
 
 void nonce(Values& values) {
@@ -83,7 +83,7 @@ void keyChange(Values& values) {
     });
 }
 
-constexpr kvjxml::fuzz::Operation operations[] = {
+constexpr kvj::fuzz::Operation operations[] = {
     {"GetNonceXML", nonce},
     {"SecureActionRequestXML", actionRequest},
     {"SecureActionDirectiveXML", actionDirective},
@@ -96,5 +96,5 @@ constexpr kvjxml::fuzz::Operation operations[] = {
 }  // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    return kvjxml::fuzz::run(operations, data, size);
+    return kvj::fuzz::run(operations, data, size);
 }

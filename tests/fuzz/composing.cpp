@@ -2,7 +2,7 @@
 
 #include <cwchar>
 
-namespace kvjxml::fuzz {
+namespace kvj::fuzz {
 
 namespace {
 
@@ -103,4 +103,4 @@ void requireReadsAgain(const TiXmlDocument& document) {
     require(areSame(document, read), "what is composed reads again");
 }
 
-}  // namespace kvjxml::fuzz
+}  // namespace kvj::fuzz

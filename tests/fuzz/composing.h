@@ -16,7 +16,7 @@
 #include "target.h"
 #include "values.h"
 
-namespace kvjxml::fuzz {
+namespace kvj::fuzz {
 
 /// One operation: the name by which an input chooses it in its first field, and a call with the other values.
 struct Operation {
@@ -78,6 +78,6 @@ void checkNarrow(std::size_t room, Compose compose) {
     require(!result || out.get() == printed(unprinted), "the buffer holds the document");
 }
 
-}  // namespace kvjxml::fuzz
+}  // namespace kvj::fuzz
 
 #endif

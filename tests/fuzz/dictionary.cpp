@@ -49,7 +49,7 @@ constexpr std::string_view marks[] = {"<?xml version=\"1.0\" encoding=\"UTF-8\"?
                                       "0x1f",
                                       "00:1a:2b:3c:4d:5e"};
 
-void collect(std::span<const kvjxml::DescribedRow> rows, Entries& entries) {
+void collect(std::span<const kvj::DescribedRow> rows, Entries& entries) {
     for (const auto& row : rows) {
         entries.emplace(row.name);
         entries.emplace(row.description.word);
@@ -74,11 +74,11 @@ void print(std::string_view entry) {
 
 int main() {
     Entries entries(std::begin(marks), std::end(marks));
-    for (const auto& message : kvjxml::messages()) {
+    for (const auto& message : kvj::messages()) {
         entries.emplace(message.root);
         collect(message.table, entries);
     }
-    for (const auto& request : kvjxml::requests()) {
+    for (const auto& request : kvj::requests()) {
         entries.emplace(request.name);
         entries.emplace(request.operation);
         for (const auto& field : request.record->fields) entries.emplace(field.name);

@@ -11,8 +11,8 @@
 
 namespace {
 
-namespace tool = kvjxml::tool;
-using kvjxml::fuzz::require;
+namespace tool = kvj::tool;
+using kvj::fuzz::require;
 
 std::string lineOf(std::istringstream& input) {
     std::string line;
@@ -20,8 +20,8 @@ std::string lineOf(std::istringstream& input) {
     return line;
 }
 
-kvjxml::Choices choicesOf(const std::string& line) {
-    kvjxml::Choices choices;
+kvj::Choices choicesOf(const std::string& line) {
+    kvj::Choices choices;
     std::istringstream numbers(line);
     numbers >> choices.sections >> choices.card >> choices.mode >> choices.withoutTransfer >> choices.allCards >>
         choices.full;
@@ -32,9 +32,9 @@ kvjxml::Choices choicesOf(const std::string& line) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     std::setlocale(LC_CTYPE, "C.UTF-8");  // as the tool does
-    std::istringstream input(kvjxml::fuzz::textOf(data, size));
-    const auto& request = kvjxml::fuzz::chosen(kvjxml::requests(), lineOf(input));
-    const kvjxml::Choices choices = choicesOf(lineOf(input));
+    std::istringstream input(kvj::fuzz::textOf(data, size));
+    const auto& request = kvj::fuzz::chosen(kvj::requests(), lineOf(input));
+    const kvj::Choices choices = choicesOf(lineOf(input));
     std::string document;
     try {
         document = tool::composed(request, choices, {std::istreambuf_iterator<char>(input), {}}, "input");

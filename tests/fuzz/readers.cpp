@@ -9,10 +9,10 @@
 
 namespace {
 
-using kvjxml::Reply;
-using kvjxml::fuzz::require;
-using kvjxml::tests::Reader;
-using kvjxml::tests::Text;
+using kvj::Reply;
+using kvj::fuzz::require;
+using kvj::tests::Reader;
+using kvj::tests::Text;
 
 /// The bytes as wide text. A byte that belongs to no character becomes one that no locale knows.
 std::wstring wideOf(const std::string& bytes) {
@@ -86,18 +86,18 @@ bool hasTag(const std::string& bytes, const char* name) {
 }  // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string bytes = kvjxml::fuzz::textOf(data, size);
+    const std::string bytes = kvj::fuzz::textOf(data, size);
     std::wstring characters = wideOf(bytes);
     // Hosts that know of characters beyond ASCII fill up with zeros to as many as there are bytes; others do not.
     if (size % 2 == 0) characters.resize(size);
 
-    const auto narrow = kvjxml::fuzz::exactCopy(bytes.c_str(), bytes.size() + 1);
-    const auto wide = kvjxml::fuzz::exactCopy(characters.data(), characters.size());
+    const auto narrow = kvj::fuzz::exactCopy(bytes.c_str(), bytes.size() + 1);
+    const auto wide = kvj::fuzz::exactCopy(characters.data(), characters.size());
     const Text wideText{narrow.get(), wide.get(), characters.size()};
     const Text narrowText{narrow.get(), wide.get(), bytes.size()};
     Parsed asWide(wideText, true);
     Parsed asNarrow(narrowText, false);
-    const auto all = kvjxml::tests::readers();
+    const auto all = kvj::tests::readers();
     for (const Reader& reader : all) {
         if (!hasTag(bytes, reader.root) && &reader != &all[size % all.size()]) continue;
         // To read twice takes twice as long, so it is left to some inputs.

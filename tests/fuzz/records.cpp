@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
-namespace kvjxml::fuzz {
+namespace kvj::fuzz {
 
 namespace {
 
@@ -55,4 +55,4 @@ void fill(const RecordType& type, void* record, Values& values, Arrays& arrays) 
     for (const Field& field : type.fields) fill(field, record, values, arrays);
 }
 
-}  // namespace kvjxml::fuzz
+}  // namespace kvj::fuzz

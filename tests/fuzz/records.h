@@ -10,7 +10,7 @@
 #include "fields/list.h"
 #include "values.h"
 
-namespace kvjxml::fuzz {
+namespace kvj::fuzz {
 
 /// Keeps the arrays that records point to.
 using Arrays = std::vector<std::shared_ptr<char[]>>;
@@ -26,6 +26,6 @@ std::unique_ptr<Record> recordOf(Values& values, Arrays& arrays) {
     return record;
 }
 
-}  // namespace kvjxml::fuzz
+}  // namespace kvj::fuzz
 
 #endif

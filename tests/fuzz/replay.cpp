@@ -10,12 +10,12 @@
 int main(int argc, char** argv) {
     namespace fs = std::filesystem;
     LLVMFuzzerInitialize(&argc, &argv);
-    kvjxml::fuzz::require(argc > 1, "there is a folder to read");
+    kvj::fuzz::require(argc > 1, "there is a folder to read");
     for (int i = 1; i < argc; ++i) {
         int inputs = 0;
         for (const auto& entry : fs::directory_iterator(argv[i])) {
             std::ifstream file(entry.path(), std::ios::binary);
-            kvjxml::fuzz::require(file.is_open(), "every input can be read");
+            kvj::fuzz::require(file.is_open(), "every input can be read");
             const std::vector<char> bytes{std::istreambuf_iterator<char>(file), {}};
             // Before it is run, so that the one which fails is the last to be named.
             std::printf("%s\n", entry.path().c_str());
@@ -23,6 +23,6 @@ int main(int argc, char** argv) {
             LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
             ++inputs;
         }
-        kvjxml::fuzz::require(inputs > 0, "there are inputs in every folder");
+        kvj::fuzz::require(inputs > 0, "there are inputs in every folder");
     }
 }

@@ -8,11 +8,11 @@
 
 // The locale is that of the environment, as a host's is that calls setlocale at its start.
 int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
-    kvjxml::fuzz::require(std::setlocale(LC_ALL, "") != nullptr, "the locale of the environment is there");
+    kvj::fuzz::require(std::setlocale(LC_ALL, "") != nullptr, "the locale of the environment is there");
     return 0;
 }
 
-void kvjxml::fuzz::require(bool holds, const char* what) {
+void kvj::fuzz::require(bool holds, const char* what) {
     if (holds) return;
     std::fprintf(stderr, "this does not hold: %s\n", what);
     std::abort();

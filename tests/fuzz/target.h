@@ -12,7 +12,7 @@
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv);
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
-namespace kvjxml::fuzz {
+namespace kvj::fuzz {
 
 /// Ends the program when something that must hold does not: that is how the fuzzer learns that an input is worth
 /// keeping.
@@ -30,6 +30,6 @@ std::unique_ptr<Character[]> exactCopy(const Character* text, std::size_t length
     return copy;
 }
 
-}  // namespace kvjxml::fuzz
+}  // namespace kvj::fuzz
 
 #endif

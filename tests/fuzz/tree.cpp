@@ -7,12 +7,12 @@
 #include "support/tree.h"
 #include "target.h"
 
-using kvjxml::Document;
-using kvjxml::Element;
-using kvjxml::fuzz::require;
-using kvjxml::tests::documentOf;
-using kvjxml::tests::Reference;
-using kvjxml::tests::treeOf;
+using kvj::Document;
+using kvj::Element;
+using kvj::fuzz::require;
+using kvj::tests::documentOf;
+using kvj::tests::Reference;
+using kvj::tests::treeOf;
 
 namespace {
 
@@ -39,7 +39,7 @@ std::size_t depthOf(Element element) {
 }  // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string input = kvjxml::fuzz::textOf(data, size);
+    const std::string input = kvj::fuzz::textOf(data, size);
     const std::string_view text(input.c_str());
     const Document document = documentOf(text);
     require(document.fault().offset <= text.size(), "a fault is within the text");

@@ -12,7 +12,7 @@
 
 #include "target.h"
 
-namespace kvjxml::fuzz {
+namespace kvj::fuzz {
 
 /// A text as operations take it, in memory of exactly its size; null for the word "null".
 class Text {
@@ -59,6 +59,6 @@ private:
     std::string_view rest_;
 };
 
-}  // namespace kvjxml::fuzz
+}  // namespace kvj::fuzz
 
 #endif

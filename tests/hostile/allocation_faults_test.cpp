@@ -21,7 +21,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 struct Fault {
     bool thrown;

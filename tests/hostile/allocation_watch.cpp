@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <new>
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 namespace {
 
@@ -88,11 +88,11 @@ void AllocationWatch::failNoMore() { state.untilFailure = never; }
 std::size_t AllocationWatch::made() const { return state.made; }
 std::size_t AllocationWatch::alive() const { return state.alive; }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
-void* operator new(std::size_t size) { return kvjxml::tests::allocate(size); }
-void* operator new[](std::size_t size) { return kvjxml::tests::allocate(size); }
-void operator delete(void* memory) noexcept { kvjxml::tests::release(memory); }
-void operator delete[](void* memory) noexcept { kvjxml::tests::release(memory); }
-void operator delete(void* memory, std::size_t /*size*/) noexcept { kvjxml::tests::release(memory); }
-void operator delete[](void* memory, std::size_t /*size*/) noexcept { kvjxml::tests::release(memory); }
+void* operator new(std::size_t size) { return kvj::tests::allocate(size); }
+void* operator new[](std::size_t size) { return kvj::tests::allocate(size); }
+void operator delete(void* memory) noexcept { kvj::tests::release(memory); }
+void operator delete[](void* memory) noexcept { kvj::tests::release(memory); }
+void operator delete(void* memory, std::size_t /*size*/) noexcept { kvj::tests::release(memory); }
+void operator delete[](void* memory, std::size_t /*size*/) noexcept { kvj::tests::release(memory); }

@@ -7,7 +7,7 @@
 #include <limits>
 #include <new>
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 enum class Failing { once, fromThenOn };
 
@@ -44,6 +44,6 @@ bool throwsAfter(std::size_t allowed, Failing failing, AllocationWatch& watch, A
     return thrown;
 }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

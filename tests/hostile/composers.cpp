@@ -12,7 +12,7 @@
 #include <iterator>
 #include <vector>
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 namespace {
 
@@ -221,4 +221,4 @@ std::string textOf(const Composer& composer) {
     return composing->compose() ? composing->text() : "";
 }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests

@@ -12,7 +12,7 @@
 
 #include "hostile/copy_scope.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 /// An object of the library with a buffer, which composes one request as often as it is asked.
 class Composing {
@@ -49,6 +49,6 @@ void withEachComposer(Check check) {
     }
 }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

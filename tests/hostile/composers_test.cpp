@@ -9,11 +9,11 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 // Without an example a request would be composed under no hard condition at all.
 TEST(ComposingExamples, AreThereForEveryRequestWithTheCopyThatItLeaves) {
-    for (const kvjxml::Request& request : kvjxml::requests()) {
+    for (const kvj::Request& request : kvj::requests()) {
         SCOPED_TRACE(std::string(request.name));
         const auto example = std::ranges::find(composers(), request.name, &Composer::name);
         ASSERT_NE(example, composers().end()) << "has no example in tests/hostile/composers.cpp";

@@ -12,7 +12,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 /// While this lives, no other test looks at these files, and what was there before is set aside.
 class CopyScope {
@@ -40,6 +40,6 @@ private:
     int lock_;
 };
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

@@ -19,7 +19,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 /// While this lives, the process runs as a user without rights, as it does anyway unless it is root's.
 class WithoutRights {
@@ -55,7 +55,7 @@ void expectComposed(Obstruct obstruct) {
 
 TEST(CopyInTheWay, AFileThatIsReadOnlyStaysAsItIs) {
     expectComposed([](const auto& copy, auto expectText) {
-        kvjxml::tests::write(copy, "old");
+        kvj::tests::write(copy, "old");
         std::filesystem::permissions(copy, std::filesystem::perms{0400});
         WithoutRights::give(copy);
         {
@@ -159,8 +159,8 @@ TEST(DiagnosticCopy, InAFolderThatCannotBeWrittenIsNotMade) {
     {
         const WithoutRights scope;
         TiXmlDocument request;
-        kvjxml::beginRequest(request, "nonce");
-        kvjxml::keepDiagnosticCopy(request, (closed / "settings").c_str());
+        kvj::beginRequest(request, "nonce");
+        kvj::keepDiagnosticCopy(request, (closed / "settings").c_str());
     }
     EXPECT_TRUE(std::filesystem::is_empty(closed));
 }

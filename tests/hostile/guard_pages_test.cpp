@@ -13,7 +13,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 /// A text that ends or begins at such a page, and cannot be written to.
 class GuardedText {

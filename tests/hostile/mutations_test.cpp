@@ -11,7 +11,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 /// What is markup, and what begins a character of two, three and four bytes.
 constexpr std::string_view wrongBytes = "<>/\"'=&;#x\xC3\xEF\xF0";

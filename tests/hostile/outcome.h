@@ -14,7 +14,7 @@
 
 #include "support/readers.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 /// A text in both forms, each byte as one wide character. Each lies in memory of its exact size, so that a sanitizer
 /// sees whatever reads past its end.
@@ -87,6 +87,6 @@ void withEachReader(Check check) {
     }
 }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

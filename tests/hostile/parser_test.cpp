@@ -23,7 +23,7 @@ const char* TiXmlDocument::Parse(const char* text, TiXmlParsingData* /*before*/,
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 TEST(TinyXmlParser, IsReplacedInThisProgram) {
     TiXmlDocument document;

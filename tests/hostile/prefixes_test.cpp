@@ -10,7 +10,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 Outcome outcomeOfPrefix(const Reader& reader, const std::string& text, std::size_t length) {
     return outcomeOf(reader, std::string_view(text).substr(0, length));

@@ -10,7 +10,7 @@
 
 #include "support/files.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 struct Sample {
     std::string root;  ///< the name of the root element, and of the file
@@ -29,6 +29,6 @@ inline std::vector<Sample> samples() {
 
 inline std::string sampleOf(const std::string& root) { return contentOf(EXAMPLES_DIR "/replies/" + root + ".xml"); }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

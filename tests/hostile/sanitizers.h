@@ -9,7 +9,7 @@
 #define KVJXML_HAS(feature) 0
 #endif
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 #if defined(__SANITIZE_ADDRESS__) || KVJXML_HAS(address_sanitizer)
 inline constexpr bool hasAddressSanitizer = true;
@@ -22,6 +22,6 @@ inline constexpr bool hasThreadSanitizer = true;
 inline constexpr bool hasThreadSanitizer = false;
 #endif
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

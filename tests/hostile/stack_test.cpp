@@ -12,7 +12,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 constexpr std::size_t stackSize = 64 << 10;
 

@@ -22,7 +22,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 constexpr std::size_t threadCount = 8;
 constexpr std::size_t rounds = hasThreadSanitizer ? 5 : 20;

@@ -15,9 +15,9 @@ namespace {
 
 using Kavrin::_tagCleaningLogEntry;
 using Kavrin::KVJLogParser;
-using kvjxml::tests::expectEqual;
-using kvjxml::tests::wide;
-using kvjxml::tests::Xml;
+using kvj::tests::expectEqual;
+using kvj::tests::wide;
+using kvj::tests::Xml;
 
 using Entries = _tagCleaningLogEntry[32];
 

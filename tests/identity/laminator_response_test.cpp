@@ -10,7 +10,7 @@
 namespace {
 
 using Kavrin::KVJNDC;
-using kvjxml::tests::wide;
+using kvj::tests::wide;
 
 /// A host's buffer of 512 characters, with more after them that show a write past the end.
 std::string preset() { return std::string(512 + 64, '#'); }

@@ -13,7 +13,7 @@ namespace {
 
 using Kavrin::__GETTRACK;
 using Kavrin::KVJGetEIN;
-using kvjxml::tests::Xml;
+using kvj::tests::Xml;
 
 /// A record with a value in every byte that no test writes.
 __GETTRACK preset() {

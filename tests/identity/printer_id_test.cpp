@@ -17,8 +17,8 @@ namespace {
 
 using Kavrin::KVJPrinterIDParser;
 using Kavrin::KVPrinterInfo;
-using kvjxml::tests::contentOf;
-using kvjxml::tests::Xml;
+using kvj::tests::contentOf;
+using kvj::tests::Xml;
 
 std::string tag(const std::string& name, const std::string& content) {
     return "<" + name + ">" + content + "</" + name + ">";

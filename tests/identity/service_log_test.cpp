@@ -18,9 +18,9 @@ namespace {
 using Kavrin::_tagLogServiceValues;
 using Kavrin::_tagLogServiceXML;
 using Kavrin::KVJLogParser;
-using kvjxml::tests::expectEqual;
-using kvjxml::tests::wide;
-using kvjxml::tests::Xml;
+using kvj::tests::expectEqual;
+using kvj::tests::wide;
+using kvj::tests::Xml;
 
 /// An entry with a value in every field that no test writes.
 constexpr _tagLogServiceValues preset = {-1, -2, -3, -4, -5, -6};

@@ -20,7 +20,7 @@
 namespace {
 
 using namespace Kavrin;
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 const std::filesystem::path copyPath = "/tmp/printidsettings";
 constexpr int room = 20'000;

@@ -19,7 +19,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 const std::string reply = contentOf(EXAMPLES_DIR "/replies/media.xml");
 constexpr Sizes replySizes = {4, 2, 0, 3};

@@ -15,7 +15,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 std::string without(const std::string& name) { return "<" + name + "/>"; }
 

@@ -13,7 +13,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 const std::string exampleReply = contentOf(EXAMPLES_DIR "/replies/media.xml");
 constexpr Sizes exampleSizes = {4, 2, 0, 3};

@@ -13,7 +13,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 using Reader = bool (KVJMediaParser::*)(TiXmlElement*, _KVMediaInfo&);
 

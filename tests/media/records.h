@@ -12,7 +12,7 @@
 
 #include "MediaRecords.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 using namespace Kavrin;  // the records
 
@@ -96,6 +96,6 @@ inline _CardInfo presetCard() {
             -1003};
 }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

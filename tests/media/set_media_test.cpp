@@ -18,7 +18,7 @@
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 const std::string declaration = "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n";
 const std::string noCards = declaration + "<media>\n    <cards />\n</media>\n";

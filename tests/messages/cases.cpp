@@ -6,7 +6,7 @@
 #include <string_view>
 #include <utility>
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 namespace {
 
@@ -324,4 +324,4 @@ private:
 
 std::vector<RowCases> casesOf(const Message& message) { return Collecting(message).all; }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests

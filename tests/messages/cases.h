@@ -10,7 +10,7 @@
 
 #include "messages/message.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 /// One element, and what it does.
 struct Input {
@@ -35,6 +35,6 @@ struct RowCases {
 /// Those of all rows that can be told from their description alone.
 std::vector<RowCases> casesOf(const Message& message);
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

@@ -11,17 +11,17 @@
 #include "messages/cases.h"
 #include "messages/host_record.h"
 
-namespace kvjxml {
+namespace kvj {
 
 /// How a failure names the message.
 static void PrintTo(const Message& message, std::ostream* out) { *out << message.operation; }
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 namespace {
 
-using namespace kvjxml::tests;
-using kvjxml::Message;
+using namespace kvj::tests;
+using kvj::Message;
 
 constexpr Preset presets[] = {Preset::low, Preset::high};
 
@@ -168,7 +168,6 @@ TEST_P(EveryMessage, KnowsElementsByTheirWholeNameInTheirPlaceAlone) {
 
 std::string nameOf(const testing::TestParamInfo<Message>& info) { return std::string(info.param.operation); }
 
-INSTANTIATE_TEST_SUITE_P(, EveryMessage, testing::ValuesIn(kvjxml::messages().begin(), kvjxml::messages().end()),
-                         nameOf);
+INSTANTIATE_TEST_SUITE_P(, EveryMessage, testing::ValuesIn(kvj::messages().begin(), kvj::messages().end()), nameOf);
 
 }  // namespace

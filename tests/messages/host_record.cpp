@@ -6,7 +6,7 @@
 #include "fields/differences.h"
 #include "support/xml.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 namespace {
 
@@ -89,4 +89,4 @@ void HostRecord::fill(const Entries& entries, void* record) {
 }
 // NOLINTEND(misc-no-recursion)
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests

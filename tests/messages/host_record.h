@@ -10,7 +10,7 @@
 #include "messages/message.h"
 #include "messages/zeroed_record.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 /// What flags and numbers are set to, so that a value that a reader stores differs from one of the two.
 enum class Preset { low, high };
@@ -37,6 +37,6 @@ private:
     std::vector<std::unique_ptr<std::byte[]>> arrays_;
 };
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

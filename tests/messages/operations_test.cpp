@@ -11,7 +11,7 @@
 
 namespace {
 
-using kvjxml::tests::exported;
+using kvj::tests::exported;
 
 template <class Rows>
 std::vector<std::string> operationsOf(const Rows& rows) {
@@ -23,7 +23,7 @@ std::vector<std::string> operationsOf(const Rows& rows) {
 // A reader takes a text, its length and where to read it to; composers are of classes that set something.
 TEST(Messages, AreAllThatTheLibraryReads) {
     EXPECT_THAT(
-        operationsOf(kvjxml::messages()),
+        operationsOf(kvj::messages()),
         testing::UnorderedElementsAreArray(exported(
             R"(\w+::(?!KVJSet)\w+::(\w+)\((wchar_t const&|wchar_t\*|char const&|char const\*), (int|unsigned long), .*)")));
 }
@@ -31,7 +31,7 @@ TEST(Messages, AreAllThatTheLibraryReads) {
 // A composer takes a buffer and its size; `saveJob` prints what is composed already.
 TEST(Requests, AreAllThatTheLibraryComposes) {
     EXPECT_THAT(
-        operationsOf(kvjxml::requests()),
+        operationsOf(kvj::requests()),
         testing::UnorderedElementsAreArray(exported(
             R"((?:\w+::KVJSet\w+(?=.*wchar_t\*, int)|KVJDeviceControl)::(?!saveJob)(\w+)\(.*(wchar_t|char)\*, int.*)")));
 }

@@ -1,7 +1,7 @@
 // error: a field of the record is missing in its list
 #include "fields/list.h"
 
-using namespace kvjxml;
+using namespace kvj;
 
 // Without `isSet` the record has the same size, and `number` the same place.
 struct Padded {
@@ -10,6 +10,6 @@ struct Padded {
     int number;
 };
 template <>
-inline constexpr FieldList<&Padded::letter, &Padded::number> kvjxml::fields<Padded>{};
+inline constexpr FieldList<&Padded::letter, &Padded::number> kvj::fields<Padded>{};
 
 const RecordType& type = recordType<Padded>;

@@ -1,7 +1,7 @@
 // error: a field of the record is missing in its list
 #include "fields/list.h"
 
-using namespace kvjxml;
+using namespace kvj;
 
 struct Point {
     int x;
@@ -9,6 +9,6 @@ struct Point {
     int z;
 };
 template <>
-inline constexpr FieldList<&Point::x, &Point::y> kvjxml::fields<Point>{};
+inline constexpr FieldList<&Point::x, &Point::y> kvj::fields<Point>{};
 
 const RecordType& type = recordType<Point>;

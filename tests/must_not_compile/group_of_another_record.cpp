@@ -1,8 +1,8 @@
-// error: (initialization of reference of type|initializer list argument to) 'const (kvjxml::)?Row<Kavrin::KVJobStatus>
+// error: (initialization of reference of type|initializer list argument to) 'const (kvj::)?Row<Kavrin::KVJobStatus>
 #include "StatusRecords.h"
 #include "foundation/read_rules.h"
 
-using namespace kvjxml;
+using namespace kvj;
 using Kavrin::KVJobStatus;
 
 constexpr auto general = rows<Kavrin::KVGeneralStatus>({{"warning", number<&Kavrin::KVGeneralStatus::warning>}});

@@ -2,7 +2,7 @@
 #include "StatusRecords.h"
 #include "foundation/both.h"
 
-using namespace kvjxml;
+using namespace kvj;
 using Kavrin::KVJobStatus;
 
 constexpr auto table = bothWays<KVJobStatus>({

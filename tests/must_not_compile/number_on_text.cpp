@@ -2,7 +2,7 @@
 #include "StatusRecords.h"
 #include "foundation/read_rules.h"
 
-using namespace kvjxml;
+using namespace kvj;
 using Kavrin::KVJobStatus;
 
 constexpr auto table = rows<KVJobStatus>({{"uuid", number<&KVJobStatus::uuid>}});

@@ -5,4 +5,4 @@ struct Point {
     int x;
 };
 
-const kvjxml::RecordType& type = kvjxml::recordType<Point>;
+const kvj::RecordType& type = kvj::recordType<Point>;

@@ -2,7 +2,7 @@
 #include "StatusRecords.h"
 #include "foundation/read_rules.h"
 
-using namespace kvjxml;
+using namespace kvj;
 using Kavrin::KVGeneralStatus;
 using Kavrin::KVJobStatus;
 

@@ -1,7 +1,7 @@
 // The lists that the other sources spoil, as they have to be.
 #include "fields/list.h"
 
-using namespace kvjxml;
+using namespace kvj;
 
 struct Point {
     int x;
@@ -9,7 +9,7 @@ struct Point {
     int z;
 };
 template <>
-inline constexpr FieldList<&Point::x, &Point::y, &Point::z> kvjxml::fields<Point>{};
+inline constexpr FieldList<&Point::x, &Point::y, &Point::z> kvj::fields<Point>{};
 
 struct Padded {
     char letter[1];
@@ -17,7 +17,7 @@ struct Padded {
     int number;
 };
 template <>
-inline constexpr FieldList<&Padded::letter, &Padded::isSet, &Padded::number> kvjxml::fields<Padded>{};
+inline constexpr FieldList<&Padded::letter, &Padded::isSet, &Padded::number> kvj::fields<Padded>{};
 
 const RecordType& point = recordType<Point>;
 const RecordType& padded = recordType<Padded>;

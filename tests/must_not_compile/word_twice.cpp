@@ -1,4 +1,4 @@
 // error: a word occurs twice in its table
 #include "foundation/words.h"
 
-constexpr kvjxml::WordTable table{0, {{"off", 0}, {"on", 1}, {"off", 2}}};
+constexpr kvj::WordTable table{0, {{"off", 0}, {"on", 1}, {"off", 2}}};

@@ -12,9 +12,9 @@
 namespace {
 
 using namespace Kavrin;
-using kvjxml::tests::wide;
-using kvjxml::tests::written;
-using kvjxml::tests::Xml;
+using kvj::tests::wide;
+using kvj::tests::written;
+using kvj::tests::Xml;
 
 template <class Record>
 bool read(bool (KVJSecAction::*reader)(const wchar_t&, unsigned long, Record&), const std::string& reply,

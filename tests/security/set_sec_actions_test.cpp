@@ -17,9 +17,9 @@
 namespace {
 
 using namespace Kavrin;
-using kvjxml::tests::contentOf;
-using kvjxml::tests::TemporaryFolder;
-using kvjxml::tests::wide;
+using kvj::tests::contentOf;
+using kvj::tests::TemporaryFolder;
+using kvj::tests::wide;
 
 const std::string declaration = "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n";
 

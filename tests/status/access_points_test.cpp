@@ -17,9 +17,9 @@ namespace {
 using Kavrin::_tagAccessPoint;
 using Kavrin::_tagAccessPoints;
 using Kavrin::KVJStatusParser;
-using kvjxml::tests::expectEqual;
-using kvjxml::tests::wide;
-using kvjxml::tests::Xml;
+using kvj::tests::expectEqual;
+using kvj::tests::wide;
+using kvj::tests::Xml;
 
 /// An entry with a value in every field that no test writes; the codes have bits that no word has.
 _tagAccessPoint preset() { return {"preset", {9, 8, 7, 6, 5, 4}, true, -1, -2, -3, true, 0x100, 0x200, -4}; }

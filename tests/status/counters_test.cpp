@@ -17,9 +17,9 @@ using Kavrin::KVCardCount;
 using Kavrin::KVCleaningStatus;
 using Kavrin::KVJStatusParser;
 using Kavrin::KVUpTimes;
-using kvjxml::tests::expectEqual;
-using kvjxml::tests::wide;
-using kvjxml::tests::Xml;
+using kvj::tests::expectEqual;
+using kvj::tests::wide;
+using kvj::tests::Xml;
 
 template <class Record>
 using Reader = bool (KVJStatusParser::*)(const wchar_t&, int, Record&);

@@ -12,9 +12,9 @@ namespace {
 
 using Kavrin::KVGeneralStatus;
 using Kavrin::KVJStatusParser;
-using kvjxml::tests::expectEqual;
-using kvjxml::tests::wide;
-using kvjxml::tests::Xml;
+using kvj::tests::expectEqual;
+using kvj::tests::wide;
+using kvj::tests::Xml;
 
 /// A record with a value in every field that no test writes.
 KVGeneralStatus preset() { return {-1, 101, -2, true, -3, -4, -5, -6, -7, -8, -9, -10, 102}; }

@@ -16,9 +16,9 @@ using Kavrin::_KVJobInfo;
 using Kavrin::KVJobList;
 using Kavrin::KVJOBLIST_CAPACITY;
 using Kavrin::KVJStatusParser;
-using kvjxml::tests::expectEqual;
-using kvjxml::tests::wide;
-using kvjxml::tests::Xml;
+using kvj::tests::expectEqual;
+using kvj::tests::wide;
+using kvj::tests::Xml;
 
 /// A list with room for `count` jobs and values in every entry that no test writes.
 KVJobList preset(int count) {

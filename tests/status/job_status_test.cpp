@@ -13,9 +13,9 @@ namespace {
 
 using Kavrin::KVJobStatus;
 using Kavrin::KVJStatusParser;
-using kvjxml::tests::expectEqual;
-using kvjxml::tests::wide;
-using kvjxml::tests::Xml;
+using kvj::tests::expectEqual;
+using kvj::tests::wide;
+using kvj::tests::Xml;
 
 /// A record with a value in every field that no test writes.
 KVJobStatus preset() { return {101, "preset", true, -2, -3, 102, -4, -5, -6, -7, -8, -9}; }

@@ -16,9 +16,9 @@
 namespace {
 
 using Kavrin::KVJStatusParser;
-using kvjxml::tests::expectEqual;
-using kvjxml::tests::wide;
-using kvjxml::tests::Xml;
+using kvj::tests::expectEqual;
+using kvj::tests::wide;
+using kvj::tests::Xml;
 
 // No reply in these tests has the values of a preset record, and no ribbon word has its code.
 _MediaStatusInfo presetMedium() { return {-1, -2, "preset", "preset", "preset", -3, -4, -5.5F, -6.5F}; }

@@ -14,9 +14,9 @@ namespace {
 
 using Kavrin::KVJSensorParser;
 using Kavrin::KVSensorInfo;
-using kvjxml::tests::expectEqual;
-using kvjxml::tests::wide;
-using kvjxml::tests::Xml;
+using kvj::tests::expectEqual;
+using kvj::tests::wide;
+using kvj::tests::Xml;
 
 /// A record with a value in every field that no test writes.
 KVSensorInfo preset() {

@@ -16,8 +16,8 @@ namespace {
 
 using Kavrin::_KVPrinterSensorInfo;
 using Kavrin::KVJSensorParser;
-using kvjxml::tests::expectEqual;
-using kvjxml::tests::Xml;
+using kvj::tests::expectEqual;
+using kvj::tests::Xml;
 
 /// A record with a value in every byte that no test writes.
 _KVPrinterSensorInfo preset() {

@@ -15,9 +15,9 @@ namespace {
 
 using Kavrin::_SENSOR;
 using Kavrin::KVJStatusParser;
-using kvjxml::tests::expectEqual;
-using kvjxml::tests::wide;
-using kvjxml::tests::Xml;
+using kvj::tests::expectEqual;
+using kvj::tests::wide;
+using kvj::tests::Xml;
 
 /// A record with a value in every field that no test writes, but for the switches, which have only two.
 _SENSOR preset(bool on = true) {

@@ -15,9 +15,9 @@ using Kavrin::_tagPackets;
 using Kavrin::_tagWirelessRadioStatus;
 using Kavrin::_tagWirelessStatus;
 using Kavrin::KVJStatusParser;
-using kvjxml::tests::expectEqual;
-using kvjxml::tests::wide;
-using kvjxml::tests::Xml;
+using kvj::tests::expectEqual;
+using kvj::tests::wide;
+using kvj::tests::Xml;
 
 std::string element(const std::string& name, const std::string& content) {
     return "<" + name + ">" + content + "</" + name + ">";

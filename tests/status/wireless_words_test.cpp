@@ -9,7 +9,7 @@
 namespace {
 
 using Kavrin::KVJStatusParser;
-using kvjxml::tests::Xml;
+using kvj::tests::Xml;
 
 using Combiner = bool (KVJStatusParser::*)(TiXmlElement*, unsigned int&);
 

@@ -5,7 +5,7 @@
 
 #include <sys/resource.h>
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 /// While this lives, no file of this process can grow beyond this many bytes. An attempt gets the signal that ends the
 /// process.
@@ -24,6 +24,6 @@ private:
     rlimit before_{};
 };
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

@@ -10,7 +10,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 class TemporaryFolder {
 public:
@@ -43,6 +43,6 @@ inline void write(const std::filesystem::path& path, const std::string& content)
     if (!(file << content << std::flush)) throw std::runtime_error("cannot write " + path.string());
 }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

@@ -10,7 +10,7 @@
 #include <cstddef>
 #include <system_error>
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 enum class End { front, back };
 
@@ -43,6 +43,6 @@ private:
     char* first_ = nullptr;
 };
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

@@ -4,7 +4,7 @@
 #include <fstream>
 #include <regex>
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 std::vector<std::vector<std::string>> linesLike(const std::string& pattern, const std::filesystem::path& file) {
     const std::regex expression(pattern);
@@ -35,4 +35,4 @@ std::string identifierOf(std::string_view name) {
     return identifier;
 }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 /// Of each line that a regular expression matches as a whole, what its groups match.
 std::vector<std::vector<std::string>> linesLike(const std::string& pattern, const std::filesystem::path& file);
@@ -19,6 +19,6 @@ std::vector<std::string> exported(const std::string& pattern);
 /// A name with namespaces as a test can have it.
 std::string identifierOf(std::string_view name);
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

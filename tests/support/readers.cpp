@@ -6,7 +6,7 @@
 
 #include "messages/zeroed_record.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 namespace {
 
@@ -136,4 +136,4 @@ std::span<const Reader> readers() {
     return all;
 }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests

@@ -11,7 +11,7 @@
 
 #include "messages/message.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 using Text = ReplyText;
 
@@ -52,6 +52,6 @@ private:
 
 std::span<const Reader> readers();
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

@@ -12,7 +12,7 @@
 #include "fields/differences.h"
 #include "fields/list.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 template <class Record>
 void expectEqual(const Record& actual, const std::type_identity_t<Record>& expected) {
@@ -28,6 +28,6 @@ void expectEqual(const std::vector<Record>& actual, const std::type_identity_t<s
     }
 }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

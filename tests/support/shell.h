@@ -10,7 +10,7 @@
 
 #include "support/files.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 struct Outcome {
     int code;
@@ -28,6 +28,6 @@ inline Outcome runShell(const std::string& command, const std::string& input = {
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, contentOf(folder / "out"), contentOf(folder / "error")};
 }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 namespace {
 
@@ -88,4 +88,4 @@ Document documentOf(std::string_view text) {
     return Document(std::move(copy));
 }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests

@@ -10,7 +10,7 @@
 
 #include "foundation/element.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 /// All elements below this one: `name "value of the first child" attribute="value" {children}`. Texts end at their
 /// first NUL, since that is how they are read; marks of the notation itself are not escaped, as both sides are written
@@ -30,6 +30,6 @@ struct Reference {
 /// What the library makes of a text, up to its first NUL.
 Document documentOf(std::string_view text);
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 /// A parsed document; its root element lives as long as this object.
 class Xml {
@@ -31,6 +31,6 @@ inline std::string written(const TiXmlNode& node) {
 /// ASCII text as wide text.
 inline std::wstring wide(std::string_view text) { return {text.begin(), text.end()}; }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

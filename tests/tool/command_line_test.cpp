@@ -8,8 +8,8 @@
 
 namespace {
 
-using kvjxml::tests::Outcome;
-using kvjxml::tests::runTool;
+using kvj::tests::Outcome;
+using kvj::tests::runTool;
 using testing::HasSubstr;
 
 const std::string reply = std::string(KVJXML_REPLIES) + "/get_job_status.xml";

@@ -8,8 +8,8 @@
 
 namespace {
 
-using kvjxml::tests::Outcome;
-using kvjxml::tests::runTool;
+using kvj::tests::Outcome;
+using kvj::tests::runTool;
 using nlohmann::json;
 
 json recordOf(const Outcome& outcome) { return json::parse(outcome.out); }

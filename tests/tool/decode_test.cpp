@@ -8,10 +8,10 @@
 
 namespace {
 
-using kvjxml::tests::contentOf;
-using kvjxml::tests::Outcome;
-using kvjxml::tests::runTool;
-using kvjxml::tests::TemporaryFolder;
+using kvj::tests::contentOf;
+using kvj::tests::Outcome;
+using kvj::tests::runTool;
+using kvj::tests::TemporaryFolder;
 using nlohmann::json;
 using testing::HasSubstr;
 using testing::Not;

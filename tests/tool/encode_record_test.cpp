@@ -8,9 +8,9 @@
 
 namespace {
 
-using kvjxml::tests::contentOf;
-using kvjxml::tests::Outcome;
-using kvjxml::tests::runTool;
+using kvj::tests::contentOf;
+using kvj::tests::Outcome;
+using kvj::tests::runTool;
 using nlohmann::ordered_json;
 using testing::HasSubstr;
 using testing::Not;

@@ -6,9 +6,9 @@
 
 namespace {
 
-using kvjxml::tests::contentOf;
-using kvjxml::tests::Outcome;
-using kvjxml::tests::runTool;
+using kvj::tests::contentOf;
+using kvj::tests::Outcome;
+using kvj::tests::runTool;
 using testing::HasSubstr;
 
 const std::string declaration = "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n";

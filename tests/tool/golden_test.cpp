@@ -10,8 +10,8 @@
 
 namespace {
 
-using kvjxml::tests::contentOf;
-using kvjxml::tests::runTool;
+using kvj::tests::contentOf;
+using kvj::tests::runTool;
 namespace fs = std::filesystem;
 
 std::set<std::string> namesIn(const fs::path& folder, const std::string& extension) {

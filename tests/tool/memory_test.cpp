@@ -12,10 +12,10 @@
 
 namespace {
 
-using kvjxml::tests::Outcome;
-using kvjxml::tests::runShell;
-using kvjxml::tests::runTool;
-using kvjxml::tests::TemporaryFolder;
+using kvj::tests::Outcome;
+using kvj::tests::runShell;
+using kvj::tests::runTool;
+using kvj::tests::TemporaryFolder;
 
 // ---- The largest input ----
 
@@ -70,7 +70,7 @@ TEST(MaxSize, IsBytesOrHasAUnit) {
 std::size_t peakOf(const std::string& reply) {
     const TemporaryFolder folder;
     const std::string file = (folder / "reply.xml").string();
-    kvjxml::tests::write(file, reply);
+    kvj::tests::write(file, reply);
     const pid_t child = fork();
     if (child == 0) {
         const int nowhere = open("/dev/null", O_WRONLY);
@@ -105,7 +105,7 @@ void PrintTo(const Shape& shape, std::ostream* out) { *out << shape.name; }
 class Peak : public testing::TestWithParam<Shape> {};
 
 TEST_P(Peak, GrowsByAFewBytesForEachByteOfTheReply) {
-    if (kvjxml::tests::hasAddressSanitizer || kvjxml::tests::hasThreadSanitizer) {
+    if (kvj::tests::hasAddressSanitizer || kvj::tests::hasThreadSanitizer) {
         GTEST_SKIP() << "It keeps what was released.";
     }
     const auto& [name, before, element, behind] = GetParam();

@@ -18,11 +18,11 @@
 
 namespace {
 
-using kvjxml::DescribedRow;
-using kvjxml::Kind;
-using kvjxml::tests::contentOf;
-using kvjxml::tests::runShell;
-using kvjxml::tests::runTool;
+using kvj::DescribedRow;
+using kvj::Kind;
+using kvj::tests::contentOf;
+using kvj::tests::runShell;
+using kvj::tests::runTool;
 
 std::string publicHeaders() {
     std::string text;
@@ -52,8 +52,8 @@ void collect(std::span<const DescribedRow> rows, std::vector<DescribedRow>& all)
 }
 std::vector<DescribedRow> allRows() {
     std::vector<DescribedRow> all;
-    for (const auto& message : kvjxml::messages()) collect(message.table, all);
-    for (const auto& request : kvjxml::requests()) collect(request.table, all);
+    for (const auto& message : kvj::messages()) collect(message.table, all);
+    for (const auto& request : kvj::requests()) collect(request.table, all);
     return all;
 }
 
@@ -66,7 +66,7 @@ TEST(Reference, ThePageIsWhatTheToolPrints) {
 }
 
 TEST(Reference, NoTwoTablesOfWordsHaveOneName) {
-    std::map<std::string_view, const kvjxml::Word*> tables;
+    std::map<std::string_view, const kvj::Word*> tables;
     for (const auto& row : allRows()) {
         const auto& words = row.description.words;
         if (words.name.empty()) continue;
@@ -86,7 +86,7 @@ TEST(Reference, EveryTableOfWordsIsThereOnce) {
 }
 
 /// Whether a description has the data that its kind calls for.
-bool isComplete(const kvjxml::Description& row) {
+bool isComplete(const kvj::Description& row) {
     const bool hasField = !row.field.empty();
     const bool hasWords = !row.words.words.rows.empty();
     const bool hasWord = !row.word.empty();
@@ -104,7 +104,7 @@ bool isComplete(const kvjxml::Description& row) {
         case Kind::textAndCode:
             return row.capacity > 1 && hasWords && hasOtherField;
         case Kind::word:
-            return hasWords && (row.withoutText != kvjxml::WithoutText::isOther || row.words.words.other);
+            return hasWords && (row.withoutText != kvj::WithoutText::isOther || row.words.words.other);
         case Kind::bits:
         case Kind::combinedCodes:
             return hasWords;

@@ -7,13 +7,13 @@
 
 #include "support/shell.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 /// Runs the tool with these words of a command line, and with `input` on its standard input.
 inline Outcome runTool(const std::string& words, const std::string& input = {}) {
     return runShell(std::string(KVJXML_TOOL) + " " + words, input);
 }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

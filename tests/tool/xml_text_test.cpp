@@ -7,8 +7,8 @@
 
 namespace {
 
-using kvjxml::tool::firstNotOfXml;
-using kvjxml::tool::isElementName;
+using kvj::tool::firstNotOfXml;
+using kvj::tool::isElementName;
 
 std::string utf8(char32_t character) {
     if (character < 0x80) return {static_cast<char>(character)};

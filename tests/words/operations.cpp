@@ -13,7 +13,7 @@
 #include "foundation/name.h"
 #include "support/xml.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 namespace {
 
@@ -172,4 +172,4 @@ std::span<const WritingOperation> writingOperations() {
     return operations;
 }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 struct ReadingOperation {
     std::string_view name;  ///< with its class
@@ -29,6 +29,6 @@ struct WritingOperation {
 std::span<const ReadingOperation> readingOperations();
 std::span<const WritingOperation> writingOperations();
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

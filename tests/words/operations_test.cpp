@@ -11,16 +11,16 @@
 #include "support/lines.h"
 #include "words/word_file.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 void PrintTo(const ReadingOperation& operation, std::ostream* out) { *out << operation.name; }
 void PrintTo(const WritingOperation& operation, std::ostream* out) { *out << operation.name; }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 namespace {
 
-using namespace kvjxml::tests;
+using namespace kvj::tests;
 
 /// The operations, with their classes, that the library exports under a pattern.
 std::vector<std::string> exportedAs(const std::string& pattern) {

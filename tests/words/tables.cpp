@@ -11,7 +11,7 @@
 #include "status/job.h"
 #include "status/wireless.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 std::span<const NamedWords> wordTables() {
     static constexpr NamedWords tables[] = {
@@ -73,4 +73,4 @@ std::span<const NamedWords> wordTables() {
     return tables;
 }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests

@@ -7,10 +7,10 @@
 
 #include "foundation/kinds.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 std::span<const NamedWords> wordTables();
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

@@ -8,7 +8,7 @@
 #include <sstream>
 #include <stdexcept>
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 namespace {
 
@@ -138,4 +138,4 @@ std::vector<int> codesAround(const WordFile& file) {
     return codes;
 }
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests

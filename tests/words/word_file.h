@@ -12,7 +12,7 @@
 
 #include "foundation/words.h"
 
-namespace kvjxml::tests {
+namespace kvj::tests {
 
 struct WordRow {
     std::string word;
@@ -47,6 +47,6 @@ std::vector<std::string> textsLike(const WordFile& file);
 /// The codes around those that words stand for, and some far off.
 std::vector<int> codesAround(const WordFile& file);
 
-}  // namespace kvjxml::tests
+}  // namespace kvj::tests
 
 #endif

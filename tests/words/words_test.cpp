@@ -19,20 +19,20 @@
 #include "words/tables.h"
 #include "words/word_file.h"
 
-namespace kvjxml {
+namespace kvj {
 
 void PrintTo(const NamedWords& words, std::ostream* out) { *out << words.name; }
 
-}  // namespace kvjxml
+}  // namespace kvj
 
 namespace {
 
-using kvjxml::DescribedRow;
-using kvjxml::NamedWords;
-using kvjxml::Words;
-using kvjxml::tests::linesLike;
-using kvjxml::tests::WordFile;
-using kvjxml::tests::WordRow;
+using kvj::DescribedRow;
+using kvj::NamedWords;
+using kvj::Words;
+using kvj::tests::linesLike;
+using kvj::tests::WordFile;
+using kvj::tests::WordRow;
 
 using Names = std::set<std::string, std::less<>>;
 
@@ -41,7 +41,7 @@ using Names = std::set<std::string, std::less<>>;
 /// The tables in a source, by their names with namespaces.
 void addTablesOf(const std::filesystem::path& source, Names& names) {
     const std::string pattern =
-        R"(namespace kvjxml::(\w+) \{|inline constexpr (?:WordTable (\w+)[\{\(].*|auto (\w+) = \w+\.leavingOthers\(\);))";
+        R"(namespace kvj::(\w+) \{|inline constexpr (?:WordTable (\w+)[\{\(].*|auto (\w+) = \w+\.leavingOthers\(\);))";
     std::string prefix;
     for (const auto& line : linesLike(pattern, source)) {
         if (!line[0].empty()) {
@@ -58,9 +58,9 @@ TEST(WordTables, EachHasItsFile) {
         if (entry.is_regular_file()) addTablesOf(entry.path(), inSources);
     }
     Names tables;
-    for (const NamedWords& table : kvjxml::tests::wordTables()) tables.emplace(table.name);
+    for (const NamedWords& table : kvj::tests::wordTables()) tables.emplace(table.name);
     Names files;
-    for (const WordFile& file : kvjxml::tests::wordFiles()) files.insert(file.table);
+    for (const WordFile& file : kvj::tests::wordFiles()) files.insert(file.table);
     EXPECT_EQ(tables, inSources);
     EXPECT_EQ(files, inSources);
 }
@@ -78,11 +78,11 @@ void addTablesOf(std::span<const DescribedRow> rows, Names& names) {
 TEST(WordTables, AreReadAndWrittenAsTheirFilesSay) {
     Names read;
     Names written;
-    for (const auto& message : kvjxml::messages()) addTablesOf(message.table, read);
-    for (const auto& request : kvjxml::requests()) addTablesOf(request.table, written);
-    for (const auto& operation : kvjxml::tests::readingOperations()) read.emplace(operation.table);
-    for (const auto& operation : kvjxml::tests::writingOperations()) written.emplace(operation.table);
-    for (const WordFile& file : kvjxml::tests::wordFiles()) {
+    for (const auto& message : kvj::messages()) addTablesOf(message.table, read);
+    for (const auto& request : kvj::requests()) addTablesOf(request.table, written);
+    for (const auto& operation : kvj::tests::readingOperations()) read.emplace(operation.table);
+    for (const auto& operation : kvj::tests::writingOperations()) written.emplace(operation.table);
+    for (const WordFile& file : kvj::tests::wordFiles()) {
         // Texts and numbers that a host passes to a service command are looked up in the code that composes it, and so
         // is the name of a protected action in what a host got; two words of the capabilities come from flags.
         if (file.table.starts_with("devicecontrol::") || file.table == "security::actionNames" ||
@@ -99,7 +99,7 @@ TEST(WordTables, AreReadAndWrittenAsTheirFilesSay) {
 class WordTable : public testing::TestWithParam<NamedWords> {
 protected:
     Words words = GetParam().words;
-    const WordFile& file = kvjxml::tests::wordFile(GetParam().name);
+    const WordFile& file = kvj::tests::wordFile(GetParam().name);
 };
 
 TEST_P(WordTable, HasTheWordsOfItsFileAndNoOthers) {
@@ -117,16 +117,15 @@ TEST_P(WordTable, ReadsATextAsTheCodeOfItsWord) {
     }
     constexpr int before = -77;
     for (const std::string& text : textsLike(file)) {
-        EXPECT_EQ(kvjxml::codeOf(words, text.c_str()).value_or(before), file.codeOf(text, before))
-            << '"' << text << '"';
+        EXPECT_EQ(kvj::codeOf(words, text.c_str()).value_or(before), file.codeOf(text, before)) << '"' << text << '"';
     }
-    EXPECT_EQ(kvjxml::codeOf(words, nullptr), file.other);
+    EXPECT_EQ(kvj::codeOf(words, nullptr), file.other);
 }
 
 TEST_P(WordTable, WritesACodeAsItsWord) {
     if (!file.isWritten()) return;
     for (const int code : codesAround(file)) {
-        const char* const word = kvjxml::wordOf(words, code);
+        const char* const word = kvj::wordOf(words, code);
         if (const std::string* const expected = file.wordOf(code)) {
             EXPECT_STREQ(word, expected->c_str()) << code;
         } else {
@@ -135,7 +134,7 @@ TEST_P(WordTable, WritesACodeAsItsWord) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(, WordTable, testing::ValuesIn(kvjxml::tests::wordTables()),
-                         [](const auto& test) { return kvjxml::tests::identifierOf(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(, WordTable, testing::ValuesIn(kvj::tests::wordTables()),
+                         [](const auto& test) { return kvj::tests::identifierOf(test.param.name); });
 
 }  // namespace

@@ -8,7 +8,7 @@
 #include "place.h"
 #include "xml_text.h"
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 namespace {
 
@@ -95,4 +95,4 @@ json checkedJson(const std::string& text, const std::string& source) {
     }
 }
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool

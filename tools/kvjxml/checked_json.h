@@ -6,13 +6,13 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 /// @param source  says where the text came from.
 /// @throws Failure, with a JSON pointer to the place, for anything but JSON, for a key that comes twice in its object,
 ///         and for a text with a character that XML does not have.
 nlohmann::json checkedJson(const std::string& text, const std::string& source);
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool
 
 #endif

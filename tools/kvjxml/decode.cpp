@@ -8,7 +8,7 @@
 #include "failure.h"
 #include "foundation/reply.h"
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 namespace {
 
@@ -97,4 +97,4 @@ ExitCode decode(const Source& source, const std::string& message) {
     return anyRead ? ExitCode::done : ExitCode::readerFailed;
 }
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool

@@ -8,13 +8,13 @@
 #include "exit_code.h"
 #include "input.h"
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 /// Prints the record of the reply from `source` as JSON.
 /// @param message  the root element of the message to look for; empty to go by the document.
 /// @throws Failure
 ExitCode decode(const Source& source, const std::string& message);
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool
 
 #endif

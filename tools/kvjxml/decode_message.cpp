@@ -9,7 +9,7 @@
 #include "json_record.h"
 #include "messages/zeroed_record.h"
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 namespace {
 
@@ -142,4 +142,4 @@ bool decodeMessage(const Message& message, const Input& input, JsonPrinter& json
     return message.saysWhetherRead ? result : !root.children().empty();
 }
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool

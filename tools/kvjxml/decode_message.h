@@ -7,12 +7,12 @@
 #include "json_printer.h"
 #include "messages/message.h"
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 /// Reads the reply and prints the record, a long list entry by entry.
 /// @return what the reader returned; whether it had anything to read when it does not say.
 bool decodeMessage(const Message& message, const Input& input, JsonPrinter& json);
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool
 
 #endif

@@ -12,7 +12,7 @@
 #include "messages/zeroed_record.h"
 #include "sections.h"
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 namespace {
 
@@ -88,4 +88,4 @@ ExitCode encode(const Request& request, const Choices& choices, const Source& so
     return ExitCode::done;
 }
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool

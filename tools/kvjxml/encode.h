@@ -9,7 +9,7 @@
 #include "input.h"
 #include "messages/request.h"
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 /// The request that the library composes from JSON, which came from `source`.
 /// @throws Failure
@@ -20,6 +20,6 @@ std::string composed(const Request& request, const Choices& choices, const std::
 /// @throws Failure
 ExitCode encode(const Request& request, const Choices& choices, const Source& source);
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool
 
 #endif

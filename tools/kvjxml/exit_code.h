@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 enum class ExitCode { done, inputOutput, usage, unknownMessage, readerFailed, badJson };
 
@@ -30,6 +30,6 @@ inline std::string exitCodeTable() {
     return table;
 }
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool
 
 #endif

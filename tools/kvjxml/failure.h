@@ -8,7 +8,7 @@
 
 #include "exit_code.h"
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 class Failure : public std::runtime_error {
 public:
@@ -19,6 +19,6 @@ private:
     ExitCode code_;
 };
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool
 
 #endif

@@ -9,7 +9,7 @@
 
 #include "failure.h"
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 namespace {
 
@@ -66,4 +66,4 @@ Input readInput(const Source& source) {
     return input;
 }
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool

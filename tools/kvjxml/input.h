@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 struct Input {
     std::string name;   ///< for messages: the file's name, or "standard input"
@@ -32,6 +32,6 @@ std::string readBytes(const Source& source);
 /// @throws Failure as readBytes does, and when it is not text in UTF-8.
 Input readInput(const Source& source);
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool
 
 #endif

@@ -2,7 +2,7 @@
 
 #include <iomanip>
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 void JsonPrinter::field(std::string_view name) {
     entry();
@@ -23,4 +23,4 @@ void JsonPrinter::beginLine() {
     *out_ << '\n' << std::setw(static_cast<int>(depth_ * indent)) << "";
 }
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool

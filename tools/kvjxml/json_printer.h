@@ -11,7 +11,7 @@
 #include <string_view>
 #include <utility>
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 class JsonPrinter {
 public:
@@ -66,6 +66,6 @@ private:
     bool isEmpty_ = true;  ///< whether what is being printed has nothing in it so far
 };
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool
 
 #endif

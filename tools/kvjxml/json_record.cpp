@@ -8,7 +8,7 @@
 
 #include "foundation/convert.h"
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 namespace {
 
@@ -153,4 +153,4 @@ void readRecord(const Place& place, const RecordType& type, void* record, const 
 
 // NOLINTEND(misc-no-recursion)
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool

@@ -13,7 +13,7 @@
 #include "json_printer.h"
 #include "place.h"
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 /// Prints the value of a field.
 void print(JsonPrinter& json, const Field& field, const void* record);
@@ -50,6 +50,6 @@ using Arrays = std::deque<std::shared_ptr<std::byte[]>>;
 /// Reads the fields of a record. One that is not there is refused when it is `needed`, else it stays as it was.
 void readRecord(const Place& place, const RecordType& type, void* record, const Names& needed, Arrays& arrays);
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool
 
 #endif

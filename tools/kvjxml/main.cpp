@@ -23,7 +23,7 @@
 
 namespace {
 
-using kvjxml::tool::ExitCode;
+using kvj::tool::ExitCode;
 
 /// A size, as its number of bytes. Units are powers of 1024; "KB" is refused, since it could mean either.
 std::string asBytes(std::string& text) {
@@ -42,7 +42,7 @@ std::string asBytes(std::string& text) {
 }
 
 /// The options of every verb that reads input.
-void addSource(CLI::App& verb, const std::string& content, kvjxml::tool::Source& source) {
+void addSource(CLI::App& verb, const std::string& content, kvj::tool::Source& source) {
     verb.add_option("FILE", source.path, content + "; - for standard input")->capture_default_str();
     verb.add_option("--max-size", source.maxSize,
                     "Refuse input that is larger: bytes, or with K, M, G or KiB, MiB, GiB after the number; 64M unless "
@@ -53,20 +53,20 @@ void addSource(CLI::App& verb, const std::string& content, kvjxml::tool::Source&
 
 int run(int argc, char** argv) {
     CLI::App app("Shows what the messages of a card printer say.", "kvjxml");
-    app.footer(kvjxml::tool::exitCodeTable());
+    app.footer(kvj::tool::exitCodeTable());
     app.set_version_flag("--version", KVJXML_VERSION);
     app.require_subcommand(1);
 
-    kvjxml::tool::Source source;
+    kvj::tool::Source source;
     std::string message;
     std::set<std::string> roots;
-    for (const auto& known : kvjxml::messages()) {
+    for (const auto& known : kvj::messages()) {
         roots.emplace(known.root);
         if (!known.otherRoot.empty()) roots.emplace(known.otherRoot);
     }
 
     CLI::App* decode = app.add_subcommand("decode", "Print the record that a captured reply fills, as JSON");
-    decode->footer(kvjxml::tool::exitCodeTable());
+    decode->footer(kvj::tool::exitCodeTable());
     addSource(*decode, "The reply, in UTF-8", source);
     decode->add_option("--message", message, "Read it as this message, whatever its root element")
         ->option_text("NAME")
@@ -74,14 +74,14 @@ int run(int argc, char** argv) {
 
     CLI::App* encode =
         app.add_subcommand("encode", "Compose a request from JSON; keys are read from it, never from options");
-    encode->footer(kvjxml::tool::exitCodeTable());
+    encode->footer(kvj::tool::exitCodeTable());
     encode->require_subcommand(1);
-    kvjxml::tool::Options options;
-    for (const auto& request : kvjxml::requests()) {
-        CLI::App* verb = encode->add_subcommand(std::string(request.name),
-                                                "From an object with " + kvjxml::tool::contentOf(request));
+    kvj::tool::Options options;
+    for (const auto& request : kvj::requests()) {
+        CLI::App* verb =
+            encode->add_subcommand(std::string(request.name), "From an object with " + kvj::tool::contentOf(request));
         addSource(*verb, "The JSON", source);
-        kvjxml::tool::addOptions(*verb, request, options);
+        kvj::tool::addOptions(*verb, request, options);
     }
 
     const CLI::App* messages =
@@ -92,14 +92,13 @@ int run(int argc, char** argv) {
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? static_cast<int>(ExitCode::done) : static_cast<int>(ExitCode::usage);
     }
-    for (const auto& request : kvjxml::requests()) {
+    for (const auto& request : kvj::requests()) {
         if (!encode->got_subcommand(std::string(request.name))) continue;
-        if (options.listSections) return static_cast<int>(kvjxml::tool::listSections(request.table));
+        if (options.listSections) return static_cast<int>(kvj::tool::listSections(request.table));
         for (const long bit : options.sections) options.choices.sections |= bit;
-        return static_cast<int>(kvjxml::tool::encode(request, options.choices, source));
+        return static_cast<int>(kvj::tool::encode(request, options.choices, source));
     }
-    return static_cast<int>(messages->parsed() ? kvjxml::tool::printReference()
-                                               : kvjxml::tool::decode(source, message));
+    return static_cast<int>(messages->parsed() ? kvj::tool::printReference() : kvj::tool::decode(source, message));
 }
 
 }  // namespace
@@ -110,10 +109,10 @@ int main(int argc, char** argv) {
     try {
         const int code = run(argc, argv);
         if (!std::cout.flush()) {
-            throw kvjxml::tool::Failure(ExitCode::inputOutput, "standard output: cannot be written");
+            throw kvj::tool::Failure(ExitCode::inputOutput, "standard output: cannot be written");
         }
         return code;
-    } catch (const kvjxml::tool::Failure& failure) {
+    } catch (const kvj::tool::Failure& failure) {
         std::cerr << "kvjxml: " << failure.what() << '\n';
         return static_cast<int>(failure.code());
     } catch (const std::exception& error) {

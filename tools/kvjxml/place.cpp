@@ -7,7 +7,7 @@
 #include "failure.h"
 #include "xml_text.h"
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 void refuse(const std::string& source, const nlohmann::json::json_pointer& place, const std::string& reason) {
     throw Failure(ExitCode::badJson, source + ": \"" + place.to_string() + "\" " + reason);
@@ -97,4 +97,4 @@ unsigned long Place::ipAddress() const {
     return network.s_addr;
 }
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool

@@ -12,7 +12,7 @@
 
 #include "foundation/convert.h"
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 /// @throws Failure for a place in the JSON that came from `source`.
 [[noreturn]] void refuse(const std::string& source, const nlohmann::json::json_pointer& place,
@@ -59,6 +59,6 @@ private:
     Pointer pointer_;
 };
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool
 
 #endif

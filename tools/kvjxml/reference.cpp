@@ -9,7 +9,7 @@
 #include "messages/message.h"
 #include "messages/request.h"
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 namespace {
 
@@ -191,4 +191,4 @@ ExitCode printReference() {
     return ExitCode::done;
 }
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool

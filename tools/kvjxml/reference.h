@@ -5,12 +5,12 @@
 
 #include "exit_code.h"
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 /// Prints every known message, element by element, and the words with their codes, as Markdown.
 /// @throws Failure
 ExitCode printReference();
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool
 
 #endif

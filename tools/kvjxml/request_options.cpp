@@ -7,7 +7,7 @@
 
 #include "sections.h"
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 namespace {
 
@@ -118,4 +118,4 @@ void addOptions(CLI::App& verb, const Request& request, Options& options) {
     if (request.hasSections()) addSectionOptions(verb, request, options);
 }
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool

@@ -9,7 +9,7 @@
 
 #include "messages/request.h"
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 struct Options {
     Choices choices;
@@ -23,6 +23,6 @@ std::string contentOf(const Request& request);
 /// Adds the options of a request to its verb.
 void addOptions(CLI::App& verb, const Request& request, Options& options);
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool
 
 #endif

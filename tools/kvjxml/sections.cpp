@@ -4,7 +4,7 @@
 #include <iomanip>
 #include <iostream>
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 namespace {
 
@@ -56,4 +56,4 @@ ExitCode listSections(std::span<const DescribedRow> rows) {
     return ExitCode::done;
 }
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool

@@ -11,7 +11,7 @@
 #include "foundation/rows.h"
 #include "json_record.h"
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 struct NamedSection {
     std::string name;  ///< that of the first element, or of the record's field when another section has that name
@@ -27,6 +27,6 @@ Names fieldsWritten(std::span<const DescribedRow> rows, long mask = 0);
 
 ExitCode listSections(std::span<const DescribedRow> rows);
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool
 
 #endif

@@ -4,7 +4,7 @@
 #include <array>
 #include <cstdio>
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 std::string firstNotOfXml(std::string_view text) {
     for (std::size_t at = 0; at < text.size(); ++at) {
@@ -27,4 +27,4 @@ bool isElementName(std::string_view text) {
     return !text.empty() && isFirst(text.front()) && std::ranges::all_of(text, isNext);
 }
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace kvjxml::tool {
+namespace kvj::tool {
 
 /// The first character of a UTF-8 text that no XML document can have, not even as a reference, such as "U+001B"; empty
 /// when there is none.
@@ -17,6 +17,6 @@ std::string firstNotOfXml(std::string_view text);
 /// which XML keeps for prefixes.
 bool isElementName(std::string_view text);
 
-}  // namespace kvjxml::tool
+}  // namespace kvj::tool
 
 #endif
