@@ -182,7 +182,7 @@ TEST(Reference, TheHeadersNameTheElementOfEveryFieldBesideIt) {
     auto comments = commentsOfFields();
     std::size_t compared = 0;
     for (const auto& row : allRows()) {
-        const auto& [record, field] = row.description.field;
+        const auto& [record, field, at] = row.description.field;
         if (record.empty() || record == "KeyExchange") continue;  // No field, or one that a reader keeps for itself.
         // A record or a field that is in no header has an empty comment here.
         EXPECT_TRUE(names(comments[std::string(record)][std::string(field)], row.name))
