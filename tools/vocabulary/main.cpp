@@ -223,9 +223,10 @@ constexpr std::string_view wordsOfCpp[] = {
 };
 
 std::string enumeratorOf(std::string_view word) {
-    std::string name;
-    for (const unsigned char character : word) {
-        name += std::isalnum(character) != 0 ? static_cast<char>(std::tolower(character)) : '_';
+    std::string name(word);
+    for (char& character : name) {
+        const auto code = static_cast<unsigned char>(character);
+        character = std::isalnum(code) != 0 ? static_cast<char>(std::tolower(code)) : '_';
     }
     const bool isName = std::isdigit(static_cast<unsigned char>(name.front())) == 0;
     return isName && std::ranges::find(wordsOfCpp, name) == std::end(wordsOfCpp) ? name : '_' + name;
