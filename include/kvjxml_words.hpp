@@ -5,8 +5,9 @@
 ///     kvjxml::name<&Kavrin::KVGeneralStatus::printerState>(status)      // "printing"
 ///     kvjxml::name<&Kavrin::KVGeneralStatus::printerState>(5)           // "printing"
 ///     kvjxml::code<&Kavrin::KVGeneralStatus::printerState>("printing")  // 5
-///     switch (*kvjxml::as_enum<&Kavrin::KVGeneralStatus::printerState>(status)) {
-///         case kvjxml::printer_state::printing: ...
+///     if (const auto state = kvjxml::as_enum<&Kavrin::KVGeneralStatus::printerState>(status)) {
+///         switch (*state) {
+///             case kvjxml::printer_state::printing: ...
 ///
 /// A field that has no words does not compile. kvjxml_vocabulary.hpp has the enumerations, with the fields that each is
 /// for and what becomes of a word that it does not have.
@@ -80,8 +81,9 @@ constexpr code_of<Field> code_in(const record_of<Field>& record) noexcept {
 
 // ---- Fields with one word ----
 
-/// The word of a code; of several the one that is written, which is the first. None when no word has the code: it is
-/// then one that words which the printer should not send have in common, or one that the host set.
+/// The word of a code; of several the one that is written, which is the first. None for a code that no word has, such
+/// as the 38 that an unknown word becomes in printerState. Where it becomes the code of a known word, as an unknown
+/// ribbon that of "Black", it has that word's name.
 template <auto Field>
 [[nodiscard]] std::optional<std::string_view> name(detail::code_of<Field> code) noexcept {
     const char* const word = kvjxml_v1_word(detail::table_of_one<Field>(), static_cast<int>(code));

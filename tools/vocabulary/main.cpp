@@ -173,10 +173,12 @@ private:
             use.elements.push_back(path);
         }
     }
+
     void addNumber(const Description& row, const std::string& path, const FieldName& /*list*/) {
         if (row.kind != Kind::number || row.field.empty()) return;
         if (Use* const use = find(row.field)) use->numbers.push_back(path);
     }
+
     /// The words that a row writes.
     static std::string listed(const Description& row) {
         std::string text;
@@ -186,6 +188,7 @@ private:
         if (row.otherWord.empty()) return text;
         return text + (row.kind == Kind::laminatorWord ? ", without a laminator " : ", else ") + quoted(row.otherWord);
     }
+
     void addWritten(const Description& row, const std::string& path, const FieldName& list) {
         for (const FieldName& field : coded(row, list)) {
             Use& use = of(field);
