@@ -189,17 +189,13 @@ struct plain_part<capabilities> {
     using type = Kavrin::_Capabilities;
 };
 
-template <class Member>
-struct member_of;
+template <class Field>
+struct field_traits;
 template <class Record, class Value>
-struct member_of<Value Record::*> {
+struct field_traits<Value Record::*> {
     using record = Record;
     using value = Value;
 };
-template <auto Field>
-using record_of = typename member_of<decltype(Field)>::record;
-template <auto Field>
-using value_of = typename member_of<decltype(Field)>::value;
 
 template <class Record>
 const Record& part(const Record& record) noexcept {
@@ -259,8 +255,10 @@ public:
     /// `has<&MediaStatus::ribbon, &_MediaStatusInfo::type>()`. Of a list ask whether it is empty.
     template <auto Field, auto... Nested>
     [[nodiscard]] bool has() const noexcept {
-        static_assert(std::is_base_of<detail::record_of<Field>, record>::value, "a field of another record");
-        static_assert(!detail::is_vector<detail::value_of<Field>>::value, "of a list ask whether it is empty");
+        static_assert(std::is_base_of<typename detail::field_traits<decltype(Field)>::record, record>::value,
+                      "a field of another record");
+        static_assert(!detail::is_vector<typename detail::field_traits<decltype(Field)>::value>::value,
+                      "of a list ask whether it is empty");
         const auto& field = detail::part<Field, Nested...>(record_);
         const auto first = static_cast<std::size_t>(reinterpret_cast<const unsigned char*>(&field) -
                                                     reinterpret_cast<const unsigned char*>(&plain()));
