@@ -124,11 +124,12 @@ bool scanNumber(const char* text, int base, Unsigned& value) noexcept {
     return true;
 }
 
-/// The last character of `digits` stays zero.
 template <class... Arguments>
 Digits digitsOf(Arguments... arguments) noexcept {
     Digits digits;
-    std::to_chars(digits.characters.data(), digits.characters.data() + digits.characters.size() - 1, arguments...);
+    const auto written =
+        std::to_chars(digits.characters.data(), digits.characters.data() + digits.characters.size() - 1, arguments...);
+    *written.ptr = '\0';
     return digits;
 }
 
@@ -223,6 +224,8 @@ Digits fromUnsigned(unsigned value) noexcept { return digitsOf(value); }
 Digits fromLong(long value) noexcept { return digitsOf(value); }
 
 Digits fromDouble(double value, int decimals) noexcept { return digitsOf(value, std::chars_format::fixed, decimals); }
+
+Digits shortest(float value) noexcept { return digitsOf(value); }
 
 Digits fromHardwareAddress(const unsigned char* address) noexcept {
     Digits digits;
