@@ -307,7 +307,7 @@ inline constexpr auto encoderAloneTags = tags<_InternalEncoderInfo>({
 });
 
 inline constexpr WriteRule<_InternalEncoderInfo> encoderAloneGroup{
-    {.kind = Kind::group, .group = described<encoderAloneTags>},
+    {.field = fieldOf<&Caps::internalEncoder>, .kind = Kind::part, .group = described<encoderAloneTags>},
     [](Parent parent, const char* name, const _InternalEncoderInfo& info, const Selection&) {
         const Parent element = addTag(parent, name);
         // Written even when there is nothing to say in it.
@@ -321,6 +321,21 @@ inline constexpr auto encoderAlone = tags<_InternalEncoderInfo>({
 });
 
 // clang-format on
+
+/// Adds what a mode asks for: 0 the whole, 1 the magnetic encoder alone, 2 the built-in encoder alone; any other
+/// nothing.
+inline bool addCapabilities(Parent root, const _Capabilities& caps, int mode, bool directToCard) {
+    switch (mode) {
+        case 0:
+            return compose(root, caps, wholeTags, {.directToCard = directToCard});
+        case 1:
+            return compose(root, caps, magEncoderAlone);
+        case 2:
+            return compose(root, caps.internalEncoder, encoderAlone);
+        default:
+            return false;
+    }
+}
 
 }  // namespace kvj::capabilities
 
