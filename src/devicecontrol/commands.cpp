@@ -71,7 +71,7 @@ bool addCommand(Parent root, const command::Other& it) {
     } else if (is(it.device, "laminator")) {
         if (const auto spool = codeOf(spoolTexts, it.text)) {
             setAttribute(element, "spool", wordOf(spools, *spool));
-            return addText(element, "scal");
+            return addArgumentText(element, it.text, "text", "scal");
         }
     } else if (is(it.device, "radio") && is(it.text, "scan")) {
         setNumber(element, "iterations", 1);

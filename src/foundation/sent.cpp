@@ -152,8 +152,8 @@ bool addArgument(Parent parent, const char* name, const char* text, std::string_
     return true;
 }
 
-bool addArgumentText(Parent element, const char* text, std::string_view field) {
-    if (!addText(element, text)) return false;
+bool addArgumentText(Parent element, const char* text, std::string_view field, const char* word) {
+    if (!addText(element, word == nullptr ? text : word)) return false;
     if (Findings* const findings = listener(element)) checkArgument(*findings, text, Stands::inElement, field, {});
     return true;
 }

@@ -43,7 +43,8 @@ Parent addNamed(Parent parent, const char* name, std::string_view field);
 /// An element with a text. Null adds nothing.
 bool addArgument(Parent parent, const char* name, const char* text, std::string_view field);
 /// The text of an element. Null is left out.
-bool addArgumentText(Parent element, const char* text, std::string_view field);
+/// @param word  what stands for it, where the printer has a word of its own
+bool addArgumentText(Parent element, const char* text, std::string_view field, const char* word = nullptr);
 /// An attribute. Null is left out.
 bool setArgument(Parent element, const char* name, const char* text, std::string_view field);
 /// An attribute with one decimal.
