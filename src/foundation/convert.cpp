@@ -124,6 +124,8 @@ bool scanNumber(const char* text, int base, Unsigned& value) noexcept {
     return true;
 }
 
+constexpr char hexDigits[] = "0123456789abcdef";
+
 template <class... Arguments>
 Digits digitsOf(Arguments... arguments) noexcept {
     Digits digits;
@@ -229,8 +231,13 @@ Digits shortest(float value) noexcept { return digitsOf(value); }
 
 Digits fromHardwareAddress(const unsigned char* address) noexcept {
     Digits digits;
-    static_cast<void>(std::snprintf(digits.characters.data(), digits.characters.size(), "%02x:%02x:%02x:%02x:%02x:%02x",
-                                    address[0], address[1], address[2], address[3], address[4], address[5]));
+    char* at = digits.characters.data();
+    for (std::size_t i = 0; i < HardwareAddress().size(); ++i) {
+        if (i > 0) *at++ = ':';
+        *at++ = hexDigits[address[i] / 16];
+        *at++ = hexDigits[address[i] % 16];
+    }
+    *at = '\0';
     return digits;
 }
 
