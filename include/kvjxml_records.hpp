@@ -1,43 +1,102 @@
 /// @file kvjxml_records.hpp
-/// The two records that own their lists: what a printer can do, and the media that it knows, with the entries in
-/// vectors of their own. They are copied, moved and released like any value, where the records they are made of point
-/// to arrays that a host has to provide.
+/// Records of kvjxml.hpp: those of the named operations are used as they are, but where a list has only so much room
+/// there, or a value has no record of its own, one of these stands in its place. They begin as zeros and empty lists.
 #ifndef KVJXML_RECORDS_HPP
 #define KVJXML_RECORDS_HPP
 
 #include <vector>
 
 #include "CapabilitiesRecords.h"
+#include "IdentityRecords.h"
 #include "MediaRecords.h"
+#include "StatusRecords.h"
 
 namespace kvjxml {
 inline namespace v1 {
 
-/// What a printer can do. Its lists stand here; **the counts and pointers of the base are neither read nor kept up to
-/// date**, and are null as long as a host leaves them alone.
-struct capabilities : Kavrin::_Capabilities {
-    std::vector<Kavrin::_PortCaps> hostPorts;            ///< "host_ports" / "host_port"
-    std::vector<Kavrin::_PortCaps> devicePorts;          ///< "device_ports" / "device_port"
-    std::vector<Kavrin::_InterfaceCaps> swInterfaces;    ///< "software_interfaces" / "software_interface"
-    std::vector<Kavrin::_OCPLanguageCaps> ocpLanguages;  ///< "ocp_languages" / "ocp_language"
-    /// "graphic_formats" / "graphic_format": codes of the words, see KVJCapsParser::graphicsFormatToInt.
-    std::vector<int> graphicFormats;
-    std::vector<Kavrin::_FontCaps> fonts;          ///< "fonts" / "font"
-    std::vector<Kavrin::_TemplateCaps> templates;  ///< "templates" / "template"; the location is not written.
-    std::vector<Kavrin::_TemplateCaps> graphics;   ///< "graphics" / "graphic"
-    std::vector<Kavrin::_BarCodeCaps> barCodes;    ///< "barcodes" / "barcode"
-
-    /// All zero, with empty lists.
-    capabilities() : Kavrin::_Capabilities() {}
+/// The jobs that the printer holds, all of them: "get_job_list".
+struct job_list {
+    /// "job", in the order of the reply.
+    std::vector<Kavrin::_KVJobInfo> jobs;
 };
 
-/// The media that a printer knows.
+/// The access points that the printer sees: "AccessPoints".
+struct access_point_list {
+    /// "AccessPoint", in the order of the reply.
+    std::vector<Kavrin::_tagAccessPoint> accessPoints;
+};
+
+/// When the printer was serviced: "get_log_service_history".
+struct service_log {
+    /// "service", in the order of the reply.
+    std::vector<Kavrin::_tagLogServiceValues> entries;
+};
+
+/// When the printer was cleaned: "get_log_cleaning_history".
+struct cleaning_log {
+    /// "cleaning", in the order of the reply.
+    std::vector<Kavrin::_tagCleaningLogEntry> entries;
+};
+
+/// Part of "get_count".
+struct cleaning_count {
+    /// "total_cards_until_next_cleaning": cards that can be printed before the printer wants to be cleaned.
+    int cards = 0;
+};
+
+/// What a printer can do: "capabilities". Its lists stand in the place of the base's arrays and counts, which are
+/// neither filled nor looked at.
+struct capabilities : Kavrin::_Capabilities {
+    capabilities() : Kavrin::_Capabilities() {}
+
+    /// "host_ports" / "host_port".
+    std::vector<Kavrin::_PortCaps> hostPorts;
+    /// "device_ports" / "device_port": none, or the last that the reply has.
+    std::vector<Kavrin::_PortCaps> devicePorts;
+    /// "software_interfaces" / "software_interface".
+    std::vector<Kavrin::_InterfaceCaps> swInterfaces;
+    /// "ocp_languages" / "ocp_language".
+    std::vector<Kavrin::_OCPLanguageCaps> ocpLanguages;
+    /// "graphic_formats" / "graphic_format": codes, see KVJCapsParser::graphicsFormatToInt.
+    std::vector<int> graphicFormats;
+    /// "fonts" / "font".
+    std::vector<Kavrin::_FontCaps> fonts;
+    /// "templates" / "template".
+    std::vector<Kavrin::_TemplateCaps> templates;
+    /// "graphics" / "graphic".
+    std::vector<Kavrin::_TemplateCaps> graphics;
+    /// "barcodes" / "barcode".
+    std::vector<Kavrin::_BarCodeCaps> barCodes;
+};
+
+/// The media that a printer knows: "media".
 struct media_catalogue {
-    std::vector<Kavrin::_CardInfo> cards;           ///< "cards" / "card"
-    std::vector<Kavrin::_MediaRibbonInfo> films;    ///< "films" / "film"
-    std::vector<Kavrin::_MediaRibbonInfo> ribbons;  ///< Never filled by reading a reply.
-    /// "laminates" / "laminate", and "ribbons" / "laminate" as well.
+    /// "cards" / "card".
+    std::vector<Kavrin::_CardInfo> cards;
+    /// "films" / "film".
+    std::vector<Kavrin::_MediaRibbonInfo> films;
+    /// Empty: a printer lists laminates under "ribbons", and does not list its ribbons.
+    std::vector<Kavrin::_MediaRibbonInfo> ribbons;
+    /// "ribbons" / "laminate" and "laminates" / "laminate".
     std::vector<Kavrin::_MediaRibbonInfo> laminates;
+};
+
+/// The laminator's own answer: "lam_ndc_rsp".
+struct laminator_answer {
+    /// The text of the root, terminated; a longer one is cut to 511 bytes.
+    char response[512] = {};
+};
+
+/// A number that is used once, for the hand-shake: "nonce".
+struct nonce_text {
+    /// The text of the root, terminated; a longer one is cut to 31 bytes.
+    char nonce[32] = {};
+};
+
+/// The printer's part of a key exchange: "diffie_hellman".
+struct printer_interim_key {
+    /// "printer_interim_key": decimal, or hexadecimal after "0x".
+    long key = 0;
 };
 
 }  // namespace v1

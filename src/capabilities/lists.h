@@ -10,6 +10,7 @@
 #include "CapabilitiesRecords.h"
 #include "foundation/element.h"
 #include "foundation/read_rules.h"
+#include "foundation/rooms.h"
 #include "foundation/rows.h"
 
 namespace kvj::capabilities {
@@ -19,11 +20,14 @@ using namespace Kavrin;  // the records
 /// The record being filled, and the record as the host passed it. A list that comes twice is measured against what the
 /// host passed both times: the count that answers the first is not the size of an array.
 struct Reading {
-    explicit Reading(_Capabilities& record) : caps(record), passed(record) {}
+    explicit Reading(_Capabilities& record, Rooms lists = {}) : caps(record), rooms(lists), passed(record) {}
     _Capabilities& caps;
+    Rooms rooms;  ///< lists that grow, in the place of the record's arrays; empty for a host that has arrays
     const _Capabilities passed;
     _Capabilities refused{};  ///< Only its counts: of each list, the most children that did not fit.
 };
+
+inline const void* watched(const Reading& reading) { return &reading.caps; }
 
 /// A field that is not a list.
 template <const auto& Field>
@@ -37,6 +41,7 @@ template <auto Count, auto Array, const auto& Table>
 inline constexpr ReadRule<Reading> list{
     {.field = fieldOf<Array>, .kind = Kind::list, .group = described<Table>}, [](Element section, Reading& reading) {
         if (!section) return false;
+        if (Room* const room = roomFor(reading.rooms, nameOf<Array>())) return readAll<Table>(section, *room);
         const std::size_t needed = countChildren(section);
         auto* const array = reading.caps.*Array;
         const int capacity = array == nullptr && needed > 0 ? 0 : reading.passed.*Count;

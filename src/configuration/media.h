@@ -85,8 +85,16 @@ inline constexpr ReadRule<_KVConfiguration> customCard{
      .group = described<card>},
     [](Element element, _KVConfiguration& configuration) {
         _CustomCardInfo info{};
-        const bool result = walk(element, info, card);
-        (convert::equal(info.description, "Custom 1") ? configuration.customCard1 : configuration.customCard2) = info;
+        bool result = false;
+        {
+            const Watch::Pause pause(element);
+            result = walk(element, info, card);
+        }
+        const bool isFirst = convert::equal(info.description, "Custom 1");
+        _CustomCardInfo& target = isFirst ? configuration.customCard1 : configuration.customCard2;
+        target = info;
+        // Who watches is told of the fields where they belong.
+        if (element.watch() != nullptr) walk(element, target, card);
         return result;
     }};
 

@@ -12,8 +12,9 @@ namespace kvj::configuration {
 /// How much of a ribbon's name is read, with its terminator.
 inline constexpr std::size_t ribbonNameCapacity = 32;
 
-/// A ribbon's name, without the word that all one-coloured ribbons begin with. Hosts watch the two lines that go to the
-/// standard error stream for it, often on a terminal.
+/// A ribbon's name, without the word that all one-coloured ribbons begin with. Hosts of the named operations watch the
+/// two lines that go to the standard error stream for it, often on a terminal; where the reading itself is watched,
+/// there are none, and nothing but the description is written.
 bool readRibbonName(Element element, char (&description)[64]);
 
 }  // namespace kvj::configuration

@@ -22,7 +22,7 @@
 #include <vector>
 
 #include "fields/field.h"
-#include "foundation/member.h"
+#include "foundation/kinds.h"
 
 namespace kvj {
 
@@ -127,11 +127,6 @@ constexpr Field fieldOfType(std::string_view name) {
         field.record = &recordType<Value>;
     }
     return field;
-}
-
-template <auto Member>
-const void* addressOf(const void* record) {
-    return &(static_cast<const RecordOf<Member>*>(record)->*Member);
 }
 
 // ---- Lists ----

@@ -5,7 +5,6 @@
 #define KVJXML_FOUNDATION_CHARACTERS_H
 
 #include <array>
-#include <cctype>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -46,14 +45,6 @@ inline constexpr auto kinds = [] {
 }();
 
 inline bool is(char c, unsigned anyOf) noexcept { return (kinds[static_cast<unsigned char>(c)] & anyOf) != 0; }
-
-inline bool beginsName(char c) noexcept {
-    return is(c, letter) || (is(c, control) && std::isalpha(static_cast<unsigned char>(c)) != 0);
-}
-
-inline bool continuesName(char c) noexcept {
-    return is(c, inName) || (is(c, control) && std::isalnum(static_cast<unsigned char>(c)) != 0);
-}
 
 /// How many bytes a UTF-8 character takes that begins with this byte.
 inline std::size_t lengthInUtf8(char first) noexcept {

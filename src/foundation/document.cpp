@@ -22,11 +22,11 @@ void Text::end(std::size_t length) noexcept {
     std::memset(bytes_.get() + length, 0, padding);
 }
 
-Document::Document(Text text) : text_(std::move(text)) {
+Document::Document(Text text, Manner manner) : text_(std::move(text)) {
     if (text_.length() > largest) {
         fault_ = {TiXmlBase::TIXML_ERROR, largest};
     } else if (hasText()) {
-        parse();
+        parse(manner);
     }
 }
 

@@ -14,6 +14,7 @@
 namespace kvj {
 
 class Element;
+class Watch;
 
 /// The first thing that is wrong with a text.
 struct Fault {
@@ -45,6 +46,12 @@ private:
     std::size_t length_ = 0;
 };
 
+/// What a text is read by, besides its own bytes.
+enum class Manner {
+    ofProcess,  ///< as the process is set: its locale's letters, and whether TinyXML condenses white space
+    ofUtf8,     ///< alike in every process: UTF-8 whatever the text declares, ASCII letters, white space condensed
+};
+
 class Document {
 public:
     /// An element. Elements are stored in document order, so those between an element and its end are its descendants.
@@ -65,7 +72,7 @@ public:
     Document() = default;
     /// Reads the text as far as it makes sense. A text of 4 GiB or more is refused; having no text is not a fault.
     /// @throws std::bad_alloc
-    explicit Document(Text text);
+    explicit Document(Text text, Manner manner = Manner::ofProcess);
     Document(const Document&) = delete;
     Document& operator=(const Document&) = delete;
 
@@ -77,6 +84,18 @@ public:
     [[nodiscard]] Element top() const noexcept;
 
     [[nodiscard]] const Fault& fault() const noexcept { return fault_; }
+    /// Whether the text is a document from its beginning to its end: one element at the top level, ended by its own end
+    /// tag, with nothing before or after it but blanks, comments and instructions, and no markup in it that is none.
+    [[nodiscard]] bool isWhole() const noexcept { return isWhole_; }
+    /// How many elements there are, the document itself being one.
+    [[nodiscard]] std::size_t size() const noexcept { return nodes_ == nullptr ? 0 : nodes_[0].end; }
+    [[nodiscard]] Element operator[](std::size_t number) const noexcept;
+
+    /// Where the parsing ended, in bytes from the beginning of the text: at the end of a whole document.
+    [[nodiscard]] std::size_t end() const noexcept { return end_; }
+
+    /// Who is told what is read from the document; null for nobody. It outlives the reading.
+    void watchWith(Watch* watch) noexcept { watch_ = watch; }
     /// Whether the text began with a byte-order mark.
     [[nodiscard]] bool hasByteOrderMark() const noexcept { return hasByteOrderMark_; }
     [[nodiscard]] bool hasText() const noexcept { return text_.bytes() != nullptr; }
@@ -85,7 +104,7 @@ private:
     friend class Element;
     friend class DocumentParser;
 
-    void parse();
+    void parse(Manner manner);
     void allocate(std::size_t elements, std::size_t attributes);
 
     static constexpr std::size_t largest = std::numeric_limits<std::uint32_t>::max() - Text::padding;
@@ -97,7 +116,10 @@ private:
     Node* nodes_ = nullptr;  // The first is the document itself, and one more follows the last.
     Attribute* attributes_ = nullptr;
     Fault fault_;
+    std::size_t end_ = 0;
+    Watch* watch_ = nullptr;
     bool hasByteOrderMark_ = false;
+    bool isWhole_ = false;
 };
 
 }  // namespace kvj

@@ -18,11 +18,6 @@ namespace {
 
 using namespace characters;
 
-/// Whether a text begins with these words, in any case that the locale knows. They are given in small letters.
-bool beginsInAnyCase(const char* text, std::string_view words) noexcept {
-    return std::ranges::all_of(words, [&](char c) { return std::tolower(static_cast<unsigned char>(*text++)) == c; });
-}
-
 bool begins(const char* text, std::string_view words) noexcept {
     return std::ranges::all_of(words, [&](char c) { return *text++ == c; });
 }
@@ -63,12 +58,16 @@ Bounds boundsOf(const char* text, std::size_t length) noexcept {
 /// overwritten, by its decoded text or by the NUL after it, only once it has been read.
 class DocumentParser {
 public:
-    explicit DocumentParser(Document& document) noexcept
+    DocumentParser(Document& document, Manner manner) noexcept
         : document_(document),
           nodes_(document.nodes_),
           text_(document.text_.bytes()),
           end_(text_ + document.text_.length()),
-          at_(text_) {}
+          at_(text_),
+          encoding_(manner == Manner::ofUtf8 ? Encoding::utf8 : Encoding::unknown),
+          condense_(manner == Manner::ofUtf8 || TiXmlBase::IsWhiteSpaceCondensed()),
+          // In UTF-8 no control character is a letter.
+          upToLocale_(manner == Manner::ofUtf8 ? 0U : unsigned{control}) {}
 
     void parse() {
         nodes_[0] = {};
@@ -79,6 +78,8 @@ public:
         while (content() && markup()) {
         }
         if (nodes_[0].value == 0) fail(TiXmlBase::TIXML_ERROR_DOCUMENT_EMPTY, at_);
+        document_.end_ = offsetOf(at_);
+        document_.isWhole_ = !isDamaged_ && at_ == end_ && topElements_ == 1;
         while (open_ != 0) close();
         nodes_[0].end = count_;
         nodes_[count_].attributes = attributeCount_;
@@ -105,9 +106,25 @@ private:
         return static_cast<std::uint32_t>(place - text_);
     }
 
+    [[nodiscard]] int lower(char c) const noexcept {
+        if (upToLocale_ == 0) return c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c;
+        return std::tolower(static_cast<unsigned char>(c));
+    }
+    /// Whether a text begins with these words, in any case. They are given in small letters.
+    bool beginsInAnyCase(const char* text, std::string_view words) const noexcept {
+        return std::ranges::all_of(words, [&](char c) { return lower(*text++) == c; });
+    }
+    [[nodiscard]] bool beginsName(char c) const noexcept {
+        return is(c, letter) || (is(c, upToLocale_) && std::isalpha(static_cast<unsigned char>(c)) != 0);
+    }
+    [[nodiscard]] bool continuesName(char c) const noexcept {
+        return is(c, inName) || (is(c, upToLocale_) && std::isalnum(static_cast<unsigned char>(c)) != 0);
+    }
+
     /// Ends the parsing. What is there stays as it is.
     bool fail(int id, const char* where) noexcept {
         document_.fault_ = {id, offsetOf(where)};
+        isDamaged_ = true;
         return false;
     }
 
@@ -165,7 +182,12 @@ private:
         if (*at_ == '/' && !atTop()) return closeElement();
         if (beginsInAnyCase(at_, "?xml")) return declaration();
         if (begins(at_, "!--")) return verbatim("!--", "-->");
-        if (begins(at_, "![CDATA[")) return verbatim("![CDATA[", "]]>");
+        if (begins(at_, "![CDATA[")) {
+            isDamaged_ |= atTop();
+            return verbatim("![CDATA[", "]]>");
+        }
+        // An instruction, or the type of the document in front of it; all else is no markup.
+        isDamaged_ |= *at_ != '?' && !(begins(at_, "!DOCTYPE") && count_ == 1);
         return verbatim("", ">");
     }
 
@@ -175,6 +197,7 @@ private:
         append(value);
         char* const found = last.size() == 1 ? std::strchr(value, last[0]) : std::strstr(value, last.data());
         if (found == nullptr) {
+            isDamaged_ = true;
             at_ = end_;
         } else {
             *found = '\0';
@@ -191,6 +214,7 @@ private:
             while (continuesName(*at_));
         }
         char* const nameEnd = at_;
+        topElements_ += atTop() ? 1 : 0;
         append(name);
         Node& node = nodes_[count_];
         node = {offsetOf(name), offsetOf(nameEnd) - offsetOf(name), 0, attributeCount_, open_};
@@ -281,6 +305,7 @@ private:
             }
             if (!more || *at_ == '\0') {
                 *value = '\0';
+                isDamaged_ = true;
                 return !atTop() && fail(TiXmlBase::TIXML_ERROR_READING_ELEMENT_VALUE, at_);
             }
         }
@@ -290,7 +315,7 @@ private:
         return true;
     }
 
-    static Encoding encodingOf(std::string_view name) noexcept {
+    [[nodiscard]] Encoding encodingOf(std::string_view name) const noexcept {
         name = name.substr(0, name.find('\0'));
         const auto beginsWith = [&](std::string_view words) {
             return name.size() >= words.size() && beginsInAnyCase(name.data(), words);
@@ -379,17 +404,20 @@ private:
     char* const text_;
     char* const end_;
     char* at_;
-    Encoding encoding_ = Encoding::unknown;
-    const bool condense_ = TiXmlBase::IsWhiteSpaceCondensed();
+    Encoding encoding_;
+    const bool condense_;
+    const unsigned upToLocale_;  ///< the kinds of bytes that count as letters where the locale says so
+    bool isDamaged_ = false;
+    std::uint32_t topElements_ = 0;
     std::uint32_t open_ = 0;   ///< the element that is open; until it ends, the end of its node holds its parent
     std::uint32_t count_ = 1;  ///< of nodes
     std::uint32_t attributeCount_ = 0;
 };
 
-void Document::parse() {
+void Document::parse(Manner manner) {
     const Bounds bounds = boundsOf(text_.bytes(), text_.length());
     allocate(bounds.elements, bounds.attributes);
-    DocumentParser(*this).parse();
+    DocumentParser(*this, manner).parse();
 }
 
 }  // namespace kvj

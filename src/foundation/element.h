@@ -67,6 +67,14 @@ public:
         return all;
     }
 
+    /// Who is told what is read from the element; null for nobody.
+    [[nodiscard]] Watch* watch() const noexcept { return document_ == nullptr ? nullptr : document_->watch_; }
+
+    /// Its number in the document, in document order; the document itself is 0, and so is an element of a host's.
+    [[nodiscard]] std::size_t number() const noexcept {
+        return document_ == nullptr || at_ == nullptr ? 0 : static_cast<std::size_t>(node() - document_->nodes_);
+    }
+
     /// Where the element's tag begins in the text that the document was made of; 0 for the document itself, and for an
     /// element of a host's.
     [[nodiscard]] std::size_t offset() const noexcept;
@@ -132,6 +140,8 @@ inline Element::Children Element::children() const noexcept {
     if (document_ == nullptr) return {hostElement(host()->FirstChild()), {}};
     return {{*document_, node() + 1}, {*document_, document_->nodes_ + node()->end}};
 }
+
+inline Element Document::operator[](std::size_t number) const noexcept { return {*this, nodes_ + number}; }
 
 inline Element Document::top() const noexcept { return nodes_ == nullptr ? Element() : Element(*this, nodes_); }
 

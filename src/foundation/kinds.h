@@ -91,11 +91,18 @@ enum class WithoutText {
 struct FieldName {
     std::string_view record;
     std::string_view name;
+    /// Its address in a record; null for one bit, which has none.
+    const void* (*at)(const void* record){};
     [[nodiscard]] constexpr bool empty() const { return name.empty(); }
 };
 
 template <auto Member>
-inline constexpr FieldName fieldOf{nameOfType<RecordOf<Member>>(), nameOf<Member>()};
+const void* addressOf(const void* record) {
+    return &(static_cast<const RecordOf<Member>*>(record)->*Member);
+}
+
+template <auto Member>
+inline constexpr FieldName fieldOf{nameOfType<RecordOf<Member>>(), nameOf<Member>(), addressOf<Member>};
 
 /// A table of words with its name. Two are the same table when they have the same rows in memory, not the same name.
 struct NamedWords {

@@ -195,6 +195,15 @@ struct List {
     bool result = false;  ///< that of the last entry
 };
 
+template <class Entry>
+inline constexpr bool isList<List<Entry>> = true;
+
+/// Rows of a list name the fields of the entry that has just been read.
+template <class Entry>
+const void* watched(const List<Entry>& list) {
+    return list.filled == 0 ? nullptr : &list.entries[list.filled - 1];
+}
+
 /// Reads one more entry of a list. When there is no room it is skipped: nothing is written, and the result stays that
 /// of the last entry.
 template <class Entry>

@@ -5,7 +5,7 @@
 #include <cstring>
 #include <new>
 
-#include "foundation/findings.h"
+#include "foundation/problems.h"
 
 namespace kvj {
 
@@ -130,7 +130,7 @@ void RequestText::open(std::size_t depth, const char* name) {
     put("<");
     put(open_.back());
     behind_ = Behind::startTag;
-    if (findings_ != nullptr) findings_->opened({open_.back(), depth, row_, entry_});
+    if (problems_ != nullptr) problems_->opened({open_.back(), depth, row_, entry_});
     row_ = nullptr;
     entry_ = -1;
 }

@@ -12,10 +12,10 @@
 
 namespace kvj {
 
-class Findings;
+class Problems;
 
 /// Where a text goes.
-struct Room {
+struct TextRoom {
     char* characters = nullptr;
     std::size_t capacity = 0;
     /// Makes room for that many characters, the present ones included. @return where they are now; null when there is
@@ -26,9 +26,9 @@ struct Room {
 
 class RequestText {
 public:
-    /// @param findings  is told of every element, and of what is not sent as it is asked; null when that is no matter.
-    explicit RequestText(const Room& room, Findings* findings = nullptr)
-        : room_(room), at_(room.characters), end_(room.characters + room.capacity), findings_(findings) {}
+    /// @param problems  is told of every element, and of what is not sent as it is asked; null when that is no matter.
+    explicit RequestText(const TextRoom& room, Problems* problems = nullptr)
+        : room_(room), at_(room.characters), end_(room.characters + room.capacity), problems_(problems) {}
     RequestText(const RequestText&) = delete;
     RequestText& operator=(const RequestText&) = delete;
 
@@ -49,7 +49,7 @@ public:
         entry_ = entry;
     }
     [[nodiscard]] const Description* announced() const noexcept { return row_; }
-    [[nodiscard]] Findings* findings() const noexcept { return findings_; }
+    [[nodiscard]] Problems* problems() const noexcept { return problems_; }
 
 private:
     enum class Behind { startTag, text, elements };  ///< what the text ends with; a start tag is not closed yet
@@ -60,13 +60,13 @@ private:
     void indent(std::size_t depth);
     void closeTo(std::size_t depth);
 
-    Room room_;
+    TextRoom room_;
     char* at_;
     char* end_;
     std::size_t beyond_ = 0;  ///< how many characters had no room
     std::vector<std::string_view> open_;
     Behind behind_ = Behind::elements;
-    Findings* findings_;
+    Problems* problems_;
     const Description* row_ = nullptr;
     int entry_ = -1;
 };

@@ -15,10 +15,12 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 #include "foundation/element.h"
 #include "foundation/kinds.h"
+#include "foundation/watch.h"
 
 namespace kvj {
 
@@ -58,20 +60,50 @@ consteval std::array<Row<Record>, N> rows(const Row<Record> (&list)[N]) {
     return withoutRepeats(list);
 }
 
+/// The record whose fields a table's rows name: most often that of the walk itself.
+template <class Record>
+const void* watched(const Record& record) {
+    return &record;
+}
+
+/// Whether each child of a row is an entry of its own.
+template <class Record>
+inline constexpr bool isList = false;
+
 /// The one loop. Visits the children of `element` in document order and reads each that has a row: a name is compared
 /// exactly, one without a row is skipped, one that comes again is read again.
 /// @return the result of the last child that had a row; false for a null element and one without such a child.
 template <class Record, template <class> class RowOf, std::size_t N>
 bool walk(Element element, Record& record, const std::array<RowOf<Record>, N>& table) {
+    static_assert(N <= 64);
     bool result = false;
+    Watch* const watch = element.watch();
+    std::uint64_t seen = 0;  // a bit for each row
     for (const Element child : element.children()) {
         const std::string_view name = child.name();
-        for (const auto& row : table) {
-            if (row.name != name) continue;
-            result = row.rule.read(child, record);
-            break;
+        std::size_t row = 0;
+        while (row < N && table[row].name != name) ++row;
+        if (row == N) {
+            if (watch != nullptr) watch->skip(child);
+            continue;
+        }
+        const ReadRule<Record>& rule = table[row].rule;
+        result = rule.read(child, record);
+        if (watch != nullptr) {
+            const std::uint64_t bit = std::uint64_t{1} << row;
+            const bool isEntry = isList<Record> && rule.description.kind != Kind::firstEntry;
+            watch->read({child, rule.description, watched(record), !isEntry && (seen & bit) != 0});
+            seen |= bit;
         }
     }
+    return result;
+}
+
+/// Reads an element itself, not its children.
+template <class Record>
+bool readItself(Element element, Record& record, const ReadRule<Record>& rule) {
+    const bool result = rule.read(element, record);
+    if (Watch* const watch = element.watch()) watch->read({element, rule.description, watched(record), false});
     return result;
 }
 

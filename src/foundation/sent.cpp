@@ -5,8 +5,8 @@
 #include <string>
 
 #include "foundation/convert.h"
-#include "foundation/findings.h"
 #include "foundation/fitness.h"
+#include "foundation/problems.h"
 #include "foundation/request_text.h"
 
 namespace kvj {
@@ -16,9 +16,9 @@ namespace {
 using kvjxml::problem_kind;
 
 /// Who is told of what is not sent as it is asked for; null for nobody.
-Findings* listener(Parent parent) {
+Problems* listener(Parent parent) {
     RequestText* const text = parent.text();
-    return text == nullptr ? nullptr : text->findings();
+    return text == nullptr ? nullptr : text->problems();
 }
 
 std::string behind(std::string_view mark, std::string_view name) { return std::string(mark).append(name); }
@@ -28,38 +28,38 @@ bool keeps(const convert::Digits& digits, float value) {
     return std::isfinite(value) && convert::toFloat(digits.c_str()) == value;
 }
 
-void checkDigits(Findings& findings, const convert::Digits& sent, float value, std::string_view field,
+void checkDigits(Problems& problems, const convert::Digits& sent, float value, std::string_view field,
                  std::string_view path) {
     if (keeps(sent, value)) return;
-    findings.found(problem_kind::digits_lost, convert::shortest(value).c_str(), sent.c_str(), field, path);
+    problems.found(problem_kind::digits_lost, convert::shortest(value).c_str(), sent.c_str(), field, path);
 }
 
-void checkText(Findings& findings, std::string_view text, Stands where, std::string_view field = {},
+void checkText(Problems& problems, std::string_view text, Stands where, std::string_view field = {},
                std::string_view path = {}) {
-    if (const auto kind = unfitness(text, where)) findings.found(*kind, text, text, field, path);
+    if (const auto kind = unfitness(text, where)) problems.found(*kind, text, text, field, path);
 }
 
 /// A text of the host's can be longer than what is sent of it.
-void checkArgument(Findings& findings, const char* text, Stands where, std::string_view field, std::string_view path) {
-    const std::string_view whole = findings.whole(text);
+void checkArgument(Problems& problems, const char* text, Stands where, std::string_view field, std::string_view path) {
+    const std::string_view whole = problems.whole(text);
     if (whole.size() != std::strlen(text)) {
-        findings.found(problem_kind::holds_nul, whole, text, behind("/", field), path);
+        problems.found(problem_kind::holds_nul, whole, text, behind("/", field), path);
     } else {
-        checkText(findings, whole, where, behind("/", field), path);
+        checkText(problems, whole, where, behind("/", field), path);
     }
 }
 
 /// Of a setting with a fraction, whose text is its maximum.
-void checkFraction(Findings& findings, const Kavrin::_MinMaxValFloat& setting, const convert::Digits& min,
+void checkFraction(Problems& problems, const Kavrin::_MinMaxValFloat& setting, const convert::Digits& min,
                    const convert::Digits& max) {
-    checkDigits(findings, min, setting.min, "/min", "/@min");
-    checkDigits(findings, max, setting.max, "/max", "/@max");
+    checkDigits(problems, min, setting.min, "/min", "/@min");
+    checkDigits(problems, max, setting.max, "/max", "/@max");
     const bool isInRange = setting.value >= setting.min && setting.value <= setting.max;
     if (isInRange && keeps(max, setting.value)) return;
     const auto kind = !isInRange                     ? problem_kind::out_of_range
                       : setting.value == setting.max ? problem_kind::digits_lost
                                                      : problem_kind::sent_as_maximum;
-    findings.found(kind, convert::shortest(setting.value).c_str(), max.c_str(), "/value");
+    problems.found(kind, convert::shortest(setting.value).c_str(), max.c_str(), "/value");
 }
 
 }  // namespace
@@ -70,8 +70,8 @@ bool addWord(Parent parent, const char* name, const Words& table, int code, cons
     const char* const word = wordOf(table, code);
     const bool added = addTag(parent, name, word == nullptr ? other : word);
     if (word != nullptr) return added;
-    if (Findings* const findings = listener(parent)) {
-        findings->found(problem_kind::no_word, convert::fromInt(code).c_str(), other, field);
+    if (Problems* const problems = listener(parent)) {
+        problems->found(problem_kind::no_word, convert::fromInt(code).c_str(), other, field);
     }
     return added;
 }
@@ -85,8 +85,8 @@ bool addBits(Parent parent, const char* name, const Words& table, int bits) {
         result = addTag(parent, name, word.word);
         left &= ~word.code;
     }
-    if (Findings* const findings = left == 0 ? nullptr : listener(parent)) {
-        findings->leftOut(problem_kind::no_bit, convert::fromInt(left).c_str(), parent.depth(), name, row);
+    if (Problems* const problems = left == 0 ? nullptr : listener(parent)) {
+        problems->leftOut(problem_kind::no_bit, convert::fromInt(left).c_str(), parent.depth(), name, row);
     }
     return result;
 }
@@ -94,7 +94,7 @@ bool addBits(Parent parent, const char* name, const Words& table, int bits) {
 bool addDecimal(Parent parent, const char* name, float value, int decimals) {
     const convert::Digits digits = convert::fromDouble(value, decimals);
     const bool added = addTag(parent, name, digits.c_str());
-    if (Findings* const findings = listener(parent)) checkDigits(*findings, digits, value, {}, {});
+    if (Problems* const problems = listener(parent)) checkDigits(*problems, digits, value, {}, {});
     return added;
 }
 
@@ -102,7 +102,7 @@ bool addField(Parent parent, const char* name, const char* field, std::size_t ca
     const std::string_view text(field, strnlen(field, capacity));
     const bool added =
         text.size() < capacity ? addTag(parent, name, field) : addTag(parent, name, std::string(text).c_str());
-    if (Findings* const findings = listener(parent)) checkText(*findings, text, Stands::inElement);
+    if (Problems* const problems = listener(parent)) checkText(*problems, text, Stands::inElement);
     return added;
 }
 
@@ -111,8 +111,8 @@ bool addSetting(Parent parent, const char* name, const Kavrin::_MinMaxVal& setti
     const bool added = addSetting(parent, name, convert::fromInt(setting.min).c_str(),
                                   convert::fromInt(setting.max).c_str(), value.c_str());
     if (setting.value >= setting.min && setting.value <= setting.max) return added;
-    if (Findings* const findings = listener(parent)) {
-        findings->found(problem_kind::out_of_range, value.c_str(), value.c_str(), "/value");
+    if (Problems* const problems = listener(parent)) {
+        problems->found(problem_kind::out_of_range, value.c_str(), value.c_str(), "/value");
     }
     return added;
 }
@@ -121,7 +121,7 @@ bool addSetting(Parent parent, const char* name, const Kavrin::_MinMaxValFloat& 
     const convert::Digits min = convert::fromDouble(setting.min, 2);
     const convert::Digits max = convert::fromDouble(setting.max, 2);
     const bool added = addSetting(parent, name, min.c_str(), max.c_str(), max.c_str());
-    if (Findings* const findings = listener(parent)) checkFraction(*findings, setting, min, max);
+    if (Problems* const problems = listener(parent)) checkFraction(*problems, setting, min, max);
     return added;
 }
 
@@ -129,8 +129,8 @@ bool addIpAddress(Parent parent, const char* name, unsigned long address) {
     const convert::Digits digits = convert::fromIpAddress(address);
     const bool added = addTag(parent, name, digits.c_str());
     constexpr unsigned long largest = 0xFFFFFFFF;
-    if (Findings* const findings = address > largest ? listener(parent) : nullptr) {
-        findings->found(problem_kind::digits_lost, std::to_string(address), digits.c_str());
+    if (Problems* const problems = address > largest ? listener(parent) : nullptr) {
+        problems->found(problem_kind::digits_lost, std::to_string(address), digits.c_str());
     }
     return added;
 }
@@ -139,29 +139,29 @@ bool addIpAddress(Parent parent, const char* name, unsigned long address) {
 
 Parent addNamed(Parent parent, const char* name, std::string_view field) {
     const Parent element = addTag(parent, name);
-    if (Findings* const findings = element ? listener(parent) : nullptr) {
-        const std::string_view whole = findings->whole(name);
-        if (!isName(whole)) findings->found(problem_kind::no_name, whole, name, behind("/", field));
+    if (Problems* const problems = element ? listener(parent) : nullptr) {
+        const std::string_view whole = problems->whole(name);
+        if (!isName(whole)) problems->found(problem_kind::no_name, whole, name, behind("/", field));
     }
     return element;
 }
 
 bool addArgument(Parent parent, const char* name, const char* text, std::string_view field) {
     if (!addTag(parent, name, text)) return false;
-    if (Findings* const findings = listener(parent)) checkArgument(*findings, text, Stands::inElement, field, {});
+    if (Problems* const problems = listener(parent)) checkArgument(*problems, text, Stands::inElement, field, {});
     return true;
 }
 
 bool addArgumentText(Parent element, const char* text, std::string_view field, const char* word) {
     if (!addText(element, word == nullptr ? text : word)) return false;
-    if (Findings* const findings = listener(element)) checkArgument(*findings, text, Stands::inElement, field, {});
+    if (Problems* const problems = listener(element)) checkArgument(*problems, text, Stands::inElement, field, {});
     return true;
 }
 
 bool setArgument(Parent element, const char* name, const char* text, std::string_view field) {
     if (!setAttribute(element, name, text)) return false;
-    if (Findings* const findings = listener(element)) {
-        checkArgument(*findings, text, Stands::inAttribute, field, behind("/@", name));
+    if (Problems* const problems = listener(element)) {
+        checkArgument(*problems, text, Stands::inAttribute, field, behind("/@", name));
     }
     return true;
 }
@@ -169,16 +169,16 @@ bool setArgument(Parent element, const char* name, const char* text, std::string
 bool setArgument(Parent element, const char* name, float value, std::string_view field) {
     const convert::Digits digits = convert::fromDouble(value, 1);
     if (!setAttribute(element, name, digits.c_str())) return false;
-    if (Findings* const findings = listener(element)) {
-        checkDigits(*findings, digits, value, behind("/", field), behind("/@", name));
+    if (Problems* const problems = listener(element)) {
+        checkDigits(*problems, digits, value, behind("/", field), behind("/@", name));
     }
     return true;
 }
 
 bool setWord(Parent element, const char* name, const Words& table, int code, std::string_view field) {
     if (setAttribute(element, name, wordOf(table, code))) return true;
-    if (Findings* const findings = listener(element)) {
-        findings->found(problem_kind::no_word, convert::fromInt(code).c_str(), {}, behind("/", field),
+    if (Problems* const problems = listener(element)) {
+        problems->found(problem_kind::no_word, convert::fromInt(code).c_str(), {}, behind("/", field),
                         behind("/@", name));
     }
     return false;
@@ -186,15 +186,15 @@ bool setWord(Parent element, const char* name, const Words& table, int code, std
 
 bool addWordText(Parent element, const Words& table, int code, std::string_view field) {
     if (addText(element, wordOf(table, code))) return true;
-    if (Findings* const findings = listener(element)) {
-        findings->found(problem_kind::no_word, convert::fromInt(code).c_str(), {}, behind("/", field));
+    if (Problems* const problems = listener(element)) {
+        problems->found(problem_kind::no_word, convert::fromInt(code).c_str(), {}, behind("/", field));
     }
     return false;
 }
 
 void need(Parent element, const char* text, std::string_view field, std::string_view path) {
-    if (Findings* const findings = text == nullptr ? listener(element) : nullptr) {
-        findings->found(problem_kind::missing, {}, {}, behind("/", field), path);
+    if (Problems* const problems = text == nullptr ? listener(element) : nullptr) {
+        problems->found(problem_kind::missing, {}, {}, behind("/", field), path);
     }
 }
 

@@ -8,45 +8,59 @@ namespace Kavrin {
 using kvj::walk;
 namespace tables = kvj::media;
 
+namespace {
+
+template <class Table>
+bool read(kvj::Element element, _KVMediaInfo& media, const Table& table) {
+    tables::Catalogue catalogue{&media};
+    return walk(element, catalogue, table);
+}
+
+}  // namespace
+
 bool KVJMediaParser::GetMedia(const char& text, int /*length*/, _KVMediaInfo& media) {
-    walk(kvj::Reply(&text).root("media"), media, tables::catalogue);
+    read(kvj::Reply(&text).root("media"), media, tables::catalogue);
     return false;  // Whatever was read: hosts look at the lists.
 }
 
 bool KVJMediaParser::parseMedia(TiXmlElement* root, _KVMediaInfo& media) {
-    return walk(root, media, tables::catalogue);
+    return read(root, media, tables::catalogue);
 }
 
 bool KVJMediaParser::getCardsInfo(TiXmlElement* section, _KVMediaInfo& media) {
-    return walk(section, media, tables::cards);
+    return read(section, media, tables::cards);
 }
 
 bool KVJMediaParser::getFilmsInfo(TiXmlElement* section, _KVMediaInfo& media) {
-    return walk(section, media, tables::films);
+    return read(section, media, tables::films);
 }
 
 bool KVJMediaParser::getRibbonsInfo(TiXmlElement* section, _KVMediaInfo& media) {
-    return walk(section, media, tables::ribbons);
+    return read(section, media, tables::ribbons);
 }
 
 bool KVJMediaParser::getLaminatesInfo(TiXmlElement* section, _KVMediaInfo& media) {
-    return walk(section, media, tables::laminates);
+    return read(section, media, tables::laminates);
 }
 
 bool KVJMediaParser::getCardInfo(TiXmlElement* entry, _KVMediaInfo& media) {
-    return tables::newCard.read(entry, media);
+    tables::Catalogue catalogue{&media};
+    return tables::newCard.read(entry, catalogue);
 }
 
 bool KVJMediaParser::getFilmInfo(TiXmlElement* entry, _KVMediaInfo& media) {
-    return tables::newFilm.read(entry, media);
+    tables::Catalogue catalogue{&media};
+    return tables::newFilm.read(entry, catalogue);
 }
 
 bool KVJMediaParser::getRibbonInfo(TiXmlElement* entry, _KVMediaInfo& media) {
-    return tables::newRibbon.read(entry, media);
+    tables::Catalogue catalogue{&media};
+    return tables::newRibbon.read(entry, catalogue);
 }
 
 bool KVJMediaParser::getLaminateInfo(TiXmlElement* entry, _KVMediaInfo& media) {
-    return tables::newLaminate.read(entry, media);
+    tables::Catalogue catalogue{&media};
+    return tables::newLaminate.read(entry, catalogue);
 }
 
 bool KVJMediaParser::getCardInformation(TiXmlElement* element, _CardInfo& card) {

@@ -8,6 +8,7 @@
 
 #include "MediaRecords.h"
 #include "foundation/read_rules.h"
+#include "foundation/rooms.h"
 #include "foundation/write_rules.h"
 #include "shared/card.h"
 
@@ -21,14 +22,26 @@ inline constexpr ReadRule<RecordOf<Member>> value{
     {.field = fieldOf<Member>, .kind = kindOfNumber<decltype(ValueOf<Member>::value)>},
     [](Element element, RecordOf<Member>& record) { return readNumber(element, (record.*Member).value); }};
 
+/// Where the entries of a catalogue go: to the lists of a host's record, or to lists that grow by themselves.
+struct Catalogue {
+    _KVMediaInfo* record;
+    Rooms rooms{};
+};
+
 /// A new entry of a list, also for an element with nothing in it.
 template <auto Member, const auto& Table>
-inline constexpr ReadRule<_KVMediaInfo> append{
+inline constexpr ReadRule<Catalogue> append{
     {.field = fieldOf<Member>, .kind = Kind::newEntry, .group = described<Table>},
-    [](Element element, _KVMediaInfo& catalogue) {
-        auto* const entries = catalogue.*Member;
-        if (!element || entries == nullptr) return false;
-        auto entry = std::make_unique<RecordOfTable<Table>>();
+    [](Element element, Catalogue& catalogue) {
+        using Entry = RecordOfTable<Table>;
+        if (!element) return false;
+        if (catalogue.record == nullptr) {
+            Room* const room = roomFor(catalogue.rooms, nameOf<Member>());
+            return room != nullptr && walk(element, room->append<Entry>(), Table);
+        }
+        auto* const entries = catalogue.record->*Member;
+        if (entries == nullptr) return false;
+        auto entry = std::make_unique<Entry>();
         const bool result = walk(element, *entry, Table);
         entries->push_back(entry.get());
         static_cast<void>(entry.release());  // The list owns it now.
@@ -114,13 +127,13 @@ inline constexpr const auto& newRibbon = append<&_KVMediaInfo::ribbons, medium>;
 inline constexpr const auto& newLaminate = append<&_KVMediaInfo::laminates, medium>;
 
 // A printer lists the laminates that it takes in place of a ribbon under "ribbons"; it does not list its own ribbons.
-inline constexpr auto cards     = rows<_KVMediaInfo>({{"card", newCard}});
-inline constexpr auto films     = rows<_KVMediaInfo>({{"film", newFilm}});
-inline constexpr auto ribbons   = rows<_KVMediaInfo>({{"laminate", newLaminate}});
-inline constexpr auto laminates = rows<_KVMediaInfo>({{"laminate", newLaminate}});
+inline constexpr auto cards     = rows<Catalogue>({{"card", newCard}});
+inline constexpr auto films     = rows<Catalogue>({{"film", newFilm}});
+inline constexpr auto ribbons   = rows<Catalogue>({{"laminate", newLaminate}});
+inline constexpr auto laminates = rows<Catalogue>({{"laminate", newLaminate}});
 
 /// "media"
-inline constexpr auto catalogue = rows<_KVMediaInfo>({
+inline constexpr auto catalogue = rows<Catalogue>({
     {"cards",     group<cards>},
     {"films",     group<films>},
     {"ribbons",   group<ribbons>},

@@ -9,6 +9,7 @@
 
 #include "fields/field.h"
 #include "foundation/element.h"
+#include "foundation/rooms.h"
 #include "foundation/rows.h"
 
 namespace kvj {
@@ -32,6 +33,7 @@ struct HostList {
 };
 
 struct Message {
+    std::string_view name;                ///< by which hosts of kvjxml.hpp know it, "general_status"
     std::string_view root;                ///< the name of the element that the reader looks for
     std::string_view otherRoot;           ///< another that it takes; empty when there is none
     std::string_view operation;           ///< of the library
@@ -45,6 +47,8 @@ struct Message {
     void (*begin)(void* record);
     void (*end)(void* record);
     bool (*read)(const ReplyText& reply, void* record);
+    /// Reads the message from its root, into the record of kvjxml.hpp: lists that grow, and nothing global.
+    bool (*readRoot)(Element root, void* record, Rooms rooms);
 };
 
 std::span<const Message> messages();

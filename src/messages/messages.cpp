@@ -8,6 +8,7 @@
 #include <KVJSecAction.h>
 #include <KVJSensorParser.h>
 #include <KVJStatusParser.h>
+#include <kvjxml_records.hpp>
 
 #include <algorithm>
 #include <array>
@@ -127,6 +128,60 @@ constexpr HostList capabilitiesLists[] = {
 /// As many jobs as there is room for. A count beyond that stays what it is when the reply has no list.
 void askForAllJobs(void* list) { static_cast<Kavrin::KVJobList*>(list)->count = Kavrin::KVJOBLIST_CAPACITY + 1; }
 
+// ---- How they are read into the records of kvjxml.hpp ----
+
+/// A record by itself.
+template <const auto& Table>
+bool readRecord(Element root, void* record, Rooms /*rooms*/) {
+    if constexpr (std::is_same_v<std::remove_cvref_t<decltype(Table)>, std::array<Row<int>, 0>>) {
+        return false;
+    } else {
+        return walk(root, *static_cast<RecordOfTable<Table>*>(record), Table);
+    }
+}
+
+/// A record that is one list.
+template <const auto& Table>
+bool readList(Element root, void* /*record*/, Rooms rooms) {
+    return !rooms.empty() && readAll<Table>(root, rooms.front());
+}
+
+// Texts of the root itself.
+constexpr const auto& laminatorAnswer = text<&kvjxml::laminator_answer::response>;
+constexpr const auto& nonce = text<&kvjxml::nonce_text::nonce>;
+constexpr const auto& passkey = text<&Kavrin::_tagSecSetKeys::current_passkey>;
+
+/// A record that is the text of the root.
+template <const auto& Text>
+bool readRootText(Element root, void* record, Rooms /*rooms*/) {
+    return readItself(root, *static_cast<RecordOfTable<Text>*>(record), Text);
+}
+
+bool readCapabilities(Element root, void* record, Rooms rooms) {
+    capabilities::Reading reading(*static_cast<Kavrin::_Capabilities*>(record), rooms);
+    return walk(root, reading, capabilities::whole);
+}
+
+bool readMedia(Element root, void* /*record*/, Rooms rooms) {
+    media::Catalogue reading{nullptr, rooms};
+    return walk(root, reading, media::catalogue);
+}
+
+bool readHostKeys(Element root, void* record, Rooms /*rooms*/) {
+    long printerKey = 0;
+    return security::readKeyExchange(root, *static_cast<Kavrin::_tagHostDHKeys*>(record), printerKey);
+}
+
+bool readPrinterKey(Element root, void* record, Rooms /*rooms*/) {
+    Kavrin::_tagHostDHKeys keys{};
+    return security::readKeyExchange(root, keys, static_cast<kvjxml::printer_interim_key*>(record)->key,
+                                     security::KeptKeys::ofPrinter);
+}
+
+bool readDirective(Element root, void* record, Rooms /*rooms*/) {
+    return security::readDirective(root, *static_cast<Kavrin::_tagSecDirecXML*>(record));
+}
+
 // ---- The table ----
 
 /// A reply that is a text, without elements.
@@ -142,11 +197,13 @@ struct Special {
     bool isAlone = false;
     void (*begin)(void* record) = nullptr;
     void (*end)(void* record) = nullptr;
+    bool (*readRoot)(Element root, void* record, Rooms rooms) = nullptr;
 };
 
 template <auto Operation, const auto& Table, class Record = typename Taken<decltype(Operation)>::Record>
-constexpr Message message(std::string_view root, const Special& special = {}) {
-    return {root,
+constexpr Message message(std::string_view name, std::string_view root, const Special& special = {}) {
+    return {name,
+            root,
             special.otherRoot,
             nameOf<Operation>(),
             described<Table>,
@@ -157,47 +214,64 @@ constexpr Message message(std::string_view root, const Special& special = {}) {
             special.isAlone,
             special.begin,
             special.end,
-            [](const ReplyText& reply, void* record) { return call(Operation, reply, *static_cast<Record*>(record)); }};
+            [](const ReplyText& reply, void* record) { return call(Operation, reply, *static_cast<Record*>(record)); },
+            special.readRoot != nullptr ? special.readRoot : readRecord<Table>};
 }
 
 constexpr Message table[] = {
-    message<&KVJStatusParser::ParseStatus, status::generalStatus>("get_general_status"),
-    message<&KVJStatusParser::ParseJobStatus, status::jobStatus>("get_job_status"),
-    message<&KVJStatusParser::ParseJobList, status::jobList>("get_job_list", {.begin = askForAllJobs}),
-    message<&KVJStatusParser::ParseMediaStatus, status::mediaStatus>("get_media_status"),
-    message<&KVJStatusParser::ParseCardCount, status::cardCount>("get_count"),
-    message<&KVJStatusParser::ParseCleanLogCount, status::cardsUntilCleaning>("get_count"),
-    message<&KVJStatusParser::ParseUpTime, status::upTimes>("get_laminator_up_times"),
-    message<&KVJStatusParser::GetPrinterFreeSpace, status::freeSpace>("get_free_ram"),
-    message<&KVJStatusParser::GetFlashFreeSpace, status::freeSpace>("get_free_flash"),
-    message<&KVJStatusParser::ParseCleaningStatus, status::cleaningStatus>("get_cleaning_status"),
-    message<&KVJStatusParser::ParseSensorStatus, status::sensorStatus>("get_sensor_status"),
-    message<&KVJSensorParser::ParseSensorInfo, status::sensorInfo>("get_sensor_status"),
-    message<&KVJSensorParser::ParseSensorStates, status::sensorStates>("get_sensor_status"),
-    message<&KVJStatusParser::ParseWirelessStatusXML, status::wirelessStatus>("get_wireless_status"),
-    message<&KVJStatusParser::ParseWirlessRadioXML, status::wirelessRadioStatus>("get_wireless_radio_status"),
-    message<&KVJStatusParser::ParseAccessPoints, status::accessPoints>("AccessPoints", {.lists = accessPointLists}),
-    message<&KVJCapsParser::GetCapabilities, capabilities::whole>(
-        "capabilities", {.otherRoot = "get_capabilities", .lists = capabilitiesLists, .saysWhetherRead = false}),
+    message<&KVJStatusParser::ParseStatus, status::generalStatus>("general_status", "get_general_status"),
+    message<&KVJStatusParser::ParseJobStatus, status::jobStatus>("job_status", "get_job_status"),
+    message<&KVJStatusParser::ParseJobList, status::jobList>(
+        "job_list", "get_job_list", {.begin = askForAllJobs, .readRoot = readList<status::jobList>}),
+    message<&KVJStatusParser::ParseMediaStatus, status::mediaStatus>("media_status", "get_media_status"),
+    message<&KVJStatusParser::ParseCardCount, status::cardCount>("card_count", "get_count"),
+    message<&KVJStatusParser::ParseCleanLogCount, status::cardsUntilCleaning>("cards_until_cleaning", "get_count"),
+    message<&KVJStatusParser::ParseUpTime, status::upTimes>("up_times", "get_laminator_up_times"),
+    message<&KVJStatusParser::GetPrinterFreeSpace, status::freeSpace>("free_ram", "get_free_ram"),
+    message<&KVJStatusParser::GetFlashFreeSpace, status::freeSpace>("free_flash", "get_free_flash"),
+    message<&KVJStatusParser::ParseCleaningStatus, status::cleaningStatus>("cleaning_status", "get_cleaning_status"),
+    message<&KVJStatusParser::ParseSensorStatus, status::sensorStatus>("sensor_status", "get_sensor_status"),
+    message<&KVJSensorParser::ParseSensorInfo, status::sensorInfo>("sensor_info", "get_sensor_status"),
+    message<&KVJSensorParser::ParseSensorStates, status::sensorStates>("sensor_states", "get_sensor_status"),
+    message<&KVJStatusParser::ParseWirelessStatusXML, status::wirelessStatus>("wireless_status", "get_wireless_status"),
+    message<&KVJStatusParser::ParseWirlessRadioXML, status::wirelessRadioStatus>("wireless_radio_status",
+                                                                                 "get_wireless_radio_status"),
+    message<&KVJStatusParser::ParseAccessPoints, status::accessPoints>(
+        "access_points", "AccessPoints", {.lists = accessPointLists, .readRoot = readList<status::accessPoints>}),
+    message<&KVJCapsParser::GetCapabilities, capabilities::whole>("capabilities", "capabilities",
+                                                                  {.otherRoot = "get_capabilities",
+                                                                   .lists = capabilitiesLists,
+                                                                   .saysWhetherRead = false,
+                                                                   .readRoot = readCapabilities}),
     // It writes the name of the ribbon to a buffer that all share.
     message<&KVJConfigParser::GetConfiguration, configuration::document>(
-        "configuration", {.otherRoot = "set_configuration", .saysWhetherRead = false, .isAlone = true}),
+        "configuration", "configuration",
+        {.otherRoot = "set_configuration", .saysWhetherRead = false, .isAlone = true}),
     message<&KVJMediaParser::GetMedia, media::catalogue>(
-        "media", {.saysWhetherRead = false, .begin = beginCatalogue, .end = endCatalogue}),
-    message<&KVJPrinterIDParser::ParsePrinterInfo, identity::printer>("printer_id"),
-    message<&KVJLogParser::ParseLogServiceXML, identity::serviceHistory>("get_log_service_history",
-                                                                         {.lists = serviceLists}),
-    message<&KVJLogParser::ParseCleaningLog, identity::cleaningHistory>("get_log_cleaning_history"),
-    message<&KVJGetEIN::GetMagneticTracks, identity::magneticTracks>("data"),
-    message<&KVJNDC::GetLaminatorResponse, textAlone, char[512]>("lam_ndc_rsp", {.recordName = "response"}),
-    message<&KVJSecAction::GetNonceValue, textAlone, char[32]>("nonce", {.recordName = "nonce"}),
-    message<&KVJSecAction::ParseHostDHKeyValues, security::keyExchange>("diffie_hellman"),
-    message<&KVJSecAction::ParsePrinterDHKeyValues, security::keyExchange>("diffie_hellman"),
-    message<&KVJSecAction::ParseSecureDirectiveValues, security::directive>("action"),
-    message<&KVJSecAction::ParseSecureRequestValues, security::request>("secure_action_request"),
-    message<&KVJSecAction::ParseSecurityKeys, security::keys>("keys"),
-    message<&KVJSecAction::ParseSetSecurityKeys, security::keyChanges>("keys"),
-    message<&KVJSecAction::ParseGetSecureActionRequest, textAlone>("passkey"),
+        "media", "media",
+        {.saysWhetherRead = false, .begin = beginCatalogue, .end = endCatalogue, .readRoot = readMedia}),
+    message<&KVJPrinterIDParser::ParsePrinterInfo, identity::printer>("printer_id", "printer_id"),
+    message<&KVJLogParser::ParseLogServiceXML, identity::serviceHistory>(
+        "service_history", "get_log_service_history",
+        {.lists = serviceLists, .readRoot = readList<identity::serviceHistory>}),
+    message<&KVJLogParser::ParseCleaningLog, identity::cleaningHistory>(
+        "cleaning_history", "get_log_cleaning_history", {.readRoot = readList<identity::cleaningHistory>}),
+    message<&KVJGetEIN::GetMagneticTracks, identity::magneticTracks>("magnetic_tracks", "data"),
+    message<&KVJNDC::GetLaminatorResponse, textAlone, char[512]>(
+        "laminator_response", "lam_ndc_rsp", {.recordName = "response", .readRoot = readRootText<laminatorAnswer>}),
+    message<&KVJSecAction::GetNonceValue, textAlone, char[32]>(
+        "nonce", "nonce", {.recordName = "nonce", .readRoot = readRootText<nonce>}),
+    message<&KVJSecAction::ParseHostDHKeyValues, security::keyExchange>("host_keys", "diffie_hellman",
+                                                                        {.readRoot = readHostKeys}),
+    message<&KVJSecAction::ParsePrinterDHKeyValues, security::keyExchange>("printer_key", "diffie_hellman",
+                                                                           {.readRoot = readPrinterKey}),
+    message<&KVJSecAction::ParseSecureDirectiveValues, security::directive>("secure_directive", "action",
+                                                                            {.readRoot = readDirective}),
+    message<&KVJSecAction::ParseSecureRequestValues, security::request>("secure_request", "secure_action_request"),
+    message<&KVJSecAction::ParseSecurityKeys, security::keys>("keys", "keys"),
+    message<&KVJSecAction::ParseSetSecurityKeys, security::keyChanges>("key_changes", "keys"),
+    message<&KVJSecAction::ParseGetSecureActionRequest, textAlone>("passkey", "passkey",
+                                                                   {.readRoot = readRootText<passkey>}),
 };
 
 }  // namespace

@@ -8,7 +8,6 @@
 
 namespace Kavrin {
 
-using kvj::Element;
 using kvj::readText;
 using kvj::Reply;
 using kvj::walk;
@@ -18,20 +17,6 @@ namespace {
 
 /// A length as Reply takes it; one that no reply can have counts as zero.
 std::int64_t signedLength(unsigned long length) { return static_cast<std::int64_t>(length); }
-
-/// The name of the action in a text; null when it has none.
-const char* actionNameIn(const char* text) {
-    const auto code = codeOf(tables::actionNames, text);
-    return code ? wordOf(tables::actionNames, *code) : nullptr;
-}
-
-bool readKeyExchange(Element element, _tagHostDHKeys& keys, long& printerKey) {
-    tables::KeyExchange exchange{keys, static_cast<unsigned long>(printerKey), false};
-    walk(element, exchange, tables::keyExchange);
-    keys = exchange;
-    printerKey = static_cast<long>(exchange.printer_interim_key);
-    return exchange.any;
-}
 
 }  // namespace
 
@@ -43,27 +28,20 @@ bool KVJSecAction::GetNonceValue(const wchar_t& reply, int length, char* nonce) 
 
 bool KVJSecAction::ParseHostDHKeyValues(const wchar_t& reply, unsigned long length, _tagHostDHKeys& keys) {
     long printerKey = 0;
-    return readKeyExchange(Reply(reply, signedLength(length)).root("diffie_hellman"), keys, printerKey);
+    return tables::readKeyExchange(Reply(reply, signedLength(length)).root("diffie_hellman"), keys, printerKey);
 }
 
 bool KVJSecAction::ParsePrinterDHKeyValues(const wchar_t& reply, unsigned long length, long& key) {
     _tagHostDHKeys keys{};
-    return readKeyExchange(Reply(reply, signedLength(length)).root("diffie_hellman"), keys, key);
+    return tables::readKeyExchange(Reply(reply, signedLength(length)).root("diffie_hellman"), keys, key);
 }
 
 bool KVJSecAction::ParseDHKeys(TiXmlElement* element, _tagHostDHKeys& keys, long& printerKey) {
-    return readKeyExchange(element, keys, printerKey);
+    return tables::readKeyExchange(element, keys, printerKey);
 }
 
 bool KVJSecAction::ParseSecureDirectiveValues(const wchar_t& reply, unsigned long length, _tagSecDirecXML& directive) {
-    const Reply message(reply, signedLength(length));
-    const Element action = message.root("action");
-    if (const char* text = action.text()) {
-        // The whole text is searched for the name: in the part that fits, an unlocking could look like a locking.
-        const char* name = actionNameIn(text);
-        kvj::convert::copy(name != nullptr ? name : text, directive.action, sizeof directive.action);
-    }
-    return walk(action, directive, tables::directive);
+    return tables::readDirective(Reply(reply, signedLength(length)).root("action"), directive);
 }
 
 bool KVJSecAction::ParseDirectiveValues(TiXmlElement* element, _tagSecDirecXML& directive) {
@@ -105,7 +83,7 @@ bool KVJSecAction::ParseGetSecureActionRequest(const wchar_t& reply, unsigned lo
 }
 
 bool KVJSecAction::GetActionName(char* name) {
-    const char* found = actionNameIn(name);
+    const char* found = tables::actionNameIn(name);
     if (found == nullptr) return false;
     std::memcpy(name, found, std::strlen(found) + 1);
     return true;

@@ -3,6 +3,7 @@
 #ifndef KVJXML_SECURITY_TABLES_H
 #define KVJXML_SECURITY_TABLES_H
 
+#include <cstddef>
 #include <cstring>
 #include <string>
 
@@ -130,6 +131,44 @@ inline constexpr auto keyChanges = rows<_tagSecSetKeys>({
 });
 
 // clang-format on
+
+/// The name of the action in a text; null when it has none.
+inline const char* actionNameIn(const char* text) {
+    const auto code = codeOf(actionNames, text);
+    return code ? wordOf(actionNames, *code) : nullptr;
+}
+
+/// The name of an action, or the text as it is when it has none.
+inline constexpr ReadRule<_tagSecDirecXML> actionName{
+    {.field = fieldOf<&_tagSecDirecXML::action>, .kind = Kind::text, .capacity = sizeof(_tagSecDirecXML::action)},
+    [](Element action, _tagSecDirecXML& record) {
+        const char* text = action.text();
+        if (text == nullptr) return false;
+        // The whole text is searched for the name: in the part that fits, an unlocking could look like a locking.
+        const char* name = actionNameIn(text);
+        return convert::copy(name != nullptr ? name : text, record.action, sizeof record.action);
+    }};
+
+/// A directive has the name of its action as the text of its root.
+inline bool readDirective(Element action, _tagSecDirecXML& record) {
+    readItself(action, record, actionName);
+    return walk(action, record, directive);
+}
+
+/// Which part of a key exchange a host keeps.
+enum class KeptKeys { ofHost, ofPrinter };
+
+/// The host's values of a key exchange, and the printer's.
+inline bool readKeyExchange(Element element, _tagHostDHKeys& host, long& printerKey, KeptKeys kept = KeptKeys::ofHost) {
+    KeyExchange exchange{host, static_cast<unsigned long>(printerKey), false};
+    if (Watch* const watch = element.watch()) {
+        kept == KeptKeys::ofHost ? watch->follow(&exchange) : watch->follow(&exchange.printer_interim_key);
+    }
+    walk(element, exchange, keyExchange);
+    host = exchange;
+    printerKey = static_cast<long>(exchange.printer_interim_key);
+    return exchange.any;
+}
 
 }  // namespace kvj::security
 

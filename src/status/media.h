@@ -3,6 +3,7 @@
 #ifndef KVJXML_STATUS_MEDIA_H
 #define KVJXML_STATUS_MEDIA_H
 
+#include <cstddef>
 #include <cstring>
 
 #include "StatusRecords.h"
@@ -16,6 +17,10 @@ namespace kvj::status {
 struct PanelSequence {
     char* description;
 };
+
+inline const void* watched(const PanelSequence& sequence) {
+    return sequence.description - offsetof(_MediaStatusInfo, description);
+}
 
 inline constexpr int descriptionCapacity = sizeof(_MediaStatusInfo::description);
 

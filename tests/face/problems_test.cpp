@@ -1,5 +1,8 @@
 // What would arrive otherwise than it is asked for: each kind of problem, planted in every row of every table that can
 // have it, is found with its field and its path, and nothing else is.
+#include <KVJConfigParser.h>
+#include <KVJMediaParser.h>
+#include <KVJPrinterIDParser.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -20,6 +23,7 @@
 #include "foundation/convert.h"
 #include "identity/printer.h"
 #include "media/tables.h"
+#include "support/files.h"
 #include "support/records.h"
 
 using kvj::described;
@@ -363,6 +367,60 @@ TEST_P(Problems, OfEveryRowOfAPrintersIdentityAreFound) {
     const Rows rows(described<kvj::identity::printerTags>, GetParam());
     values_.add(rows, kvj::recordType<Kavrin::KVPrinterInfo>, &info, "", "/printer_id");
     EXPECT_GT(plantAll(values_, [&] { return kvjxml::compose(info, options_); }), 80U);
+}
+
+// ---- What a printer reports and a host sends back ----
+
+/// The fields in which something is found, each with the number of its kind.
+std::vector<std::pair<problem_kind, std::string>> fieldsOf(const std::vector<problem>& problems) {
+    std::vector<std::pair<problem_kind, std::string>> fields;
+    for (const problem& it : problems) fields.emplace_back(it.kind, it.field);
+    return fields;
+}
+
+std::string reply(const std::string& name) {
+    return kvj::tests::contentOf(std::string(KVJXML_REPLIES "/") + name + ".xml");
+}
+
+TEST(ProblemsOfWhatIsReported, AreFractionsAndTheRibbonsNames) {
+    Kavrin::_KVConfiguration values{};
+    Kavrin::KVJConfigParser().GetConfiguration(reply("configuration").c_str(), 0, values);
+    ASSERT_NE(values.standbyTimeout, 0);
+    const auto fractionsIn = [](const std::string& record, std::initializer_list<const char*> names) {
+        std::vector<std::pair<problem_kind, std::string>> fields;
+        for (const char* name : names) fields.emplace_back(problem_kind::sent_as_maximum, record + name + "/value");
+        return fields;
+    };
+    // The sample has a value other than its maximum in each of these, and the printer's own name for a ribbon is no
+    // code.
+    auto expected = fractionsIn("/ribbonMotorParameters/", {"S0", "K0", "Kb", "Ka", "M0", "Mb", "Ma"});
+    const auto append = [&](const auto& fields) { expected.insert(expected.end(), fields.begin(), fields.end()); };
+    expected.emplace_back(problem_kind::no_word, "/ribbon/ribbonCode");
+    expected.emplace_back(problem_kind::no_word, "/film/ribbonCode");
+    append(fractionsIn("/customCard1/transferSpeeds/", {"inputSingle", "outputSingle"}));
+    append(fractionsIn("/customCard1/laminatorAdjustments/", {"speedAdjust"}));
+    append(fractionsIn("/transferSettings/transferSpeeds/",
+                       {"inputSingle", "outputSingle", "inputDouble", "outputDouble"}));
+    EXPECT_EQ(fieldsOf(kvjxml::compose(values, kvjxml::section::all).problems()), expected);
+}
+
+TEST(ProblemsOfWhatIsReported, AreNoneOfAnIdentity) {
+    Kavrin::KVPrinterInfo info{};
+    const std::string text = reply("printer_id");
+    ASSERT_TRUE(Kavrin::KVJPrinterIDParser().ParsePrinterInfo(text.c_str(), static_cast<int>(text.size()), info));
+    EXPECT_TRUE(kvjxml::compose(info));
+}
+
+TEST(ProblemsOfWhatIsReported, AreRangesThatACatalogueHasNot) {
+    const auto media = Kavrin::MakeKVMedia();
+    const std::string text = reply("media");
+    Kavrin::KVJMediaParser().GetMedia(text[0], static_cast<int>(text.size()), *media);
+    ASSERT_FALSE(media->cards->empty());
+    kvjxml::options options;
+    options.cards = kvjxml::catalogue_cards::all;
+    const auto problems = kvjxml::compose(kvj::tests::faceOf(*media), options).problems();
+    EXPECT_FALSE(problems.empty());
+    EXPECT_THAT(problems, testing::Each(testing::Field(&problem::kind, problem_kind::out_of_range)));
 }
 
 // ---- What has no row of its own in a table ----

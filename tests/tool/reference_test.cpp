@@ -24,9 +24,12 @@ using kvj::tests::contentOf;
 using kvj::tests::runShell;
 using kvj::tests::runTool;
 
+/// All that are written by hand: what is printed from the tables would prove nothing.
 std::string publicHeaders() {
     std::string text;
-    for (const auto& file : std::filesystem::directory_iterator(KVJXML_INCLUDE)) text += contentOf(file.path());
+    for (const auto& file : std::filesystem::directory_iterator(KVJXML_INCLUDE)) {
+        if (file.path().extension() == ".h") text += contentOf(file.path());
+    }
     return text;
 }
 
@@ -182,7 +185,7 @@ TEST(Reference, TheHeadersNameTheElementOfEveryFieldBesideIt) {
     auto comments = commentsOfFields();
     std::size_t compared = 0;
     for (const auto& row : allRows()) {
-        const auto& [record, field] = row.description.field;
+        const auto& [record, field, at] = row.description.field;
         if (record.empty() || record == "KeyExchange") continue;  // No field, or one that a reader keeps for itself.
         // A record or a field that is in no header has an empty comment here.
         EXPECT_TRUE(names(comments[std::string(record)][std::string(field)], row.name))

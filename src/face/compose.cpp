@@ -1,9 +1,10 @@
 #include <algorithm>
-#include <new>
+#include <iterator>
+#include <string>
 #include <string_view>
 #include <vector>
 
-#include "foundation/findings.h"
+#include "foundation/problems.h"
 #include "foundation/request_text.h"
 #include "kvjxml_compose.hpp"
 #include "media/tables.h"
@@ -38,21 +39,22 @@ result composeText(const request& asked, const room& where, const listener& list
     texts.reserve(asked.text_count);
     std::transform(asked.texts, asked.texts + asked.text_count, std::back_inserter(texts),
                    [](const view& text) { return std::string_view(text.characters, text.size); });
-    Findings findings(texts);
+    Problems problems(texts);
     RequestText text({where.characters, where.capacity, where.more, where.host},
-                     asked.chosen.accepts_changes ? nullptr : &findings);
+                     asked.chosen.accepts_changes ? nullptr : &problems);
     const bool isWritten = row->write(text.begin(row->root), asked.record, choicesOf(asked));
     size = text.end();
 
-    std::vector<kvjxml::problem> problems = findings.problems();
-    if (!isWritten && problems.empty()) {
-        problems.push_back({kvjxml::problem_kind::nothing_to_send, {}, std::string("/").append(row->root), {}, {}});
+    std::vector<kvjxml::problem> found = problems.all();
+    if (!isWritten && found.empty()) {
+        found.push_back({kvjxml::problem_kind::nothing_to_send, {}, std::string("/").append(row->root), {}, {}});
     }
-    for (const auto& [kind, field, path, value, sent] : problems) {
-        const found problem{static_cast<int>(kind), viewOf(field), viewOf(path), viewOf(value), viewOf(sent)};
+    for (const auto& [kind, field, path, value, sent] : found) {
+        const kvjxml::detail::found problem{static_cast<int>(kind), viewOf(field), viewOf(path), viewOf(value),
+                                            viewOf(sent)};
         if (!listens.report(listens.host, &problem)) return result::no_memory;
     }
-    return problems.empty() ? result::composed : result::refused;
+    return found.empty() ? result::composed : result::refused;
 }
 
 }  // namespace

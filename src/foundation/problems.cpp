@@ -1,4 +1,4 @@
-#include "foundation/findings.h"
+#include "foundation/problems.h"
 
 #include <algorithm>
 #include <functional>
@@ -85,13 +85,13 @@ private:
 
 }  // namespace
 
-void Findings::found(problem_kind kind, std::string_view asked, std::string_view sent, std::string_view field,
+void Problems::found(problem_kind kind, std::string_view asked, std::string_view sent, std::string_view field,
                      std::string_view path) {
     found_.push_back({{kind, std::string(field), std::string(path), std::string(asked), std::string(sent)},
                       elements_.empty() ? noElement : elements_.size() - 1});
 }
 
-void Findings::leftOut(problem_kind kind, std::string_view asked, std::size_t depth, std::string_view name,
+void Problems::leftOut(problem_kind kind, std::string_view asked, std::size_t depth, std::string_view name,
                        const Description* row) {
     std::size_t parent = elements_.size() - 1;
     while (elements_[parent].depth >= depth) --parent;
@@ -100,12 +100,12 @@ void Findings::leftOut(problem_kind kind, std::string_view asked, std::size_t de
     if (row != nullptr) found_.back().problem.field = std::string("/").append(row->field.name);
 }
 
-std::string_view Findings::whole(const char* text) const {
+std::string_view Problems::whole(const char* text) const {
     const auto known = std::ranges::find(hostTexts_, text, [](std::string_view host) { return host.data(); });
     return known == hostTexts_.end() ? std::string_view(text) : *known;
 }
 
-std::vector<problem> Findings::problems() const {
+std::vector<problem> Problems::all() const {
     std::vector<problem> problems;
     if (found_.empty()) return problems;
     const Places places(elements_);

@@ -1,8 +1,8 @@
-/// @file findings.h
+/// @file problems.h
 /// What is found out about a request while it is written: which of its values the printer would get otherwise than they
 /// are asked for, and where they stand in the record and in the request.
-#ifndef KVJXML_FOUNDATION_FINDINGS_H
-#define KVJXML_FOUNDATION_FINDINGS_H
+#ifndef KVJXML_FOUNDATION_PROBLEMS_H
+#define KVJXML_FOUNDATION_PROBLEMS_H
 
 #include <cstddef>
 #include <span>
@@ -23,10 +23,10 @@ struct Opened {
     int entry;               ///< which entry of a list it is; -1 for none
 };
 
-class Findings {
+class Problems {
 public:
     /// @param hostTexts  the texts of the request's arguments, by which their sizes are known
-    explicit Findings(std::span<const std::string_view> hostTexts = {}) : hostTexts_(hostTexts) {}
+    explicit Problems(std::span<const std::string_view> hostTexts = {}) : hostTexts_(hostTexts) {}
 
     void opened(const Opened& element) { elements_.push_back(element); }
 
@@ -44,7 +44,7 @@ public:
 
     [[nodiscard]] bool empty() const noexcept { return found_.empty(); }
     /// What was found, in the order of the request.
-    [[nodiscard]] std::vector<kvjxml::problem> problems() const;
+    [[nodiscard]] std::vector<kvjxml::problem> all() const;
 
 private:
     struct Found {

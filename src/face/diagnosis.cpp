@@ -1,0 +1,504 @@
+#include "face/diagnosis.h"
+
+#include <algorithm>
+#include <cstring>
+#include <map>
+#include <ranges>
+#include <span>
+#include <utility>
+
+#include "face/markup.h"
+#include "face/nearest.h"
+#include "face/value_check.h"
+#include "foundation/characters.h"
+#include "foundation/references.h"
+#include "foundation/utf8.h"
+
+namespace kvj {
+
+namespace {
+
+using kvjxml::finding;
+using kvjxml::finding_kind;
+using kvjxml::severity;
+
+severity severityOf(finding_kind kind) {
+    switch (kind) {
+        case finding_kind::unknown_element:
+            return severity::note;
+        case finding_kind::no_text:
+        case finding_kind::attribute:
+        case finding_kind::repeated:
+        case finding_kind::beyond_capacity:
+        case finding_kind::ignored:
+            return severity::warning;
+        default:
+            return severity::error;
+    }
+}
+
+Role roleOf(const Description& row) {
+    switch (row.kind) {
+        case Kind::attribute:
+        case Kind::givenAttributes:
+            return Role::bare;
+        case Kind::wordOfPanels:
+        case Kind::group:
+        case Kind::part:
+        case Kind::list:
+        case Kind::entry:
+        case Kind::firstEntry:
+        case Kind::newEntry:
+        case Kind::byDescription:
+            return Role::around;
+        default:
+            return Role::value;
+    }
+}
+
+/// How many entries the record of the named operation holds in an array of its own; 0 when it has none.
+std::size_t roomIn(const Field& record) {
+    if (record.type == FieldType::list && record.entries->storage == Storage::inRecord) return record.entries->room;
+    if (record.type != FieldType::record || record.record->fields.size() != 1) return 0;
+    return roomIn(record.record->fields.front());
+}
+
+/// A text as it is told of: no longer than a line.
+std::string excerpt(std::string_view text) {
+    constexpr std::size_t longest = 60;
+    return std::string(text.substr(0, longest));
+}
+
+std::string quoted(std::string_view name) { return "\"" + std::string(name) + "\""; }
+
+// ---- Where things are ----
+
+/// Finds out where candidates are, in one pass from the first to the last.
+class Places {
+public:
+    Places(const Document& document, std::string_view bytes, const Markup& markup)
+        : document_(document), bytes_(bytes), markup_(markup) {}
+
+    finding place(Candidate&& candidate) {
+        finding found;
+        found.kind = candidate.kind;
+        found.level = severityOf(candidate.kind);
+        found.offset = candidate.offset;
+        found.length = candidate.length;
+        move(found);
+        found.path = pathOf(candidate.node);
+        if (!candidate.name.empty()) found.path += "/@" + std::string(candidate.name);
+        found.field = fieldName(candidate.field);
+        found.text = std::move(candidate.text);
+        found.became = std::move(candidate.became);
+        found.detail = std::move(candidate.detail);
+        return found;
+    }
+
+    [[nodiscard]] std::string pathOf(std::size_t node) {
+        constexpr std::size_t deepest = 64;
+        std::vector<std::string> steps;
+        for (; node != 0 && steps.size() < deepest; node = markup_.parentOf(node)) {
+            std::string& step = steps.emplace_back(document_[node].name());
+            if (const std::size_t place = placeAmongSiblings(node)) step += "[" + std::to_string(place) + "]";
+        }
+        std::string path = node == 0 ? "" : "/";  // of one that is deeper the last steps
+        for (const std::string& step : steps | std::views::reverse) path += "/" + step;
+        return path;
+    }
+
+private:
+    static std::string fieldName(const FieldName& field) {
+        if (field.empty()) return {};
+        const KnownField known = knownField(field);
+        const std::string_view record = known.record != nullptr ? known.record->name : field.record;
+        return std::string(record) + "::" + std::string(field.name);
+    }
+
+    /// From 1, among those of the same name; 0 when there is no other.
+    std::size_t placeAmongSiblings(std::size_t node) {
+        const std::size_t parent = markup_.parentOf(node);
+        if (numbered_.empty()) {
+            numbered_.resize(document_.size());
+            places_.resize(document_.size());
+        }
+        if (!numbered_[parent]) {
+            numbered_[parent] = true;
+            std::map<std::string_view, std::pair<std::size_t, std::uint32_t>> seen;  // the first one, and how many
+            for (const Element child : document_[parent].children()) {
+                auto& [first, count] = seen[child.name()];
+                if (++count == 1) {
+                    first = child.number();
+                } else {
+                    places_[first] = 1;
+                    places_[child.number()] = count;
+                }
+            }
+        }
+        return places_[node];
+    }
+
+    void move(finding& found) {
+        if (found.offset < at_) {
+            at_ = 0;
+            line_ = column_ = 1;
+        }
+        for (; at_ < std::min(found.offset, bytes_.size()); ++at_) {
+            if (bytes_[at_] == '\n') {
+                ++line_;
+                column_ = 1;
+            } else if ((static_cast<unsigned char>(bytes_[at_]) & 0xC0U) != 0x80) {
+                ++column_;
+            }
+        }
+        found.line = line_;
+        found.column = column_;
+    }
+
+    const Document& document_;
+    std::string_view bytes_;
+    const Markup& markup_;
+    std::size_t at_ = 0;
+    std::size_t line_ = 1;
+    std::size_t column_ = 1;
+    std::vector<bool> numbered_;  ///< whether the places of an element's children are known
+    std::vector<std::uint32_t> places_;
+};
+
+// ---- What the tables know ----
+
+/// The rows inside an element of a message, by the names of the elements down to it; none where it is not known.
+std::span<const DescribedRow> rowsInside(std::span<const DescribedRow> rows, std::span<const std::string_view> names) {
+    for (const std::string_view name : names) {
+        const auto row = std::ranges::find(rows, name, &DescribedRow::name);
+        if (row == rows.end()) return {};
+        rows = row->description.group;
+    }
+    return rows;
+}
+
+bool hasRoot(const Message& message, std::string_view name) {
+    return message.root == name || (!message.otherRoot.empty() && message.otherRoot == name);
+}
+
+// ---- What stands between the elements ----
+
+/// A reference is right when it names one of the five, or a character.
+bool isRight(std::string_view reference) {
+    for (const std::string_view name : {"&amp;", "&lt;", "&gt;", "&quot;", "&apos;"}) {
+        if (reference.starts_with(name)) return true;
+    }
+    if (!reference.starts_with("&#")) return false;
+    const bool isHexadecimal = reference.substr(2).starts_with("x");
+    std::string_view digits = reference.substr(isHexadecimal ? 3 : 2);
+    digits = digits.substr(0, digits.find(';'));
+    if (digits.empty() || digits.size() > 10 || digits.size() == reference.size()) return false;
+    unsigned long number = 0;
+    for (const char c : digits) {
+        const bool isDecimal = c >= '0' && c <= '9';
+        const char lower = static_cast<char>(c | 0x20);
+        if (!isDecimal && !(isHexadecimal && lower >= 'a' && lower <= 'f')) return false;
+        number =
+            number * (isHexadecimal ? 16 : 10) + static_cast<unsigned long>(isDecimal ? c - '0' : lower - 'a' + 10);
+    }
+    const bool isSurrogate = number >= 0xD800 && number <= 0xDFFF;
+    return number != 0 && number <= 0x10FFFF && !isSurrogate && reference.find(';') != std::string_view::npos;
+}
+
+/// What the reading makes of a reference, in a text of its own.
+std::string decoded(std::string_view reference) {
+    std::vector<char> text(reference.begin(), reference.end());
+    text.resize(text.size() + Text::padding);
+    char* to = text.data();
+    if (decodeReference(text.data(), to, true) == nullptr) return {};
+    return {text.data(), to};
+}
+
+/// Looks at the pieces of a text.
+class Between {
+public:
+    Between(const Document& document, std::string_view bytes, std::vector<Role>& roles, std::size_t root,
+            std::vector<Candidate>& candidates)
+        : document_(document),
+          bytes_(bytes),
+          markup_(document, bytes),
+          roles_(roles),
+          root_(root),
+          candidates_(candidates) {}
+
+    void all() {
+        Piece piece{};
+        while (markup_.next(piece)) {
+            encoding(piece);
+            look(piece);
+        }
+        fault(piece);
+        if (const std::size_t nul = bytes_.find('\0'); nul != std::string_view::npos) {
+            add(finding_kind::malformed, 0, nul, 1, "a NUL; nothing behind it was read");
+        }
+    }
+
+    [[nodiscard]] const Markup& markup() const { return markup_; }
+
+private:
+    [[nodiscard]] std::string_view textOf(const Piece& piece) const {
+        return bytes_.substr(piece.offset, piece.length);
+    }
+
+    Candidate& add(finding_kind kind, std::size_t node, std::size_t offset, std::size_t length, std::string detail) {
+        return candidates_.emplace_back(Candidate{.kind = kind,
+                                                  .node = node,
+                                                  .text = excerpt(bytes_.substr(offset, length)),
+                                                  .detail = std::move(detail),
+                                                  .offset = offset,
+                                                  .length = length});
+    }
+
+    void encoding(const Piece& piece) {
+        const std::string_view whole = bytes_.substr(0, piece.offset + piece.length);
+        for (std::size_t at = firstOutsideUtf8(whole, piece.offset); at < whole.size();) {
+            std::size_t end = at + 1;
+            while (end < whole.size() && firstOutsideUtf8(whole.substr(0, end + 1), end) == end) ++end;
+            if (isFull()) return;
+            add(finding_kind::encoding, piece.node, at, end - at, "not UTF-8");
+            at = firstOutsideUtf8(whole, end);
+        }
+    }
+
+    /// A hostile reply could take any time.
+    [[nodiscard]] bool isFull() const { return candidates_.size() > 2 * Findings::most; }
+
+    void look(const Piece& piece) {
+        if (isFull()) return;
+        switch (piece.kind) {
+            case Piece::Kind::startTag:
+                return startTag(piece);
+            case Piece::Kind::text:
+                return text(piece);
+            case Piece::Kind::cdata:
+                return cdata(piece);
+            case Piece::Kind::comment:
+            case Piece::Kind::instruction:
+                return aside(piece);
+            case Piece::Kind::other:
+                return other(piece);
+            case Piece::Kind::rest:
+                return rest(piece);
+            case Piece::Kind::endTag:
+                return;
+        }
+    }
+
+    void notText(const Piece& piece, std::size_t node, std::string_view what) {
+        const char* const value = document_[node].text();
+        candidates_.emplace_back(Candidate{.kind = finding_kind::not_text,
+                                           .node = node,
+                                           .text = excerpt(textOf(piece)),
+                                           .became = value == nullptr ? std::string() : excerpt(value),
+                                           .detail = std::string(what) + " was read as the value"});
+    }
+
+    void startTag(const Piece& piece) {
+        const std::size_t parent = markup_.parentOf(piece.node);
+        if (parent == 0 && piece.node != root_) {
+            add(finding_kind::ignored, piece.node, piece.offset, piece.length, "an element beside the message");
+        } else if (roles_[parent] == Role::value && roles_[piece.node] == Role::unread) {
+            if (piece.isFirstChild) {
+                notText(piece, parent, "the name of an element");
+            } else {
+                add(finding_kind::ignored, piece.node, piece.offset, piece.length, "an element beside a value");
+            }
+        }
+        if (roles_[piece.node] != Role::unread && roles_[piece.node] != Role::skipped) references(piece);
+    }
+
+    void text(const Piece& piece) {
+        if (roles_[piece.node] == Role::value && piece.isFirstChild) return references(piece);
+        beside(piece);
+    }
+
+    /// A text that is not the value of an element.
+    void beside(const Piece& piece) {
+        const Role role = roles_[piece.node];
+        const std::string_view text = textOf(piece);
+        const auto isBlank = [](char c) { return characters::is(c, characters::blank); };
+        const auto* const first = std::ranges::find_if_not(text, isBlank);
+        if (first == text.end()) return;
+        if (piece.node != 0 && role != Role::around && role != Role::value) return;
+        const auto blanks = static_cast<std::size_t>(first - text.begin());
+        add(finding_kind::ignored, piece.node, piece.offset + blanks, piece.length - blanks, "a text beside elements");
+    }
+
+    void cdata(const Piece& piece) {
+        if (roles_[piece.node] == Role::value && piece.isFirstChild) return;
+        beside(piece);
+    }
+
+    void aside(const Piece& piece) {
+        if (roles_[piece.node] != Role::value || !piece.isFirstChild) return;
+        notText(piece, piece.node, piece.kind == Piece::Kind::comment ? "a comment" : "an instruction");
+    }
+
+    void other(const Piece& piece) {
+        const std::string_view text = textOf(piece);
+        if (text.starts_with("<!DOCTYPE") && piece.node == 0) return;
+        if (roles_[piece.node] == Role::value && piece.isFirstChild) notText(piece, piece.node, "what is no text");
+        add(finding_kind::malformed, piece.node, piece.offset, piece.length,
+            text.starts_with("</") ? "an end tag, and nothing is open" : "no markup");
+    }
+
+    /// The reading stopped without an error at the top level, at what is no markup.
+    void rest(const Piece& piece) {
+        if (document_.fault() || textOf(piece).find_first_not_of('\0') == std::string_view::npos) return;
+        if (textOf(piece).starts_with('\0')) return;
+        beside(piece);
+    }
+
+    void references(const Piece& piece) {
+        const std::string_view text = textOf(piece);
+        for (std::size_t at = text.find('&'); at != std::string_view::npos; at = text.find('&', at + 1)) {
+            const std::string_view reference = text.substr(at);
+            if (isRight(reference)) continue;
+            const std::size_t semicolon = reference.substr(0, 16).find(';');
+            const std::size_t length = semicolon == std::string_view::npos ? 1 : semicolon + 1;
+            if (isFull()) return;
+            Candidate& found = add(finding_kind::reference, piece.node, piece.offset + at, length, {});
+            found.offset = found.length = 0;
+            found.became = decoded(reference.substr(0, 64));
+            found.detail = found.became.empty() ? "nothing became of it" : "it is no reference to a character";
+        }
+    }
+
+    void fault(const Piece& last) {
+        const bool isCut = !document_.fault() && !document_.isWhole() && document_.end() >= bytes_.size() &&
+                           (last.kind == Piece::Kind::comment || last.kind == Piece::Kind::instruction ||
+                            last.kind == Piece::Kind::other) &&
+                           !bytes_.ends_with('>');
+        if (isCut) add(finding_kind::malformed, 0, last.offset, last.length, "it does not end");
+        if (!document_.fault()) return;
+        const std::size_t at = std::min(document_.fault().offset, bytes_.size());
+        const std::string_view text = bytes_.substr(at);
+        std::string detail = text.empty() ? "the reply ends here" : "the reply breaks here";
+        if (last.node != 0) detail += ", while " + quoted(document_[last.node].name()) + " is open";
+        if (text.starts_with("</")) {
+            const std::string_view name =
+                text.substr(2, text.find('>') == std::string_view::npos ? std::string_view::npos : text.find('>') - 2);
+            detail = "the end of " + quoted(excerpt(name)) + ", while " +
+                     (last.node != 0 ? quoted(document_[last.node].name()) : std::string("nothing")) + " is open";
+        }
+        add(finding_kind::malformed, last.node, at, std::min<std::size_t>(text.size(), 1), std::move(detail));
+    }
+
+    const Document& document_;
+    std::string_view bytes_;
+    Markup markup_;
+    std::vector<Role>& roles_;
+    std::size_t root_;
+    std::vector<Candidate>& candidates_;
+};
+
+/// Sorts what was found by its place, and tells where that is.
+void tell(std::vector<Candidate>& candidates, Places& places, const Document& document, std::string_view bytes,
+          Findings& findings) {
+    for (Candidate& candidate : candidates) {
+        if (candidate.length != 0 || candidate.node == 0) continue;
+        candidate.offset = document[candidate.node].offset();
+        candidate.length = endOfTag(bytes, candidate.offset) - candidate.offset;
+    }
+    std::ranges::stable_sort(candidates, {}, &Candidate::offset);
+    for (Candidate& candidate : candidates) {
+        if (findings.all.size() == Findings::most) {
+            ++findings.omitted;
+        } else {
+            findings.all.push_back(places.place(std::move(candidate)));
+        }
+    }
+}
+
+}  // namespace
+
+Diagnosis::Diagnosis(const Document& document, std::string_view bytes, Element root, const Message& message,
+                     Findings& findings)
+    : document_(document),
+      bytes_(bytes),
+      root_(root),
+      message_(message),
+      findings_(findings),
+      roles_(document.size() + 1),
+      room_(roomIn(message.record)) {
+    roles_[root.number()] = Role::around;
+}
+
+void Diagnosis::read(const Read& read) {
+    roles_[read.element.number()] = roleOf(read.row);
+    if (candidates_.size() > 2 * Findings::most) return;
+    checkValue(read, candidates_);
+    if (read.row.kind == Kind::entry && room_ != 0 && ++entries_ > room_) {
+        candidates_.push_back({.kind = finding_kind::beyond_capacity,
+                               .node = read.element.number(),
+                               .detail = "the record of the named operation has room for " + std::to_string(room_)});
+    }
+}
+
+void Diagnosis::skip(Element element) {
+    roles_[element.number()] = Role::skipped;
+    if (candidates_.size() > 2 * Findings::most) return;
+    candidates_.push_back(
+        {.kind = finding_kind::unknown_element, .node = element.number(), .text = excerpt(element.name())});
+}
+
+void Diagnosis::finish() {
+    Between between(document_, bytes_, roles_, root_.number(), candidates_);
+    between.all();
+    const Markup& markup = between.markup();
+    const auto namesTo = [&](std::size_t node) {
+        std::vector<std::string_view> names;
+        for (; node != 0 && node != root_.number(); node = markup.parentOf(node)) {
+            names.insert(names.begin(), document_[node].name());
+        }
+        return names;
+    };
+    // What another reader of the same reply knows is not unknown.
+    std::erase_if(candidates_, [&](Candidate& candidate) {
+        if (candidate.kind != finding_kind::unknown_element) return false;
+        const auto names = namesTo(candidate.node);
+        const auto parents = std::span(names).first(names.size() - 1);
+        std::string_view best;
+        for (const Message& message : messages()) {
+            if (!hasRoot(message, root_.name())) continue;
+            const auto rows = rowsInside(message.table, parents);
+            if (std::ranges::find(rows, names.back(), &DescribedRow::name) != rows.end()) return true;
+            if (best.empty()) best = nearest(names.back(), rows, [](const DescribedRow& row) { return row.name; });
+        }
+        if (!best.empty()) candidate.detail = "did you mean " + quoted(best) + "?";
+        return false;
+    });
+    Places places(document_, bytes_, markup);
+    tell(candidates_, places, document_, bytes_, findings_);
+}
+
+void diagnoseWithout(const Document& document, std::string_view bytes, const Message& message, Findings& findings) {
+    std::vector<Candidate> candidates;
+    std::vector<Role> roles(document.size() + 1);
+    Between between(document, bytes, roles, 0, candidates);
+    between.all();
+    // Elements beside the message are all there are.
+    std::erase_if(candidates, [](const Candidate& candidate) { return candidate.kind == finding_kind::ignored; });
+    std::string_view first;
+    std::size_t node = 0;
+    for (const Element element : document.top().children()) {
+        first = element.name();
+        node = element.number();
+        break;
+    }
+    const auto best = nearest(first, std::span(&message, 1), [](const Message& one) { return one.root; });
+    candidates.push_back({.kind = finding_kind::unknown_message,
+                          .node = node,
+                          .text = excerpt(first),
+                          .detail = best.empty() || best == first ? quoted(message.root) + " is not in the reply"
+                                                                  : "did you mean " + quoted(best) + "?"});
+    Places places(document, bytes, between.markup());
+    tell(candidates, places, document, bytes, findings);
+}
+
+}  // namespace kvj

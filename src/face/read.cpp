@@ -1,0 +1,93 @@
+#include <kvjxml_v1.h>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <memory>
+#include <new>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "face/diagnosis.h"
+#include "face/findings.h"
+#include "foundation/document.h"
+#include "foundation/element.h"
+#include "foundation/rooms.h"
+#include "foundation/utf8.h"
+#include "foundation/watch.h"
+#include "messages/message.h"
+
+namespace kvj {
+
+namespace {
+
+/// A host's lists; those of a newer host's that no message of this library has are left empty.
+class HostRooms {
+public:
+    explicit HostRooms(const kvjxml_v1_target& target) {
+        const std::span lists(target.lists, target.lists_count);
+        std::ranges::copy(lists.first(std::min(lists.size(), rooms_.size())), rooms_.begin());
+        count_ = std::min(lists.size(), rooms_.size());
+    }
+    Rooms get() { return Rooms(rooms_).first(count_); }
+
+private:
+    std::array<Room, 16> rooms_;
+    std::size_t count_ = 0;
+};
+
+Text copyOf(std::string_view bytes) {
+    Text copy(bytes.size());
+    std::ranges::copy(bytes, copy.bytes());
+    return copy;
+}
+
+void tellRoot(const Document& document, const kvjxml_v1_target& target) {
+    std::string_view name;
+    for (const Element element : document.top().children()) {
+        name = element.name();
+        break;
+    }
+    target.root[name.copy(target.root, target.root_size - 1)] = '\0';
+}
+
+int read(const Message& message, std::string_view bytes, const kvjxml_v1_target& target, Findings* findings) {
+    const std::string_view text = bytes.substr(0, bytes.find('\0'));
+    Document document(copyOf(text), Manner::ofUtf8);
+    const bool isWhole = document.isWhole() && text.size() == bytes.size() && firstOutsideUtf8(bytes) == bytes.size();
+    const Element root = document.root(message.root.data(), message.otherRoot.data());
+    if (root) {
+        std::optional<Diagnosis> diagnosis;
+        if (findings != nullptr) diagnosis.emplace(document, bytes, root, message, *findings);
+        Watch watch(target.record, target.size, target.carried, diagnosis ? &*diagnosis : nullptr);
+        document.watchWith(&watch);
+        HostRooms rooms(target);
+        message.readRoot(root, target.record, rooms.get());
+        if (diagnosis) diagnosis->finish();
+    } else {
+        tellRoot(document, target);
+        if (findings != nullptr) diagnoseWithout(document, bytes, message, *findings);
+    }
+    const bool isTooLarge = !document.top();
+    return (root ? kvjxml_v1_found : 0) | (isWhole ? kvjxml_v1_whole : 0) | (isTooLarge ? kvjxml_v1_too_large : 0);
+}
+
+}  // namespace
+
+}  // namespace kvj
+
+int kvjxml_v1_read(int message, const char* text, size_t length, const kvjxml_v1_target* target,
+                   kvjxml_v1_findings** findings) {
+    try {
+        const auto all = kvj::messages();
+        const kvj::Message& row = all[static_cast<std::size_t>(message)];
+        if (findings == nullptr) return kvj::read(row, {text, length}, *target, nullptr);
+        auto found = std::make_unique<kvj::Findings>();
+        const int result = kvj::read(row, {text, length}, *target, found.get());
+        *findings = kvj::handOver(std::move(found));
+        return result;
+    } catch (const std::bad_alloc&) {
+        return kvjxml_v1_no_memory;
+    }
+}
