@@ -1,5 +1,6 @@
 #include "face/value_check.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -14,6 +15,7 @@
 #include "face/nearest.h"
 #include "fields/records.h"
 #include "foundation/convert.h"
+#include "messages/request.h"
 
 namespace kvj {
 
@@ -412,7 +414,22 @@ private:
         return codeOf(Words{row_.words.words.rows, {}, row_.words.words.match}, word).has_value();
     }
 
+    /// Words that the printer takes but does not send are known all the same.
+    static bool isWritten(std::span<const DescribedRow> rows, const FieldName& field, std::string_view word) {
+        return std::ranges::any_of(rows, [&](const DescribedRow& row) {
+            const Description& it = row.description;
+            const bool isOfField = it.field.record == field.record && it.field.name == field.name;
+            const bool hasWord =
+                it.word == word || it.otherWord == word ||
+                std::ranges::any_of(it.words.words.rows, [&](const Word& each) { return each.word == word; });
+            return (isOfField && hasWord) || isWritten(it.group, field, word);
+        });
+    }
+
     void unknownWord(const FieldName& field) {
+        for (const Request& request : requests()) {
+            if (isWritten(request.table, field, *text_)) return;
+        }
         const auto best =
             nearest(withoutBlanks(*text_), row_.words.words.rows, [](const Word& word) { return word.word; });
         add(finding_kind::unknown_word, became(field),
