@@ -92,9 +92,9 @@ inline constexpr ReadRule<_KVConfiguration> customCard{
         }
         const bool isFirst = convert::equal(info.description, "Custom 1");
         _CustomCardInfo& target = isFirst ? configuration.customCard1 : configuration.customCard2;
-        target = info;
         // Who watches is told of the fields where they belong.
-        if (element.watch() != nullptr) walk(element, target, card);
+        if (element.watch() != nullptr) return walk(element, target = {}, card);
+        target = info;
         return result;
     }};
 
