@@ -341,7 +341,8 @@ private:
 
     void other(const Piece& piece) {
         const std::string_view text = textOf(piece);
-        if (text.starts_with("<!DOCTYPE") && piece.node == 0) return;
+        const bool isInFront = document_.size() < 2 || piece.offset < document_[1].offset();
+        if (text.starts_with("<!DOCTYPE") && isInFront) return;
         if (roles_[piece.node] == Role::value && piece.isFirstChild) notText(piece, piece.node, "what is no text");
         add(finding_kind::malformed, piece.node, piece.offset, piece.length,
             text.starts_with("</") ? "an end tag, and nothing is open" : "no markup");
@@ -369,24 +370,28 @@ private:
         }
     }
 
+    /// At the top level what is cut is no fault to the reader, nor is a declaration that is wrong.
+    void unfinished(const Piece& last) {
+        const bool isReadAsOne = last.kind == Piece::Kind::comment || last.kind == Piece::Kind::instruction ||
+                                 last.kind == Piece::Kind::cdata || last.kind == Piece::Kind::other;
+        if (isReadAsOne && !bytes_.ends_with('>')) {
+            add(finding_kind::malformed, 0, last.offset, last.length, "it does not end");
+        }
+    }
+
     void fault(const Piece& last) {
-        const bool isCut = !document_.fault() && !document_.isWhole() && document_.end() >= bytes_.size() &&
-                           (last.kind == Piece::Kind::comment || last.kind == Piece::Kind::instruction ||
-                            last.kind == Piece::Kind::other) &&
-                           !bytes_.ends_with('>');
-        if (isCut) add(finding_kind::malformed, 0, last.offset, last.length, "it does not end");
-        if (!document_.fault()) return;
+        if (!document_.fault()) return unfinished(last);
+        const std::size_t open = markup_.open();
+        const std::string within = open != 0 ? quoted(document_[open].name()) : "nothing";
         const std::size_t at = std::min(document_.fault().offset, bytes_.size());
         const std::string_view text = bytes_.substr(at);
         std::string detail = text.empty() ? "the reply ends here" : "the reply breaks here";
-        if (last.node != 0) detail += ", while " + quoted(document_[last.node].name()) + " is open";
+        if (open != 0) detail += ", while " + within + " is open";
         if (text.starts_with("</")) {
-            const std::string_view name =
-                text.substr(2, text.find('>') == std::string_view::npos ? std::string_view::npos : text.find('>') - 2);
-            detail = "the end of " + quoted(excerpt(name)) + ", while " +
-                     (last.node != 0 ? quoted(document_[last.node].name()) : std::string("nothing")) + " is open";
+            const std::string_view name = text.substr(2, text.find('>', 2) - 2);
+            detail = "the end of " + quoted(excerpt(name)) + ", while " + within + " is open";
         }
-        add(finding_kind::malformed, last.node, at, std::min<std::size_t>(text.size(), 1), std::move(detail));
+        add(finding_kind::malformed, open, at, std::min<std::size_t>(text.size(), 1), std::move(detail));
     }
 
     const Document& document_;

@@ -46,6 +46,7 @@ bool Markup::takeFirstChild(std::size_t node) {
 }
 
 bool Markup::next(Piece& piece) {
+    if (at_ >= bytes_.size()) return false;
     piece = {Piece::Kind::rest, open_, at_, 0};
     const auto found = [&](Piece::Kind kind, std::size_t end) {
         piece.kind = kind;
@@ -53,7 +54,6 @@ bool Markup::next(Piece& piece) {
         at_ = end;
         return true;
     };
-    if (at_ >= bytes_.size()) return false;
     const std::string_view rest = bytes_.substr(at_);
     if (at_ >= end_) return found(Piece::Kind::rest, bytes_.size());
     if (rest[0] != '<') return text(piece);

@@ -39,15 +39,17 @@ public:
     /// `bytes` are what the document was made of.
     Markup(const Document& document, std::string_view bytes);
 
-    /// @return false at the end of the text.
+    /// @return false at the end of the text; the piece stays the last one.
     bool next(Piece& piece);
+
+    /// The innermost element that is open behind the last piece.
+    [[nodiscard]] std::size_t open() const { return open_; }
 
     /// The element around one; known as soon as its start tag has been passed.
     [[nodiscard]] std::size_t parentOf(std::size_t node) const { return parents_[node]; }
 
 private:
     [[nodiscard]] std::size_t behind(std::string_view last, std::size_t from) const;
-    [[nodiscard]] std::size_t behindTag(std::size_t from) const;
     bool text(Piece& piece);
     bool startTag(Piece& piece);
     bool takeFirstChild(std::size_t node);

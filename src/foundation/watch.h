@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <functional>
 
+#include "FoundationRecords.h"
 #include "foundation/element.h"
 #include "foundation/kinds.h"
 
@@ -43,7 +44,11 @@ public:
         if (paused_) return;
         if (read.record != nullptr && carriesValue(read)) {
             const bool toOther = read.row.kind == Kind::wordOrNext && read.again;
-            if (!toOther) mark(read.row.field, read.record);
+            if (isSetting(read.row.kind)) {
+                markSetting(read);
+            } else if (!toOther) {
+                mark(read.row.field, read.record);
+            }
             if (toOther || read.row.kind == Kind::textAndCode) mark(read.row.otherField, read.record);
         }
         if (diagnosis_ != nullptr) diagnosis_->read(read);
@@ -77,6 +82,11 @@ private:
         switch (read.row.kind) {
             case Kind::attribute:
                 return read.element.attribute(read.row.word.data()) != nullptr;
+            case Kind::setting:
+            case Kind::decimalSetting:
+                return true;  // Each part of it may be there or not.
+            case Kind::givenAttributes:
+            case Kind::group:
             case Kind::part:
             case Kind::list:
             case Kind::entry:
@@ -89,9 +99,29 @@ private:
         }
     }
 
+    static bool isSetting(Kind kind) noexcept { return kind == Kind::setting || kind == Kind::decimalSetting; }
+
+    void markSetting(const Read& read) noexcept {
+        using Whole = Kavrin::_MinMaxVal;
+        using Decimal = Kavrin::_MinMaxValFloat;
+        static_assert(offsetof(Whole, min) == offsetof(Decimal, min) &&
+                      offsetof(Whole, max) == offsetof(Decimal, max) &&
+                      offsetof(Whole, value) == offsetof(Decimal, value));
+        const auto* const setting = static_cast<const std::byte*>(read.row.field.at(read.record));
+        if (read.element.attribute("min") != nullptr) mark(setting + offsetof(Whole, min));
+        if (read.element.attribute("max") != nullptr) mark(setting + offsetof(Whole, max));
+        if (read.element.text() != nullptr) mark(setting + offsetof(Whole, value));
+    }
+
+    /// A row without a field is for a record that is a single value.
     void mark(const FieldName& name, const void* record) noexcept {
-        if (name.at == nullptr) return;
-        const auto* const field = static_cast<const std::byte*>(name.at(record));
+        if (name.at != nullptr) {
+            mark(static_cast<const std::byte*>(name.at(record)));
+        } else if (name.empty()) {
+            mark(static_cast<const std::byte*>(record));
+        }
+    }
+    void mark(const std::byte* field) noexcept {
         // Entries of lists are stored elsewhere.
         if (std::less<>()(field, record_) || !std::less<>()(field, record_ + size_)) return;
         const auto at = static_cast<std::size_t>(field - record_);
