@@ -31,6 +31,7 @@ struct Piece {
     std::size_t offset;
     std::size_t length;
     bool isFirstChild = false;  ///< of its element; a start tag of its parent
+    bool isCut = false;         ///< its end is not there
 };
 
 /// Goes through a text.
@@ -49,7 +50,9 @@ public:
     [[nodiscard]] std::size_t parentOf(std::size_t node) const { return parents_[node]; }
 
 private:
-    [[nodiscard]] std::size_t behind(std::string_view last, std::size_t from) const;
+    /// A piece that ends with this, which is looked for after so many bytes.
+    bool upTo(std::string_view last, std::size_t from, Piece::Kind kind, Piece& piece);
+    bool upTo(std::size_t end, Piece::Kind kind, Piece& piece);
     bool text(Piece& piece);
     bool startTag(Piece& piece);
     bool takeFirstChild(std::size_t node);
