@@ -78,10 +78,10 @@ inline constexpr auto cardTags = tags<_CustomCardInfo>({
 
 /// One of the two custom cards, by its description.
 inline constexpr ReadRule<_KVConfiguration> customCard{
-    {.field = partOf<&_KVConfiguration::customCard1>,
+    {.field = fieldOf<&_KVConfiguration::customCard1>,
      .kind = Kind::byDescription,
      .word = "Custom 1",
-     .otherField = partOf<&_KVConfiguration::customCard2>,
+     .otherField = fieldOf<&_KVConfiguration::customCard2>,
      .group = described<card>},
     [](Element element, _KVConfiguration& configuration) {
         _CustomCardInfo info{};
@@ -92,9 +92,9 @@ inline constexpr ReadRule<_KVConfiguration> customCard{
         }
         const bool isFirst = convert::equal(info.description, "Custom 1");
         _CustomCardInfo& target = isFirst ? configuration.customCard1 : configuration.customCard2;
-        target = info;
         // Who watches is told of the fields where they belong.
-        if (element.watch() != nullptr) walk(element, target, card);
+        if (element.watch() != nullptr) return walk(element, target = {}, card);
+        target = info;
         return result;
     }};
 

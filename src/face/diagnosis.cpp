@@ -4,6 +4,7 @@
 #include <cstring>
 #include <map>
 #include <ranges>
+#include <set>
 #include <span>
 #include <utility>
 
@@ -66,11 +67,26 @@ std::size_t roomIn(const Field& record) {
 
 /// A text as it is told of: no longer than a line.
 std::string excerpt(std::string_view text) {
-    constexpr std::size_t longest = 60;
-    return std::string(text.substr(0, longest));
+    std::size_t length = 60;
+    if (text.size() <= length) return std::string(text);
+    while (length > 0 && (static_cast<unsigned char>(text[length]) & 0xC0U) == 0x80) --length;  // inside a character
+    return std::string(text.substr(0, length));
 }
 
 std::string quoted(std::string_view name) { return joined({"\"", name, "\""}); }
+
+/// Values that have a record in kvjxml.hpp alone: the message, the name that its table has for the field, and the one
+/// that hosts have.
+constexpr struct {
+    std::string_view message;
+    std::string_view name;
+    std::string_view own;
+} ownFields[] = {
+    {"cards_until_cleaning", "", "kvjxml::cleaning_count::cards"},
+    {"laminator_response", "response", "kvjxml::laminator_answer::response"},
+    {"nonce", "nonce", "kvjxml::nonce_text::nonce"},
+    {"printer_key", "printer_interim_key", "kvjxml::printer_interim_key::key"},
+};
 
 // ---- Where things are ----
 
@@ -89,8 +105,13 @@ std::vector<std::uint32_t> parentsIn(const Document& document) {
 /// Finds out where candidates are, in one pass from the first to the last.
 class Places {
 public:
-    Places(const Document& document, std::string_view bytes, std::span<const std::uint32_t> parents)
-        : document_(document), bytes_(bytes), parents_(parents) {}
+    Places(const Document& document, std::string_view bytes, std::span<const std::uint32_t> parents,
+           const Message& message)
+        : document_(document),
+          bytes_(bytes),
+          parents_(parents),
+          message_(message),
+          markLength_(document.hasByteOrderMark() ? characters::markLength : 0) {}
 
     finding place(Candidate&& candidate) {
         finding found;
@@ -101,7 +122,7 @@ public:
         move(found);
         found.path = pathOf(candidate.node);
         if (!candidate.name.empty()) found.path += "/@" + std::string(candidate.name);
-        found.field = fieldName(candidate.field);
+        if (candidate.row != nullptr) found.field = nameOf(candidate.row->field);
         found.text = std::move(candidate.text);
         found.became = std::move(candidate.became);
         found.detail = std::move(candidate.detail);
@@ -115,17 +136,19 @@ public:
             std::string& step = steps.emplace_back(document_[node].name());
             if (const std::size_t place = placeAmongSiblings(node)) step += "[" + std::to_string(place) + "]";
         }
+        if (steps.empty()) return "/";
         std::string path = node == 0 ? "" : "/";  // of one that is deeper the last steps
         for (const std::string& step : steps | std::views::reverse) path += "/" + step;
         return path;
     }
 
 private:
-    static std::string fieldName(const FieldName& field) {
-        if (field.empty()) return {};
+    [[nodiscard]] std::string nameOf(const FieldName& field) const {
+        for (const auto& [message, name, own] : ownFields) {
+            if (message == message_.name && name == field.name) return std::string(own);
+        }
         const KnownField known = knownField(field);
-        const std::string_view record = known.record != nullptr ? known.record->name : field.record;
-        return std::string(record) + "::" + std::string(field.name);
+        return known ? std::string(known.record->name).append("::").append(field.name) : std::string();
     }
 
     /// From 1, among those of the same name; 0 when there is no other.
@@ -152,15 +175,11 @@ private:
     }
 
     void move(finding& found) {
-        if (found.offset < at_) {
-            at_ = 0;
-            line_ = column_ = 1;
-        }
         for (; at_ < std::min(found.offset, bytes_.size()); ++at_) {
             if (bytes_[at_] == '\n') {
                 ++line_;
                 column_ = 1;
-            } else if ((static_cast<unsigned char>(bytes_[at_]) & 0xC0U) != 0x80) {
+            } else if (at_ >= markLength_ && (static_cast<unsigned char>(bytes_[at_]) & 0xC0U) != 0x80) {
                 ++column_;
             }
         }
@@ -171,6 +190,8 @@ private:
     const Document& document_;
     std::string_view bytes_;
     std::span<const std::uint32_t> parents_;
+    const Message& message_;
+    std::size_t markLength_;  ///< of the byte-order mark in front, which nobody sees
     std::size_t at_ = 0;
     std::size_t line_ = 1;
     std::size_t column_ = 1;
@@ -231,7 +252,7 @@ std::string decoded(std::string_view reference) {
 class Between {
 public:
     Between(const Document& document, std::string_view bytes, std::span<const std::uint32_t> parents,
-            const std::vector<Role>& roles, std::size_t root, std::vector<Candidate>& candidates)
+            const Roles& roles, std::size_t root, Candidates& candidates)
         : document_(document),
           bytes_(bytes),
           parents_(parents),
@@ -258,12 +279,12 @@ private:
     }
 
     Candidate& add(finding_kind kind, std::size_t node, std::size_t offset, std::size_t length, std::string detail) {
-        return candidates_.emplace_back(Candidate{.kind = kind,
-                                                  .node = node,
-                                                  .text = excerpt(bytes_.substr(offset, length)),
-                                                  .detail = std::move(detail),
-                                                  .offset = offset,
-                                                  .length = length});
+        return candidates_.add({.kind = kind,
+                                .node = node,
+                                .text = excerpt(bytes_.substr(offset, length)),
+                                .detail = std::move(detail),
+                                .offset = offset,
+                                .length = length});
     }
 
     void encoding(const Piece& piece) {
@@ -271,17 +292,12 @@ private:
         for (std::size_t at = firstOutsideUtf8(whole, piece.offset); at < whole.size();) {
             std::size_t end = at + 1;
             while (end < whole.size() && firstOutsideUtf8(whole.substr(0, end + 1), end) == end) ++end;
-            if (isFull()) return;
             add(finding_kind::encoding, piece.node, at, end - at, "not UTF-8");
             at = firstOutsideUtf8(whole, end);
         }
     }
 
-    /// A hostile reply could take any time.
-    [[nodiscard]] bool isFull() const { return candidates_.size() > 2 * Findings::most; }
-
     void look(const Piece& piece) {
-        if (isFull()) return;
         switch (piece.kind) {
             case Piece::Kind::startTag:
                 return startTag(piece);
@@ -303,21 +319,22 @@ private:
 
     void notText(const Piece& piece, std::size_t node, std::string_view what) {
         const char* const value = document_[node].text();
-        candidates_.emplace_back(Candidate{.kind = finding_kind::not_text,
-                                           .node = node,
-                                           .text = excerpt(textOf(piece)),
-                                           .became = value == nullptr ? std::string() : excerpt(value),
-                                           .detail = std::string(what) + " was read as the value"});
+        candidates_.add({.kind = finding_kind::not_text,
+                         .node = node,
+                         .row = roles_.rowOf(node),
+                         .text = excerpt(textOf(piece)),
+                         .became = value == nullptr ? std::string() : excerpt(value),
+                         .detail = std::string(what) + " was read as the value"});
     }
 
     void startTag(const Piece& piece) {
         const std::size_t parent = parents_[piece.node];
         if (parent == 0 && piece.node != root_) {
             add(finding_kind::ignored, piece.node, piece.offset, piece.length, "an element beside the message");
-        } else if (roles_[parent] == Role::value && roles_[piece.node] == Role::unread) {
+        } else if (roles_[parent] == Role::value) {
             if (piece.isFirstChild) {
                 notText(piece, parent, "the name of an element");
-            } else {
+            } else if (roles_[piece.node] == Role::unread) {
                 add(finding_kind::ignored, piece.node, piece.offset, piece.length, "an element beside a value");
             }
         }
@@ -353,7 +370,8 @@ private:
 
     void other(const Piece& piece) {
         const std::string_view text = textOf(piece);
-        if (text.starts_with("<!DOCTYPE") && piece.node == 0) return;
+        const bool isInFront = document_.size() < 2 || piece.offset < document_[1].offset();
+        if (text.starts_with("<!DOCTYPE") && isInFront) return;
         if (roles_[piece.node] == Role::value && piece.isFirstChild) notText(piece, piece.node, "what is no text");
         add(finding_kind::malformed, piece.node, piece.offset, piece.length,
             text.starts_with("</") ? "an end tag, and nothing is open" : "no markup");
@@ -369,62 +387,82 @@ private:
     void references(const Piece& piece) {
         const std::string_view text = textOf(piece);
         for (std::size_t at = text.find('&'); at != std::string_view::npos; at = text.find('&', at + 1)) {
-            const std::string_view reference = text.substr(at);
+            constexpr std::size_t longest = 64;
+            const std::string_view reference = text.substr(at, longest);
             if (isRight(reference)) continue;
             const std::size_t semicolon = reference.substr(0, 16).find(';');
             const std::size_t length = semicolon == std::string_view::npos ? 1 : semicolon + 1;
-            if (isFull()) return;
             Candidate& found = add(finding_kind::reference, piece.node, piece.offset + at, length, {});
-            found.offset = found.length = 0;
-            found.became = decoded(reference.substr(0, 64));
+            found.row = roles_.rowOf(piece.node);
+            found.offset = Candidate::atElement;
+            found.became = decoded(reference);
             found.detail = found.became.empty() ? "nothing became of it" : "it is no reference to a character";
         }
     }
 
     void fault(const Piece& last) {
-        const bool isCut = !document_.fault() && !document_.isWhole() && document_.end() >= bytes_.size() &&
-                           (last.kind == Piece::Kind::comment || last.kind == Piece::Kind::instruction ||
-                            last.kind == Piece::Kind::other) &&
-                           !bytes_.ends_with('>');
-        if (isCut) add(finding_kind::malformed, 0, last.offset, last.length, "it does not end");
-        if (!document_.fault()) return;
+        // At the top level what is cut is no fault to the reader.
+        if (!document_.fault()) {
+            if (last.isCut) add(finding_kind::malformed, 0, last.offset, last.length, "it does not end");
+            return;
+        }
+        const std::size_t open = markup_.open();
+        const std::string within = open != 0 ? quoted(document_[open].name()) : "nothing";
         const std::size_t at = std::min(document_.fault().offset, bytes_.size());
         const std::string_view text = bytes_.substr(at);
         std::string detail = text.empty() ? "the reply ends here" : "the reply breaks here";
-        if (last.node != 0) detail += ", while " + quoted(document_[last.node].name()) + " is open";
+        if (open != 0) detail += ", while " + within + " is open";
         if (text.starts_with("</")) {
-            const std::string_view name =
-                text.substr(2, text.find('>') == std::string_view::npos ? std::string_view::npos : text.find('>') - 2);
-            detail = "the end of " + quoted(excerpt(name)) + ", while " +
-                     (last.node != 0 ? quoted(document_[last.node].name()) : std::string("nothing")) + " is open";
+            const std::string_view name = text.substr(2, text.find('>', 2) - 2);
+            detail = "the end of " + quoted(excerpt(name)) + ", while " + within + " is open";
         }
-        add(finding_kind::malformed, last.node, at, std::min<std::size_t>(text.size(), 1), std::move(detail));
+        add(finding_kind::malformed, open, at, std::min<std::size_t>(text.size(), 1), std::move(detail));
     }
 
     const Document& document_;
     std::string_view bytes_;
     std::span<const std::uint32_t> parents_;
     Markup markup_;
-    const std::vector<Role>& roles_;
+    const Roles& roles_;
     std::size_t root_;
-    std::vector<Candidate>& candidates_;
+    Candidates& candidates_;
 };
 
-/// Sorts what was found by its place, and tells where that is.
-void tell(std::vector<Candidate>& candidates, Places& places, const Document& document, std::string_view bytes,
-          Findings& findings) {
-    for (Candidate& candidate : candidates) {
-        if (candidate.length != 0 || candidate.node == 0) continue;
-        candidate.offset = document[candidate.node].offset();
-        candidate.length = endOfTag(bytes, candidate.offset) - candidate.offset;
+/// Of a value that is no text only that is told: what it became is a matter of luck.
+void dropValuesOf(std::vector<Candidate>& candidates) {
+    std::set<std::size_t> notText;
+    for (const Candidate& candidate : candidates) {
+        if (candidate.kind == finding_kind::not_text) notText.insert(candidate.node);
     }
-    std::ranges::stable_sort(candidates, {}, &Candidate::offset);
-    for (Candidate& candidate : candidates) {
-        if (findings.all.size() == Findings::most) {
-            ++findings.omitted;
-        } else {
-            findings.all.push_back(places.place(std::move(candidate)));
+    std::erase_if(candidates, [&](const Candidate& candidate) {
+        switch (candidate.kind) {
+            case finding_kind::unknown_word:
+            case finding_kind::not_a_number:
+            case finding_kind::trailing_text:
+            case finding_kind::out_of_range:
+            case finding_kind::clamped:
+            case finding_kind::text_cut:
+                return notText.contains(candidate.node);
+            default:
+                return false;
         }
+    });
+}
+
+/// Sorts what was found by its place, and tells where that is.
+void tell(Candidates& candidates, Places& places, const Document& document, std::string_view bytes,
+          Findings& findings) {
+    for (Candidate& candidate : candidates.all) {
+        if (candidate.offset != Candidate::atElement) continue;
+        candidate.offset = document[candidate.node].offset();
+        if (candidate.node != 0) candidate.length = endOfTag(bytes, candidate.offset) - candidate.offset;
+    }
+    std::ranges::stable_sort(candidates.all, {}, &Candidate::offset);
+    const std::size_t told = std::min(candidates.all.size(), Findings::most);
+    findings.omitted = candidates.omitted + candidates.all.size() - told;
+    findings.all.reserve(told);
+    for (Candidate& candidate : std::span(candidates.all).first(told)) {
+        findings.all.push_back(places.place(std::move(candidate)));
     }
 }
 
@@ -437,36 +475,33 @@ Diagnosis::Diagnosis(const Document& document, std::string_view bytes, bool isWh
       root_(root),
       message_(message),
       findings_(findings),
-      roles_(document.size() + 1),
+      roles_(document),
       isPlain_(document.isPlain() && isWhole),
       room_(roomIn(message.record)) {
-    roles_[root.number()] = Role::around;
+    roles_.set(root.number(), Role::around);
 }
 
 void Diagnosis::read(const Read& read) {
     const Role role = roleOf(read.row);
-    roles_[read.element.number()] = role;
+    roles_.set(read.element.number(), role, &read.row);
     const bool hasElements = !read.element.children().empty();
     isPlain_ &= role == Role::value ? !hasElements : hasElements || read.element.text() == nullptr;
-    if (candidates_.size() > 2 * Findings::most) return;
     checkValue(read, candidates_);
     if (read.row.kind == Kind::entry && room_ != 0 && ++entries_ > room_) {
-        candidates_.push_back({.kind = finding_kind::beyond_capacity,
-                               .node = read.element.number(),
-                               .detail = "the record of the named operation has room for " + std::to_string(room_)});
+        candidates_.add({.kind = finding_kind::beyond_capacity,
+                         .node = read.element.number(),
+                         .detail = "the record of the named operation has room for " + std::to_string(room_)});
     }
 }
 
 void Diagnosis::skip(Element element) {
-    roles_[element.number()] = Role::skipped;
-    if (candidates_.size() > 2 * Findings::most) return;
-    candidates_.push_back(
-        {.kind = finding_kind::unknown_element, .node = element.number(), .text = excerpt(element.name())});
+    roles_.set(element.number(), Role::skipped);
+    candidates_.add({.kind = finding_kind::unknown_element, .node = element.number(), .text = excerpt(element.name())});
 }
 
 void Diagnosis::finish() {
     // In most replies there is nothing to be found.
-    if (isPlain_ && candidates_.empty()) return;
+    if (isPlain_ && candidates_.all.empty()) return;
     const auto parents = parentsIn(document_);
     if (!isPlain_) Between(document_, bytes_, parents, roles_, root_.number(), candidates_).all();
     const auto namesTo = [&](std::size_t node) {
@@ -477,7 +512,8 @@ void Diagnosis::finish() {
         return names;
     };
     // What another reader of the same reply knows is not unknown.
-    std::erase_if(candidates_, [&](Candidate& candidate) {
+    dropValuesOf(candidates_.all);
+    std::erase_if(candidates_.all, [&](Candidate& candidate) {
         if (candidate.kind != finding_kind::unknown_element) return false;
         const auto names = namesTo(candidate.node);
         const auto around = std::span(names).first(names.size() - 1);
@@ -491,17 +527,17 @@ void Diagnosis::finish() {
         if (!best.empty()) candidate.detail = "did you mean " + quoted(best) + "?";
         return false;
     });
-    Places places(document_, bytes_, parents);
+    Places places(document_, bytes_, parents, message_);
     tell(candidates_, places, document_, bytes_, findings_);
 }
 
 void diagnoseWithout(const Document& document, std::string_view bytes, const Message& message, Findings& findings) {
-    std::vector<Candidate> candidates;
-    std::vector<Role> roles(document.size() + 1);
+    Candidates candidates;
+    const Roles roles(document);
     const auto parents = parentsIn(document);
     Between(document, bytes, parents, roles, 0, candidates).all();
     // Elements beside the message are all there are.
-    std::erase_if(candidates, [](const Candidate& candidate) { return candidate.kind == finding_kind::ignored; });
+    std::erase_if(candidates.all, [](const Candidate& candidate) { return candidate.kind == finding_kind::ignored; });
     std::string_view first;
     std::size_t node = 0;
     for (const Element element : document.top().children()) {
@@ -510,12 +546,12 @@ void diagnoseWithout(const Document& document, std::string_view bytes, const Mes
         break;
     }
     const auto best = nearest(first, std::span(&message, 1), [](const Message& one) { return one.root; });
-    candidates.push_back({.kind = finding_kind::unknown_message,
-                          .node = node,
-                          .text = excerpt(first),
-                          .detail = best.empty() || best == first ? quoted(message.root) + " is not in the reply"
-                                                                  : "did you mean " + quoted(best) + "?"});
-    Places places(document, bytes, parents);
+    candidates.add({.kind = finding_kind::unknown_message,
+                    .node = node,
+                    .text = excerpt(first),
+                    .detail = best.empty() || best == first ? quoted(message.root) + " is not in the reply"
+                                                            : "did you mean " + quoted(best) + "?"});
+    Places places(document, bytes, parents, message);
     tell(candidates, places, document, bytes, findings);
 }
 

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "face/findings.h"
@@ -21,15 +22,37 @@ namespace kvj {
 /// Something found about an element; its place is known only at the end.
 struct Candidate {
     kvjxml::finding_kind kind;
-    std::size_t node;         ///< of the element, or of the innermost one that is open
-    std::string_view name{};  ///< of the attribute that it is about
-    FieldName field{};
+    std::size_t node;                  ///< of the element, or of the innermost one that is open
+    std::string_view name{};           ///< of the attribute that it is about
+    const Description* row = nullptr;  ///< of the field that it is about; null for none
     std::string text{};
     std::string became{};
     std::string detail{};
-    /// The place of the fault itself; without a length that of the element's start tag.
-    std::size_t offset = 0;
+    /// The place of the fault itself; without one that of the element's start tag.
+    std::size_t offset = atElement;
     std::size_t length = 0;
+
+    static constexpr auto atElement = static_cast<std::size_t>(-1);
+};
+
+/// A hostile reply could fill any memory with them, and take any time.
+class Candidates {
+public:
+    /// A new one; beyond the most that are kept it is counted, and goes to nobody.
+    Candidate& add(Candidate candidate) {
+        if (all.size() < most) return all.emplace_back(std::move(candidate));
+        ++omitted;
+        return spare_ = std::move(candidate);
+    }
+
+    std::vector<Candidate> all;
+    std::size_t omitted = 0;
+
+private:
+    /// More than are told, since some turn out to be none.
+    static constexpr std::size_t most = 2 * Findings::most;
+
+    Candidate spare_{};
 };
 
 /// What a walk made of each element.
@@ -39,6 +62,23 @@ enum class Role : std::uint8_t {
     around,   ///< elements inside are read
     value,    ///< its first child is read
     bare,     ///< its attributes are read, or nothing at all
+};
+
+/// The role of each element, and the row that reads it.
+class Roles {
+public:
+    explicit Roles(const Document& document) : roles_(document.size() + 1), rows_(document.size() + 1) {}
+
+    void set(std::size_t node, Role role, const Description* row = nullptr) {
+        roles_[node] = role;
+        rows_[node] = row;
+    }
+    [[nodiscard]] Role operator[](std::size_t node) const { return roles_[node]; }
+    [[nodiscard]] const Description* rowOf(std::size_t node) const { return rows_[node]; }
+
+private:
+    std::vector<Role> roles_;
+    std::vector<const Description*> rows_;
 };
 
 class Diagnosis final : public Watch::Diagnosis {
@@ -60,9 +100,9 @@ private:
     Element root_;
     const Message& message_;
     Findings& findings_;
-    std::vector<Role> roles_;
+    Roles roles_;
     bool isPlain_;  ///< there is nothing between the elements that was not read
-    std::vector<Candidate> candidates_;
+    Candidates candidates_;
     std::size_t room_;         ///< of a list in the named operation's record; 0 when it has none
     std::size_t entries_ = 0;  ///< of that list
 };

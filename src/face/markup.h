@@ -32,6 +32,7 @@ struct Piece {
     std::size_t offset;
     std::size_t length;
     bool isFirstChild = false;  ///< of its element; a start tag of its parent
+    bool isCut = false;         ///< its end is not there
 };
 
 /// Goes through a text.
@@ -40,12 +41,16 @@ public:
     /// `bytes` are what the document was made of.
     Markup(const Document& document, std::string_view bytes, std::span<const std::uint32_t> parents);
 
-    /// @return false at the end of the text.
+    /// @return false at the end of the text; the piece stays the last one.
     bool next(Piece& piece);
 
+    /// The innermost element that is open behind the last piece.
+    [[nodiscard]] std::size_t open() const { return open_; }
+
 private:
-    [[nodiscard]] std::size_t behind(std::string_view last, std::size_t from) const;
-    [[nodiscard]] std::size_t behindTag(std::size_t from) const;
+    /// A piece that ends with this, which is looked for after so many bytes.
+    bool upTo(std::string_view last, std::size_t from, Piece::Kind kind, Piece& piece);
+    bool upTo(std::size_t end, Piece::Kind kind, Piece& piece);
     bool text(Piece& piece);
     bool startTag(Piece& piece);
     bool takeFirstChild(std::size_t node);

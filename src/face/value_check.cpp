@@ -175,8 +175,9 @@ Decimal decimalIn(std::string_view text) {
 
 class Check {
 public:
-    Check(const Read& read, std::vector<Candidate>& candidates) : read_(read), row_(read.row), candidates_(candidates) {
-        if (const char* content = read.element.text()) text_ = content;
+    Check(const Read& read, Candidates& candidates) : read_(read), row_(read.row), candidates_(candidates) {
+        const char* const content = read.element.text();
+        if (content != nullptr && row_.group.empty()) text_ = content;
     }
 
     void all() {
@@ -254,12 +255,12 @@ private:
     }
 
     Candidate& add(finding_kind kind, std::string became, std::string detail) {
-        return candidates_.emplace_back(Candidate{.kind = kind,
-                                                  .node = read_.element.number(),
-                                                  .field = row_.field,
-                                                  .text = std::string(text_.value_or("")),
-                                                  .became = std::move(became),
-                                                  .detail = std::move(detail)});
+        return candidates_.add({.kind = kind,
+                                .node = read_.element.number(),
+                                .row = &row_,
+                                .text = std::string(text_.value_or("")),
+                                .became = std::move(became),
+                                .detail = std::move(detail)});
     }
 
     [[nodiscard]] std::string became(const FieldName& name) const {
@@ -404,10 +405,10 @@ private:
     void panels() {
         const KnownField description = knownField({row_.field.record, "description"});
         const auto stored = description ? storedIn({row_.field.record, "description"}, read_.record) : std::nullopt;
-        if (!stored || !text_) return;
+        if (!stored) return;
         text_ = textOf(*stored->field, stored->record);
-        const std::string whole(*text_);
-        if (!known(whole.c_str())) unknownWord(row_.field);
+        // Without any panel the code stays as it was.
+        if (!text_->empty()) word(row_.field);
     }
 
     [[nodiscard]] bool known(const char* word) const {
@@ -476,7 +477,7 @@ private:
 
     const Read& read_;
     const Description& row_;
-    std::vector<Candidate>& candidates_;
+    Candidates& candidates_;
     std::optional<std::string_view> text_;
 };
 
@@ -492,6 +493,6 @@ KnownField knownField(const FieldName& name) {
     return {};
 }
 
-void checkValue(const Read& read, std::vector<Candidate>& candidates) { Check(read, candidates).all(); }
+void checkValue(const Read& read, Candidates& candidates) { Check(read, candidates).all(); }
 
 }  // namespace kvj

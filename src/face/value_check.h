@@ -3,9 +3,6 @@
 #ifndef KVJXML_FACE_VALUE_CHECK_H
 #define KVJXML_FACE_VALUE_CHECK_H
 
-#include <string>
-#include <vector>
-
 #include "face/diagnosis.h"
 #include "fields/field.h"
 #include "foundation/watch.h"
@@ -21,7 +18,7 @@ struct KnownField {
 KnownField knownField(const FieldName& name);
 
 /// Appends what is wrong with what was read.
-void checkValue(const Read& read, std::vector<Candidate>& candidates);
+void checkValue(const Read& read, Candidates& candidates);
 
 }  // namespace kvj
 

@@ -407,9 +407,10 @@ private:
             if (gap) *to++ = ' ';
             gap = false;
             if (*from == '&') {
+                const bool isNumber = from[1] == '#';
                 char* const behind = decodeReference(from, to, utf8());
                 // One of the five that have names is right in any case.
-                if (judges && (from[1] == '#' || behind == nullptr || behind == from + 1)) document_.isPlain_ = false;
+                if (judges && (isNumber || behind == nullptr || behind == from + 1)) document_.isPlain_ = false;
                 if (behind == nullptr) break;
                 from = behind;
             } else {

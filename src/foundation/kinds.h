@@ -48,7 +48,7 @@ enum class Kind {
     hardwareAddress,  ///< six bytes
     ipAddress,        ///< IPv4
 
-    // ---- Elements around others: `group` ----
+    // ---- Elements around others: `group`. They and what follows carry no value of their own ----
     group,          ///< elements of the same record
     part,           ///< elements of a record inside the record
     list,           ///< a list in an array of the host's; when written, of elements `word`
@@ -91,7 +91,7 @@ enum class WithoutText {
 struct FieldName {
     std::string_view record;
     std::string_view name;
-    /// Its address in a record; null for one bit, which has none, and for what has nothing of its own.
+    /// Its address in a record; null for one bit, which has none.
     const void* (*at)(const void* record){};
     [[nodiscard]] constexpr bool empty() const { return name.empty(); }
 };

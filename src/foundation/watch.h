@@ -41,9 +41,13 @@ public:
         : record_(record), size_(size), carried_(carried), diagnosis_(diagnosis) {}
 
     void read(const Read& read) {
-        if (read.row.field.at != nullptr && read.record != nullptr && (read.result || read.element.text() != nullptr)) {
-            mark(read.row.field, read);
-            if (read.row.otherField.at != nullptr) markOther(read);
+        const Kind kind = read.row.kind;
+        if (read.record != nullptr && kind < Kind::group) {  // Elements around others carry none of their own.
+            if (kind == Kind::attribute) {
+                if (read.element.attribute(read.row.word.data()) != nullptr) mark(read.row.field, read.record);
+            } else if (kind != Kind::setting && kind != Kind::decimalSetting && read.element.text() != nullptr) {
+                markText(read);
+            }
         }
         if (diagnosis_ != nullptr) diagnosis_->read(read);
     }
@@ -51,21 +55,32 @@ public:
         if (diagnosis_ != nullptr) diagnosis_->skip(element);
     }
 
+    /// A field was there. Rules that read several fields mark them by themselves.
+    void mark(const void* field) noexcept {
+        const auto at = reinterpret_cast<std::uintptr_t>(field) - reinterpret_cast<std::uintptr_t>(record_);
+        if (at >= size_) return;  // Entries of lists are stored elsewhere.
+        carried_[at / 8] = static_cast<unsigned char>(carried_[at / 8] | 1U << at % 8);
+    }
+
     /// From here on the fields of another record are marked, one that is copied to the first later.
     void follow(const void* record) noexcept { record_ = record; }
 
 private:
-    void mark(const FieldName& name, const Read& read) noexcept {
-        const auto at =
-            reinterpret_cast<std::uintptr_t>(name.at(read.record)) - reinterpret_cast<std::uintptr_t>(record_);
-        if (at >= size_) return;  // Entries of lists are stored elsewhere.
-        carried_[at / 8] = static_cast<unsigned char>(carried_[at / 8] | 1U << at % 8);
-    }
-    /// A text that is a code as well, or the second of two words.
-    void markOther(const Read& read) noexcept {
-        if (read.row.kind != Kind::wordOrNext || read.again) mark(read.row.otherField, read);
+    /// A text may be a code as well; the second of two words goes to the other field.
+    void markText(const Read& read) noexcept {
+        const bool toOther = read.row.kind == Kind::wordOrNext && read.again;
+        if (!toOther) mark(read.row.field, read.record);
+        if (toOther || read.row.kind == Kind::textAndCode) mark(read.row.otherField, read.record);
     }
 
+    /// A row without a field is for a record that is a single value.
+    void mark(const FieldName& name, const void* record) noexcept {
+        if (name.at != nullptr) {
+            mark(name.at(record));
+        } else if (name.empty()) {
+            mark(record);
+        }
+    }
     const void* record_;
     std::size_t size_;
     unsigned char* carried_;
