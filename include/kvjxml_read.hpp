@@ -203,6 +203,8 @@ const Record& part(const Record& record) noexcept {
 }
 template <auto Field, auto... Nested, class Record>
 const auto& part(const Record& record) noexcept {
+    static_assert(std::is_base_of<typename field_traits<decltype(Field)>::record, Record>::value,
+                  "a field of another record");
     return part<Nested...>(record.*Field);
 }
 
@@ -255,8 +257,6 @@ public:
     /// `has<&MediaStatus::ribbon, &_MediaStatusInfo::type>()`. Of a list ask whether it is empty.
     template <auto Field, auto... Nested>
     [[nodiscard]] bool has() const noexcept {
-        static_assert(std::is_base_of<typename detail::field_traits<decltype(Field)>::record, record>::value,
-                      "a field of another record");
         static_assert(!detail::is_vector<typename detail::field_traits<decltype(Field)>::value>::value,
                       "of a list ask whether it is empty");
         const auto& field = detail::part<Field, Nested...>(record_);

@@ -350,11 +350,9 @@ private:
     void beside(const Piece& piece) {
         const Role role = roles_[piece.node];
         const std::string_view text = textOf(piece);
-        const auto isBlank = [](char c) { return characters::is(c, characters::blank); };
-        const auto* const first = std::ranges::find_if_not(text, isBlank);
-        if (first == text.end()) return;
+        const std::size_t blanks = blanksIn(text);
+        if (blanks == text.size()) return;
         if (piece.node != 0 && role != Role::around && role != Role::value) return;
-        const auto blanks = static_cast<std::size_t>(first - text.begin());
         add(finding_kind::ignored, piece.node, piece.offset + blanks, piece.length - blanks, "a text beside elements");
     }
 
@@ -408,7 +406,7 @@ private:
         }
         const std::size_t open = markup_.open();
         const std::string within = open != 0 ? quoted(document_[open].name()) : "nothing";
-        const std::size_t at = std::min(document_.fault().offset, bytes_.size());
+        const std::size_t at = std::min(markup_.end(), bytes_.size());
         const std::string_view text = bytes_.substr(at);
         std::string detail = text.empty() ? "the reply ends here" : "the reply breaks here";
         if (open != 0) detail += ", while " + within + " is open";

@@ -9,10 +9,6 @@ namespace kvj {
 
 namespace {
 
-bool isBlank(std::string_view text) {
-    return std::ranges::all_of(text, [](char c) { return characters::is(c, characters::blank); });
-}
-
 /// Where a text ends: at the next delimiter that is seen. A character of several bytes takes all of them along, and a
 /// numbered reference everything up to its semicolon.
 std::size_t endOfText(std::string_view bytes, std::size_t from, char delimiter) {
@@ -61,6 +57,16 @@ std::size_t endOfDeclaration(std::string_view bytes, std::size_t from) {
 
 }  // namespace
 
+std::size_t blanksIn(std::string_view text) {
+    std::size_t at = 0;
+    while (at < text.size()) {
+        const bool isMark = text.size() - at >= characters::markLength && characters::beginsWithMark(text.data() + at);
+        if (!isMark && !characters::is(text[at], characters::blank)) break;
+        at += isMark ? characters::markLength : 1;
+    }
+    return at;
+}
+
 std::size_t endOfTag(std::string_view bytes, std::size_t from) {
     for (std::size_t at = from; at < bytes.size(); ++at) {
         at = bytes.find_first_of(">\"'", at);
@@ -90,12 +96,18 @@ bool Markup::next(Piece& piece) {
     if (at_ >= bytes_.size()) return false;
     piece = {Piece::Kind::rest, open_, at_, bytes_.size() - at_};
     const std::string_view rest = bytes_.substr(at_);
+    // The reader noticed only behind its beginning that an end tag is wrong.
+    const bool isEndTag = rest.starts_with("</") && open_ != 0;
+    if (isEndTag && at_ < end_) {
+        const std::size_t last = rest.find('>');
+        if (last != std::string_view::npos && at_ + last >= end_) end_ = at_;
+    }
     if (at_ >= end_) {
         at_ = bytes_.size();
         return true;
     }
     if (rest[0] != '<') return text(piece);
-    if (rest.starts_with("</") && open_ != 0) {
+    if (isEndTag) {
         open_ = parents_[open_];
         return upTo(">", 0, Piece::Kind::endTag, piece);
     }
@@ -126,7 +138,7 @@ bool Markup::text(Piece& piece) {
     const std::string_view content = bytes_.substr(at_, end - at_);
     piece.kind = Piece::Kind::text;
     piece.length = content.size();
-    piece.isFirstChild = !isBlank(content) && takeFirstChild(open_);
+    piece.isFirstChild = blanksIn(content) != content.size() && takeFirstChild(open_);
     at_ = end;
     return true;
 }

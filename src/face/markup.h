@@ -44,6 +44,9 @@ public:
     /// @return false at the end of the text; the piece stays the last one.
     bool next(Piece& piece);
 
+    /// Where the reading stopped.
+    [[nodiscard]] std::size_t end() const { return end_; }
+
     /// The innermost element that is open behind the last piece.
     [[nodiscard]] std::size_t open() const { return open_; }
 
@@ -64,6 +67,9 @@ private:
     std::span<const std::uint32_t> parents_;
     std::vector<bool> hasChild_;
 };
+
+/// The length of the blanks that a text begins with; byte-order marks are some.
+std::size_t blanksIn(std::string_view text);
 
 /// Where a start tag that begins at `from` ends.
 std::size_t endOfTag(std::string_view bytes, std::size_t from);
