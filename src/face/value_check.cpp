@@ -438,7 +438,7 @@ private:
     }
 
     void word(const FieldName& field) {
-        if (!known(read_.element.text())) unknownWord(field);
+        if (!known(text_->data())) unknownWord(field);  // Each of these texts has its terminator.
     }
 
     void truthWord() {
