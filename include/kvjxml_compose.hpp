@@ -259,7 +259,7 @@ public:
         return text_;
     }
     /// A temporary can neither be looked at nor referred to: keep it.
-    const std::string& text() const&& = delete;
+    [[nodiscard]] const std::string& text() const&& = delete;
 
     /// Why there is no text, in the order of the request; empty when there is one.
     [[nodiscard]] const std::vector<problem>& problems() const& noexcept { return problems_; }
