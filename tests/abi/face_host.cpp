@@ -1,6 +1,6 @@
 // A host that reads every sample as every message with kvjxml.hpp, and says what it finds in its records, bit by bit,
-// what it is told of the reply, and the names of codes. Much of that header is compiled into hosts: one of an earlier
-// commit has to find the same with a later library.
+// what it is told of the reply, the names of codes, and the requests that come of it. Much of that header is compiled
+// into hosts: one of an earlier commit has to find the same with a later library.
 #include <cinttypes>
 #include <cstddef>
 #include <cstdint>
@@ -54,7 +54,19 @@ std::uint64_t hashOfRecord(const kvjxml::media_catalogue& record) {
     return hashOfLists(0, record.cards, record.films, record.ribbons, record.laminates);
 }
 
-// ---- What it says ----
+// ---- What it says, each in a line ----
+
+std::string escaped(const std::string& text) {
+    std::string result;
+    for (const char character : text) {
+        if (character == '\n') {
+            result += "\\n";
+        } else {
+            result += character;
+        }
+    }
+    return result;
+}
 
 template <class Message>
 void read(const std::string& file, const std::string& bytes) {
@@ -76,6 +88,48 @@ void read(const std::string& file, const std::string& bytes) {
 template <class... Messages>
 void readAll(const std::string& file, const std::string& bytes) {
     (read<Messages>(file, bytes), ...);
+}
+
+/// What becomes of it, both when changes are refused and when they are not.
+template <class... Asked>
+void compose(const std::string& what, const Asked&... asked) {
+    for (const auto& chosen : {kvjxml::options{}, kvjxml::options{kvjxml::accept_changes{}}}) {
+        const auto request = kvjxml::compose(asked..., chosen);
+        if (request) std::printf("%s %s\n", what.c_str(), escaped(request.text()).c_str());
+        for (const kvjxml::problem& problem : request.problems()) {
+            std::printf("%s %d %s %s %s %s\n", what.c_str(), static_cast<int>(problem.kind), problem.field.c_str(),
+                        problem.path.c_str(), problem.asked.c_str(), problem.sent.c_str());
+        }
+    }
+}
+
+/// Sends back what can be sent back.
+void composeRecords(const std::string& file, const std::string& bytes) {
+    if (const auto can = kvjxml::read<messages::capabilities>(bytes)) compose(file, *can);
+    if (const auto media = kvjxml::read<messages::media>(bytes)) compose(file, *media);
+    if (const auto printer = kvjxml::read<messages::printer_id>(bytes)) {
+        compose(file, *printer);
+        compose(file, *printer, kvjxml::identity_section::printhead_serial);
+    }
+    if (const auto settings = kvjxml::read<messages::configuration>(bytes)) {
+        compose(file, *settings, kvjxml::section::all);
+    }
+    if (const auto keys = kvjxml::read<messages::keys>(bytes)) compose(file, *keys);
+}
+
+void composeCommands() {
+    compose("motor", kvjxml::commands::motor{true, false, 40, 1});
+    compose("motor_mode", kvjxml::commands::motor_mode{2, 5, 12.5F, 0, true});
+    compose("cam", kvjxml::commands::cam{"head", "home"});
+    compose("calibrate", kvjxml::commands::calibrate{1, 0.25F, 3.5F});
+    compose("other", kvjxml::commands::other{"advance", "1", "Y", false});
+    compose("rfid", kvjxml::commands::rfid{"rfid", 1, 2});
+    compose("nonce", kvjxml::handshake::nonce{"5F3A90C1"});
+    compose("action_request", kvjxml::handshake::action_request{"lock_printer", "CX-2", "000417", "5F3A90C1"});
+    compose("action_directive", kvjxml::handshake::action_directive{"CX-2", "000417", "5F3A90C1", "9b1d", 30});
+    compose("passkey", kvjxml::handshake::passkey{" old  one"});
+    compose("passkey_change", kvjxml::handshake::passkey_change{"old one", "new one"});
+    compose("key_change", kvjxml::handshake::key_change{"old", "a0", "a1", "d0", "d1", "c0", "c1", true, true, true});
 }
 
 void say(const char* field, int code, std::string_view word) {
@@ -111,6 +165,8 @@ int main(int, char** arguments) {
                 messages::laminator_response, messages::nonce, messages::host_keys, messages::printer_key,
                 messages::secure_directive, messages::secure_request, messages::keys, messages::key_changes,
                 messages::passkey>(entry.path().filename().string(), bytes);
+        composeRecords(entry.path().filename().string(), bytes);
     }
+    composeCommands();
     nameCodes();
 }
