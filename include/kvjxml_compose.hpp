@@ -40,9 +40,9 @@
 #include "IdentityRecords.h"
 #include "SecurityRecords.h"
 #include "kvjxml_arguments.hpp"
-#include "kvjxml_export.h"
 #include "kvjxml_problem.hpp"
 #include "kvjxml_records.hpp"
+#include "kvjxml_v1.h"
 
 namespace kvjxml {
 inline namespace v1 {
@@ -259,7 +259,7 @@ public:
         return text_;
     }
     /// A temporary can neither be looked at nor referred to: keep it.
-    const std::string& text() const&& = delete;
+    [[nodiscard]] const std::string& text() const&& = delete;
 
     /// Why there is no text, in the order of the request; empty when there is one.
     [[nodiscard]] const std::vector<problem>& problems() const& noexcept { return problems_; }
@@ -325,71 +325,20 @@ struct buffer {
 
 namespace detail {
 
-/// Characters of either side.
-struct view {
-    const char* characters;
-    std::size_t size;
-};
-
-struct request {
-    const char* name;
-    const void* record;
-    long sections;
-    options chosen;
-    bool whole;         ///< of a printer's identity: all of it
-    const view* texts;  ///< those that are passed as arguments
-    std::size_t text_count;
-};
-
 struct cards {
     const Kavrin::_CardInfo* const* first;
     std::size_t count;
 };
 
-/// Where a text is written; see the library's Room.
-struct room {
-    char* characters;
-    std::size_t capacity;
-    char* (*more)(void* host, std::size_t capacity);
-    void* host;
-};
-
-struct found {
-    int kind;
-    view field;
-    view path;
-    view asked;
-    view sent;
-};
-
-/// Who is told of problems; false when there is no memory for them.
-struct listener {
-    bool (*report)(void* host, const found* problem);
-    void* host;
-};
-
-enum class result : int { composed, refused, no_memory, no_request };
-
-}  // namespace detail
-
-extern "C" {
-/// Composes `request` into `room`. For the functions below.
-/// @param size  gets the size of the text
-KVJXML_API detail::result kvjxml_v1_compose(const detail::request* request, const detail::room* room,
-                                            const detail::listener* listener, std::size_t* size) noexcept;
-}
-
-namespace detail {
-
-inline bool keep(void* host, const found* problem) noexcept {
-    const auto text = [](const view& characters) { return std::string(characters.characters, characters.size); };
+inline int keep(void* host, const kvjxml_v1_problem* problem) noexcept {
+    const auto text = [](const kvjxml_v1_characters& it) { return std::string(it.first, it.size); };
     try {
         static_cast<std::vector<v1::problem>*>(host)->push_back({static_cast<problem_kind>(problem->kind),
                                                                  text(problem->field), text(problem->path),
                                                                  text(problem->asked), text(problem->sent)});
-        return true;
+        return 1;
     } catch (...) {
-        return false;
+        return 0;
     }
 }
 
@@ -403,25 +352,24 @@ inline char* grow(void* host, std::size_t capacity) noexcept {
 }
 
 /// @return the size of the text
-inline std::size_t run(const request& asked, const room& where, std::vector<problem>& problems) {
+inline std::size_t run(const kvjxml_v1_request& asked, const kvjxml_v1_room& where, std::vector<problem>& problems) {
     std::size_t size = 0;
-    const listener listens{keep, &problems};
-    switch (kvjxml_v1_compose(&asked, &where, &listens, &size)) {
-        case result::composed:
+    const kvjxml_v1_listener listener{keep, &problems};
+    switch (kvjxml_v1_compose(&asked, &where, &listener, &size)) {
+        case kvjxml_v1_composed:
             return size;
-        case result::refused:
+        case kvjxml_v1_refused:
             return 0;
-        case result::no_request:
+        case kvjxml_v1_unknown_request:
             problems.push_back({problem_kind::no_request, {}, {}, asked.name, {}});
             return 0;
-        case result::no_memory:
-            break;
+        default:
+            throw std::bad_alloc();
     }
-    throw std::bad_alloc();
 }
 
 struct in_string {
-    composed operator()(const request& asked) const {
+    composed operator()(const kvjxml_v1_request& asked) const {
         constexpr std::size_t usual = 1024;
         std::string text(usual, '\0');
         std::vector<problem> problems;
@@ -432,7 +380,7 @@ struct in_string {
 };
 
 struct in_buffer {
-    composed_in operator()(const request& asked) const {
+    composed_in operator()(const kvjxml_v1_request& asked) const {
         std::vector<problem> problems;
         const std::size_t size = run(asked, {where.characters, where.size, nullptr, nullptr}, problems);
         const bool fits = size <= where.size;
@@ -445,15 +393,33 @@ struct in_buffer {
 
 inline const char* argument(const std::string& text) noexcept { return text.empty() ? nullptr : text.c_str(); }
 
+inline kvjxml_v1_request request(const char* name, const void* record, const options& chosen) noexcept {
+    kvjxml_v1_request asked{};
+    asked.name = name;
+    asked.record = record;
+    asked.part = static_cast<int>(chosen.part);
+    asked.card = static_cast<int>(chosen.card);
+    asked.direct_to_card = chosen.direct_to_card;
+    asked.all_cards = chosen.cards == catalogue_cards::all;
+    asked.accepts_changes = chosen.accepts_changes;
+    return asked;
+}
+
 template <class Run, class Arguments, class... Texts>
 auto ask_with(Run run, const char* name, const Arguments& arguments, const options& chosen, const Texts&... texts) {
-    const std::array<view, sizeof...(Texts)> views{view{texts.data(), texts.size()}...};
-    return run(request{name, &arguments, 0, chosen, false, views.data(), views.size()});
+    const std::array<kvjxml_v1_characters, sizeof...(Texts)> whole{kvjxml_v1_characters{texts.data(), texts.size()}...};
+    kvjxml_v1_request asked = request(name, &arguments, chosen);
+    asked.texts = whole.data();
+    asked.texts_count = whole.size();
+    return run(asked);
 }
 template <class Run, class Record>
 auto ask_for(Run run, const char* name, const Record& record, const options& chosen, long sections = 0,
              bool whole = false) {
-    return run(request{name, &record, sections, chosen, whole, nullptr, 0});
+    kvjxml_v1_request asked = request(name, &record, chosen);
+    asked.sections = sections;
+    asked.whole = whole;
+    return run(asked);
 }
 
 template <class Entry, class Plain>

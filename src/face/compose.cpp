@@ -7,6 +7,7 @@
 #include "foundation/problems.h"
 #include "foundation/request_text.h"
 #include "kvjxml_compose.hpp"
+#include "kvjxml_v1.h"
 #include "media/tables.h"
 #include "messages/request.h"
 
@@ -14,34 +15,32 @@ namespace kvj {
 
 namespace {
 
-using namespace kvjxml::detail;  // what passes between host and library
-
 // Hosts fill theirs; this one is what the table's row takes.
-static_assert(sizeof(cards) == sizeof(media::Cards));
+static_assert(sizeof(kvjxml::detail::cards) == sizeof(media::Cards));
 
-Choices choicesOf(const request& asked) {
-    const auto& [directToCard, part, card, cards, acceptsChanges] = asked.chosen;
+Choices choicesOf(const kvjxml_v1_request& asked) {
     return {.sections = asked.sections,
-            .card = static_cast<int>(card),
-            .mode = static_cast<int>(part),
-            .withoutTransfer = directToCard,
-            .allCards = cards == kvjxml::catalogue_cards::all,
-            .full = asked.whole};
+            .card = asked.card,
+            .mode = asked.part,
+            .withoutTransfer = asked.direct_to_card != 0,
+            .allCards = asked.all_cards != 0,
+            .full = asked.whole != 0};
 }
 
-view viewOf(std::string_view text) { return {text.data(), text.size()}; }
+kvjxml_v1_characters charactersOf(std::string_view text) { return {text.data(), text.size()}; }
 
-result composeText(const request& asked, const room& where, const listener& listens, std::size_t& size) {
+kvjxml_v1_composing composeText(const kvjxml_v1_request& asked, const kvjxml_v1_room& where,
+                                const kvjxml_v1_listener& listener, std::size_t& size) {
     const auto row = std::ranges::find(requests(), asked.name, &Request::name);
-    if (row == requests().end()) return result::no_request;
+    if (row == requests().end()) return kvjxml_v1_unknown_request;
 
     std::vector<std::string_view> texts;
-    texts.reserve(asked.text_count);
-    std::transform(asked.texts, asked.texts + asked.text_count, std::back_inserter(texts),
-                   [](const view& text) { return std::string_view(text.characters, text.size); });
+    texts.reserve(asked.texts_count);
+    std::transform(asked.texts, asked.texts + asked.texts_count, std::back_inserter(texts),
+                   [](const kvjxml_v1_characters& text) { return std::string_view(text.first, text.size); });
     Problems problems(texts);
     RequestText text({where.characters, where.capacity, where.more, where.host},
-                     asked.chosen.accepts_changes ? nullptr : &problems);
+                     asked.accepts_changes != 0 ? nullptr : &problems);
     const bool isWritten = row->write(text.begin(row->root), asked.record, choicesOf(asked));
     size = text.end();
 
@@ -50,22 +49,22 @@ result composeText(const request& asked, const room& where, const listener& list
         found.push_back({kvjxml::problem_kind::nothing_to_send, {}, std::string("/").append(row->root), {}, {}});
     }
     for (const auto& [kind, field, path, value, sent] : found) {
-        const kvjxml::detail::found problem{static_cast<int>(kind), viewOf(field), viewOf(path), viewOf(value),
-                                            viewOf(sent)};
-        if (!listens.report(listens.host, &problem)) return result::no_memory;
+        const kvjxml_v1_problem problem{static_cast<int>(kind), charactersOf(field), charactersOf(path),
+                                        charactersOf(value), charactersOf(sent)};
+        if (listener.report(listener.host, &problem) == 0) return kvjxml_v1_without_memory;
     }
-    return found.empty() ? result::composed : result::refused;
+    return found.empty() ? kvjxml_v1_composed : kvjxml_v1_refused;
 }
 
 }  // namespace
 
 }  // namespace kvj
 
-kvjxml::detail::result kvjxml::kvjxml_v1_compose(const detail::request* request, const detail::room* room,
-                                                 const detail::listener* listener, std::size_t* size) noexcept {
+int kvjxml_v1_compose(const kvjxml_v1_request* request, const kvjxml_v1_room* room, const kvjxml_v1_listener* listener,
+                      size_t* size) {
     try {
         return kvj::composeText(*request, *room, *listener, *size);
     } catch (...) {
-        return detail::result::no_memory;  // Nothing else is thrown.
+        return kvjxml_v1_without_memory;  // Nothing else is thrown.
     }
 }
