@@ -39,7 +39,7 @@ inline constexpr ReadRule<Reading> plain{
 /// with a larger array.
 template <auto Count, auto Array, const auto& Table>
 inline constexpr ReadRule<Reading> list{
-    {.field = fieldOf<Array>, .kind = Kind::list, .group = described<Table>}, [](Element section, Reading& reading) {
+    {.field = partOf<Array>, .kind = Kind::list, .group = described<Table>}, [](Element section, Reading& reading) {
         if (!section) return false;
         if (Room* const room = roomFor(reading.rooms, nameOf<Array>())) return readAll<Table>(section, *room);
         const std::size_t needed = countChildren(section);

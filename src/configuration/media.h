@@ -78,16 +78,16 @@ inline constexpr auto cardTags = tags<_CustomCardInfo>({
 
 /// One of the two custom cards, by its description.
 inline constexpr ReadRule<_KVConfiguration> customCard{
-    {.field = fieldOf<&_KVConfiguration::customCard1>,
+    {.field = partOf<&_KVConfiguration::customCard1>,
      .kind = Kind::byDescription,
      .word = "Custom 1",
-     .otherField = fieldOf<&_KVConfiguration::customCard2>,
+     .otherField = partOf<&_KVConfiguration::customCard2>,
      .group = described<card>},
     [](Element element, _KVConfiguration& configuration) {
         _CustomCardInfo info{};
         bool result = false;
         {
-            const Watch::Pause pause(element);
+            const Unwatched pause(element);
             result = walk(element, info, card);
         }
         const bool isFirst = convert::equal(info.description, "Custom 1");

@@ -44,7 +44,8 @@ enum class Role : std::uint8_t {
 class Diagnosis final : public Watch::Diagnosis {
 public:
     /// All of them outlive it.
-    Diagnosis(const Document& document, std::string_view bytes, Element root, const Message& message,
+    /// @param isWhole  whether the bytes are a whole document and UTF-8.
+    Diagnosis(const Document& document, std::string_view bytes, bool isWhole, Element root, const Message& message,
               Findings& findings);
 
     void read(const Read& read) override;
@@ -60,6 +61,7 @@ private:
     const Message& message_;
     Findings& findings_;
     std::vector<Role> roles_;
+    bool isPlain_;  ///< there is nothing between the elements that was not read
     std::vector<Candidate> candidates_;
     std::size_t room_;         ///< of a list in the named operation's record; 0 when it has none
     std::size_t entries_ = 0;  ///< of that list

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -37,13 +38,10 @@ struct Piece {
 class Markup {
 public:
     /// `bytes` are what the document was made of.
-    Markup(const Document& document, std::string_view bytes);
+    Markup(const Document& document, std::string_view bytes, std::span<const std::uint32_t> parents);
 
     /// @return false at the end of the text.
     bool next(Piece& piece);
-
-    /// The element around one; known as soon as its start tag has been passed.
-    [[nodiscard]] std::size_t parentOf(std::size_t node) const { return parents_[node]; }
 
 private:
     [[nodiscard]] std::size_t behind(std::string_view last, std::size_t from) const;
@@ -58,7 +56,7 @@ private:
     std::size_t end_;
     std::size_t open_ = 0;
     std::size_t count_ = 1;  ///< of elements passed
-    std::vector<std::uint32_t> parents_;
+    std::span<const std::uint32_t> parents_;
     std::vector<bool> hasChild_;
 };
 

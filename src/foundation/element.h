@@ -70,6 +70,11 @@ public:
     /// Who is told what is read from the element; null for nobody.
     [[nodiscard]] Watch* watch() const noexcept { return document_ == nullptr ? nullptr : document_->watch_; }
 
+    /// Of an element of a host's nobody can be told.
+    void watchWith(Watch* watch) const noexcept {
+        if (document_ != nullptr) document_->watch_ = watch;
+    }
+
     /// Its number in the document, in document order; the document itself is 0, and so is an element of a host's.
     [[nodiscard]] std::size_t number() const noexcept {
         return document_ == nullptr || at_ == nullptr ? 0 : static_cast<std::size_t>(node() - document_->nodes_);

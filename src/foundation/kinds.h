@@ -91,7 +91,7 @@ enum class WithoutText {
 struct FieldName {
     std::string_view record;
     std::string_view name;
-    /// Its address in a record; null for one bit, which has none.
+    /// Its address in a record; null for one bit, which has none, and for what has nothing of its own.
     const void* (*at)(const void* record){};
     [[nodiscard]] constexpr bool empty() const { return name.empty(); }
 };
@@ -103,6 +103,9 @@ const void* addressOf(const void* record) {
 
 template <auto Member>
 inline constexpr FieldName fieldOf{nameOfType<RecordOf<Member>>(), nameOf<Member>(), addressOf<Member>};
+/// That of a part or a list, which has nothing of its own: its fields are read one by one.
+template <auto Member>
+inline constexpr FieldName partOf{nameOfType<RecordOf<Member>>(), nameOf<Member>()};
 
 /// A table of words with its name. Two are the same table when they have the same rows in memory, not the same name.
 struct NamedWords {

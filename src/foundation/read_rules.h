@@ -174,7 +174,7 @@ inline constexpr ReadRule<RecordOfTable<Table>> group{
 /// A group of elements, walked with a table of its own into a record inside the record.
 template <auto Member, const auto& Table>
 inline constexpr ReadRule<RecordOf<Member>> part{
-    {.field = fieldOf<Member>, .kind = Kind::part, .group = described<Table>},
+    {.field = partOf<Member>, .kind = Kind::part, .group = described<Table>},
     [](Element element, RecordOf<Member>& record) { return walk(element, record.*Member, Table); }};
 
 /// A record that is a single number.

@@ -125,7 +125,7 @@ inline constexpr WriteRule<RecordOf<Member>> bits{
 /// A list: an element `EntryName` for each entry of an array.
 template <auto Count, auto Array, Literal EntryName, const auto& Entry>
 inline constexpr WriteRule<RecordOf<Array>> list{
-    {.field = fieldOf<Array>,
+    {.field = partOf<Array>,
      .kind = Kind::list,
      .word = literal<EntryName>.characters,
      .group = Entry.description.group},
@@ -144,7 +144,7 @@ inline constexpr WriteRule<RecordOfTable<Table>> group{
 /// A group of elements, composed with a table of its own from a record inside the record.
 template <auto Member, const auto& Table>
 inline constexpr WriteRule<RecordOf<Member>> part{
-    {.field = fieldOf<Member>, .kind = Kind::part, .group = describedWritten<Table>},
+    {.field = partOf<Member>, .kind = Kind::part, .group = describedWritten<Table>},
     [](Parent parent, const char* name, const RecordOf<Member>& record, const Selection& selection) {
         return addGroup(parent, name, record.*Member, Table, selection);
     }};

@@ -31,7 +31,7 @@ struct Catalogue {
 /// A new entry of a list, also for an element with nothing in it.
 template <auto Member, const auto& Table>
 inline constexpr ReadRule<Catalogue> append{
-    {.field = fieldOf<Member>, .kind = Kind::newEntry, .group = described<Table>},
+    {.field = partOf<Member>, .kind = Kind::newEntry, .group = described<Table>},
     [](Element element, Catalogue& catalogue) {
         using Entry = RecordOfTable<Table>;
         if (!element) return false;
