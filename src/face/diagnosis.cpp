@@ -436,10 +436,19 @@ void dropValuesOf(std::vector<Candidate>& candidates) {
 /// Sorts what was found by its place, and tells where that is.
 void tell(Candidates& candidates, Places& places, const Document& document, std::string_view bytes,
           Findings& findings) {
+    // A long tag may be what many are about.
+    std::size_t node = 0;
+    std::size_t offset = 0;
+    std::size_t length = 0;
     for (Candidate& candidate : candidates.all) {
         if (candidate.offset != Candidate::atElement) continue;
-        candidate.offset = document[candidate.node].offset();
-        if (candidate.node != 0) candidate.length = endOfTag(bytes, candidate.offset) - candidate.offset;
+        if (candidate.node != node) {
+            node = candidate.node;
+            offset = document[node].offset();
+            length = node != 0 ? endOfTag(bytes, offset) - offset : 0;
+        }
+        candidate.offset = offset;
+        candidate.length = length;
     }
     std::ranges::stable_sort(candidates.all, {}, &Candidate::offset);
     const std::size_t told = std::min(candidates.all.size(), Findings::most);
