@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstring>
 #include <map>
-#include <ranges>
 #include <set>
 #include <span>
 #include <utility>
@@ -117,15 +116,14 @@ public:
 
     [[nodiscard]] std::string pathOf(std::size_t node) {
         constexpr std::size_t deepest = 64;
-        std::vector<std::string> steps;
-        for (; node != 0 && steps.size() < deepest; node = markup_.parentOf(node)) {
-            std::string& step = steps.emplace_back(document_[node].name());
+        std::string path;
+        for (std::size_t depth = 0; node != 0 && depth < deepest; ++depth) {
+            std::string step = "/" + std::string(document_[node].name());
             if (const std::size_t place = placeAmongSiblings(node)) step += "[" + std::to_string(place) + "]";
+            path.insert(0, step);
+            node = markup_.parentOf(node);
         }
-        if (steps.empty()) return "/";
-        std::string path = node == 0 ? "" : "/";  // of one that is deeper the last steps
-        for (const std::string& step : steps | std::views::reverse) path += "/" + step;
-        return path;
+        return node == 0 && !path.empty() ? path : "/" + path;  // of one that is deeper the last steps
     }
 
 private:

@@ -320,8 +320,8 @@ private:
     }
     template <class Value>
     void clamped() {
-        const Value min = inSetting<Value>("min");
-        const Value max = inSetting<Value>("max");
+        const auto min = inSetting<Value>("min");
+        const auto max = inSetting<Value>("max");
         add(finding_kind::clamped, became(), "its range is " + shortest(min) + " to " + shortest(max));
     }
 
