@@ -11,7 +11,7 @@
 /// - numbered references are characters of UTF-8 always (there they are single bytes in a reply that declares nothing);
 /// - white space is always condensed as TinyXML does by itself, and names begin with letters of ASCII or bytes above
 /// it;
-/// - lists are as long as the reply; a list that stands twice is that of the later place;
+/// - lists are as long as the reply; a list of the capabilities that stands twice is that of the later place;
 /// - every record begins as zeros, so nothing is left of an earlier reply;
 /// - no global is written and no stream, so any number of threads may read whatever they like.
 /// In all else a record is filled as the named operation fills it, see the record's own header.
@@ -98,7 +98,8 @@ struct finding {
     std::size_t column = 0;  ///< In characters, from 1.
     std::size_t offset = 0;  ///< The same place in bytes from the beginning of the reply.
     std::size_t length = 0;  ///< How many bytes of the reply it is about.
-    /// Where it is, as an XPath location path: "/get_job_list/job[2]/uuid", with "/@min" for an attribute.
+    /// Where it is, as an XPath location path: "/get_job_list/job[2]/uuid", with "/@min" for an attribute; "/" for what
+    /// is in no element. Of an element that is very deep the last steps, "//a/b".
     std::string path;
     std::string field;   ///< The field that it is about, "Kavrin::KVGeneralStatus::printerState"; empty for none.
     std::string text;    ///< What the reply says there.

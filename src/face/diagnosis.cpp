@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstring>
 #include <map>
-#include <ranges>
 #include <set>
 #include <span>
 #include <utility>
@@ -131,15 +130,14 @@ public:
 
     [[nodiscard]] std::string pathOf(std::size_t node) {
         constexpr std::size_t deepest = 64;
-        std::vector<std::string> steps;
-        for (; node != 0 && steps.size() < deepest; node = parents_[node]) {
-            std::string& step = steps.emplace_back(document_[node].name());
+        std::string path;
+        for (std::size_t depth = 0; node != 0 && depth < deepest; ++depth) {
+            std::string step = "/" + std::string(document_[node].name());
             if (const std::size_t place = placeAmongSiblings(node)) step += "[" + std::to_string(place) + "]";
+            path.insert(0, step);
+            node = parents_[node];
         }
-        if (steps.empty()) return "/";
-        std::string path = node == 0 ? "" : "/";  // of one that is deeper the last steps
-        for (const std::string& step : steps | std::views::reverse) path += "/" + step;
-        return path;
+        return node == 0 && !path.empty() ? path : "/" + path;  // of one that is deeper the last steps
     }
 
 private:
@@ -450,10 +448,19 @@ void dropValuesOf(std::vector<Candidate>& candidates) {
 /// Sorts what was found by its place, and tells where that is.
 void tell(Candidates& candidates, Places& places, const Document& document, std::string_view bytes,
           Findings& findings) {
+    // A long tag may be what many are about.
+    std::size_t node = 0;
+    std::size_t offset = 0;
+    std::size_t length = 0;
     for (Candidate& candidate : candidates.all) {
         if (candidate.offset != Candidate::atElement) continue;
-        candidate.offset = document[candidate.node].offset();
-        if (candidate.node != 0) candidate.length = endOfTag(bytes, candidate.offset) - candidate.offset;
+        if (candidate.node != node) {
+            node = candidate.node;
+            offset = document[node].offset();
+            length = node != 0 ? endOfTag(bytes, offset) - offset : 0;
+        }
+        candidate.offset = offset;
+        candidate.length = length;
     }
     std::ranges::stable_sort(candidates.all, {}, &Candidate::offset);
     const std::size_t told = std::min(candidates.all.size(), Findings::most);

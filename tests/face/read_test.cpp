@@ -2,6 +2,7 @@
 #include <KVJConfigParser.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <tinyxml.h>
 
 #include <clocale>
 #include <cstdio>
@@ -190,6 +191,14 @@ TEST(Read, TheSampleOfARibbonWritesToNoStreamAndNoGlobal) {
     EXPECT_NE(text(configuration->ribbon.description), "");
     EXPECT_EQ(kvj::tests::contentOf(path), "");
     EXPECT_STREQ(Kavrin::szRibbonName, "mine");
+}
+
+TEST(Read, BlanksAreCondensedWhateverTheHostSetTinyXmlTo) {
+    const bool before = TiXmlBase::IsWhiteSpaceCondensed();
+    TiXmlBase::SetCondenseWhiteSpace(false);
+    const auto nonce = read<messages::nonce>("<nonce>  a \n b  </nonce>");
+    TiXmlBase::SetCondenseWhiteSpace(before);
+    EXPECT_EQ(text(nonce->nonce), "a b");
 }
 
 TEST(Read, NothingPointsToTheBytes) {

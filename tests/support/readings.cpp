@@ -11,7 +11,11 @@ namespace {
 
 void* resize(void* list, std::size_t count) {
     auto& to = *static_cast<ReadList*>(list);
-    to.bytes.resize(count * to.entrySize());
+    try {
+        to.bytes.resize(count * to.entrySize());
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
     return to.bytes.data();
 }
 
