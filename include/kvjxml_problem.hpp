@@ -3,7 +3,9 @@
 #ifndef KVJXML_PROBLEM_HPP
 #define KVJXML_PROBLEM_HPP
 
+#include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace kvjxml {
 inline namespace v1 {
@@ -19,11 +21,21 @@ enum class problem_kind : int {
     no_character,     ///< A text with a control character, or with one that XML does not have.
     read_otherwise,   ///< A text that loses something when it is read: blanks at its ends or in a row, a mark in front.
     holds_nul,        ///< A text with a NUL, which would end it.
-    no_name,          ///< A text that cannot be the name of an element.
+    no_name,          ///< A text that cannot be the name of an element. There is no text, even if changes are accepted.
     missing,          ///< A text that the request cannot do without.
     nothing_to_send,  ///< The request would say nothing. There is no text, even if changes are accepted.
     no_request,       ///< The library that the host runs with is older than its headers and does not know the request.
 };
+
+/// The kind's name, "no-word"; empty for one that this header does not know.
+[[nodiscard]] constexpr std::string_view to_string(problem_kind kind) noexcept {
+    constexpr std::string_view names[] = {"no-word",     "no-bit",   "out-of-range", "sent-as-maximum",
+                                          "digits-lost", "not-utf8", "no-character", "read-otherwise",
+                                          "holds-nul",   "no-name",  "missing",      "nothing-to-send",
+                                          "no-request"};
+    const auto number = static_cast<std::size_t>(kind);
+    return number < sizeof names / sizeof *names ? names[number] : std::string_view();
+}
 
 /// One problem. Texts that are asked or sent can be secrets.
 struct problem {

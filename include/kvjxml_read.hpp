@@ -76,18 +76,20 @@ enum class severity : int {
     error,    ///< A value is not what the printer said.
 };
 
-/// The kind's name, "unknown-word".
+/// The kind's name, "unknown-word"; empty for one that this header does not know.
 [[nodiscard]] constexpr std::string_view to_string(finding_kind kind) noexcept {
     constexpr std::string_view names[] = {
         "malformed",     "encoding",     "unknown-message", "unknown-element", "unknown-word", "not-a-number",
         "trailing-text", "out-of-range", "clamped",         "text-cut",        "no-text",      "not-text",
         "reference",     "attribute",    "repeated",        "beyond-capacity", "ignored"};
-    return names[static_cast<std::size_t>(kind)];
+    const auto number = static_cast<std::size_t>(kind);
+    return number < sizeof names / sizeof *names ? names[number] : std::string_view();
 }
-/// "note", "warning", "error".
+/// "note", "warning", "error"; likewise.
 [[nodiscard]] constexpr std::string_view to_string(severity level) noexcept {
     constexpr std::string_view names[] = {"note", "warning", "error"};
-    return names[static_cast<std::size_t>(level)];
+    const auto number = static_cast<std::size_t>(level);
+    return number < sizeof names / sizeof *names ? names[number] : std::string_view();
 }
 
 /// One thing that was ignored, changed or lost. It holds no view of the reply.

@@ -44,6 +44,12 @@ kvjxml_v1_composing composeText(const kvjxml_v1_request& asked, const kvjxml_v1_
     const bool isWritten = row->write(text.begin(row->root), asked.record, choicesOf(asked));
     size = text.end();
 
+    if (!isWritten && asked.accepts_changes != 0) {
+        // What cannot be sent in any way is refused, with its reasons.
+        kvjxml_v1_request strict = asked;
+        strict.accepts_changes = 0;
+        return composeText(strict, where, listener, size);
+    }
     std::vector<kvjxml::problem> found = problems.all();
     if (!isWritten && found.empty()) {
         found.push_back({kvjxml::problem_kind::nothing_to_send, {}, std::string("/").append(row->root), {}, {}});

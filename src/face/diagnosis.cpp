@@ -402,7 +402,7 @@ private:
             if (last.isCut) add(finding_kind::malformed, 0, last.offset, last.length, "it does not end");
             return;
         }
-        const std::size_t open = markup_.open();
+        const std::size_t open = document_.openAtEnd();
         const std::string within = open != 0 ? quoted(document_[open].name()) : "nothing";
         const std::size_t at = std::min(markup_.end(), bytes_.size());
         const std::string_view text = bytes_.substr(at);

@@ -47,9 +47,6 @@ public:
     /// Where the reading stopped.
     [[nodiscard]] std::size_t end() const { return end_; }
 
-    /// The innermost element that is open behind the last piece.
-    [[nodiscard]] std::size_t open() const { return open_; }
-
 private:
     /// A piece that ends with this, which is looked for after so many bytes.
     bool upTo(std::string_view last, std::size_t from, Piece::Kind kind, Piece& piece);

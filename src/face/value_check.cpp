@@ -294,7 +294,20 @@ private:
             row_.number.onlyNumbers && row_.kind == Kind::number ? "the field stays as it was" : "it counts as 0");
     }
 
+    /// Whether a text is nothing but a few digits, as nearly all numbers are; any field of 32 bits holds them.
+    static std::optional<int> plain(std::string_view text, std::size_t most = 9) {
+        if (text.empty() || text.size() > most) return std::nullopt;
+        int number = 0;
+        for (const char c : text) {
+            if (c < '0' || c > '9') return std::nullopt;
+            number = 10 * number + (c - '0');
+        }
+        return number;
+    }
+
     void whole(const Number& form) {
+        constexpr std::size_t inSixteenBits = 4;
+        if (form.base == Base::decimal && form.bits >= 16 && plain(*text_, form.bits > 16 ? 9 : inSixteenBits)) return;
         const Whole number = wholeIn(*text_, form);
         if (number.used == 0) return noNumber();
         rest(number.used);
@@ -334,6 +347,7 @@ private:
     }
 
     void setting() {
+        if (const auto number = plain(*text_); number && *number == stored<Kavrin::_MinMaxVal>().value) return;
         const Whole number = wholeIn(*text_, {});
         if (number.used == 0) return noNumber();
         rest(number.used);
@@ -365,6 +379,7 @@ private:
             return;
         }
         const std::string_view value = content;
+        if (plain(value)) return;
         const bool isDecimal = row_.kind == Kind::decimalSetting;
         const std::size_t used = isDecimal ? decimalIn(value).used : wholeIn(value, {}).used;
         const bool isHuge = !isDecimal && used != 0 && isBeyondInt(wholeIn(value, {}));

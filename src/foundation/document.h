@@ -95,6 +95,9 @@ public:
     /// comment and the like within one, no reference but to the five characters that have names.
     [[nodiscard]] bool isPlain() const noexcept { return isPlain_; }
 
+    /// The number of the element that was open where the parsing ended; 0 for none.
+    [[nodiscard]] std::size_t openAtEnd() const noexcept { return openAtEnd_; }
+
     /// How many elements there are, the document itself being one.
     [[nodiscard]] std::size_t size() const noexcept { return nodes_ == nullptr ? 0 : nodes_[0].end; }
     [[nodiscard]] Element operator[](std::size_t number) const noexcept;
@@ -130,6 +133,7 @@ private:
     Attribute* attributes_ = nullptr;
     Fault fault_;
     std::size_t end_ = 0;
+    std::size_t openAtEnd_ = 0;
     mutable Watch* watch_ = nullptr;  // Who looks on is no part of what there is.
     bool hasByteOrderMark_ = false;
     bool isWhole_ = false;

@@ -91,6 +91,7 @@ public:
         }
         if (nodes_[0].value == 0) fail(TiXmlBase::TIXML_ERROR_DOCUMENT_EMPTY, at_);
         document_.end_ = offsetOf(at_);
+        document_.openAtEnd_ = open_;
         document_.isWhole_ = !isDamaged_ && at_ == end_ && topElements_ == 1;
         while (open_ != 0) close();
         nodes_[0].end = count_;

@@ -138,8 +138,11 @@ bool addIpAddress(Parent parent, const char* name, unsigned long address) {
 // ---- Arguments ----
 
 Parent addNamed(Parent parent, const char* name, std::string_view field) {
+    Problems* const problems = listener(parent);
+    // Even a host that accepts changes wants XML.
+    if (parent.text() != nullptr && problems == nullptr && (name == nullptr || !isName(name))) return nullptr;
     const Parent element = addTag(parent, name);
-    if (Problems* const problems = element ? listener(parent) : nullptr) {
+    if (problems != nullptr && element) {
         const std::string_view whole = problems->whole(name);
         if (!isName(whole)) problems->found(problem_kind::no_name, whole, name, behind("/", field));
     }
