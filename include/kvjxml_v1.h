@@ -73,6 +73,66 @@ KVJXML_API void kvjxml_v1_findings_at(const struct kvjxml_v1_findings* findings,
                                       struct kvjxml_v1_finding* finding);
 KVJXML_API void kvjxml_v1_findings_release(struct kvjxml_v1_findings* findings);
 
+/// Characters of either side, not terminated.
+struct kvjxml_v1_characters {
+    const char* first;
+    size_t size;
+};
+
+/// What is composed, see kvjxml_compose.hpp.
+struct kvjxml_v1_request {
+    const char* name;    ///< the request's, terminated
+    const void* record;  ///< what it is made of
+    long sections;
+    int part;
+    int card;
+    unsigned char direct_to_card;
+    unsigned char all_cards;
+    unsigned char whole;  ///< of a printer's identity: all of it
+    unsigned char accepts_changes;
+    const struct kvjxml_v1_characters* texts;  ///< those that are passed as arguments, whole
+    size_t texts_count;
+};
+
+/// Where a text is written.
+struct kvjxml_v1_room {
+    char* characters;
+    size_t capacity;
+    /// Makes room for that many characters, the present ones included; null where what does not fit is only counted.
+    /// @return where they are now; null when there is no memory.
+    char* (*more)(void* host, size_t capacity);
+    void* host;
+};
+
+/// What would be sent otherwise than it is asked for. Its texts are there while it is reported.
+struct kvjxml_v1_problem {
+    int kind;
+    struct kvjxml_v1_characters field;
+    struct kvjxml_v1_characters path;
+    struct kvjxml_v1_characters asked;
+    struct kvjxml_v1_characters sent;
+};
+
+/// Who is told of problems.
+struct kvjxml_v1_listener {
+    /// @return 0 when there is no memory for it.
+    int (*report)(void* host, const struct kvjxml_v1_problem* problem);
+    void* host;
+};
+
+enum kvjxml_v1_composing {
+    kvjxml_v1_composed = 0,
+    kvjxml_v1_refused = 1,  ///< the problems were reported
+    kvjxml_v1_without_memory = 2,
+    kvjxml_v1_unknown_request = 3
+};
+
+/// Composes a request.
+/// @param size  gets the size of the text, which may be more than there is room for.
+/// @return a kvjxml_v1_composing.
+KVJXML_API int kvjxml_v1_compose(const struct kvjxml_v1_request* request, const struct kvjxml_v1_room* room,
+                                 const struct kvjxml_v1_listener* listener, size_t* size);
+
 #ifdef __cplusplus
 }
 #endif

@@ -615,7 +615,7 @@ struct words_of<&Kavrin::_WirelessParams::crypto> : one_word_of<configured_ciphe
 /// - Kavrin::_KVConfiguration::errorControl, read from
 ///   - "configuration" / "error_control"
 /// - Kavrin::_KVConfiguration::errorControl, composed of other words as
-///   - "configuration" / "error_control": "none" 0, "high" 2, else "med"
+///   - "configuration" / "error_control": "none" 0, "med" 1, "high" 2, else "med"
 ///
 /// Any other word becomes 2.
 enum class error_control : int {

@@ -21,16 +21,7 @@ bool KVJSetCaps::SetCapabilities(const _Capabilities& caps, wchar_t* out, int ou
 }
 
 bool KVJSetCaps::addCapabilities(TiXmlElement* root, const _Capabilities& caps, int mode) {
-    switch (mode) {
-        case 0:
-            return compose(root, caps, tables::wholeTags, {.directToCard = directToCard_});
-        case 1:
-            return compose(root, caps, tables::magEncoderAlone);
-        case 2:
-            return addInternalEncoderOnly(root, caps.internalEncoder);
-        default:
-            return false;
-    }
+    return tables::addCapabilities(root, caps, mode, directToCard_);
 }
 
 // ---- Sections ----

@@ -74,7 +74,7 @@ inline constexpr ReadRule<List<RecordOfTable<Table>>> firstEntry{{.kind = Kind::
 /// The print system that the printer expects is the one that it is told to use, not the one that it reported.
 inline constexpr WriteRule<_Capabilities> requestedPrintSystem{
     {.kind = Kind::toldWord, .word = "direct_to_card", .otherWord = "retransfer"},
-    [](TiXmlElement* parent, const char* name, const _Capabilities&, const Selection& selection) {
+    [](Parent parent, const char* name, const _Capabilities&, const Selection& selection) {
         return addTag(parent, name, wordOf(printSystemsWritten, selection.directToCard ? 1 : 0));
     }};
 
@@ -82,9 +82,9 @@ inline constexpr WriteRule<_Capabilities> requestedPrintSystem{
 /// as well; it takes a head type only in a request of its own.
 inline constexpr WriteRule<_Capabilities> laminatorWord{
     {.kind = Kind::laminatorWord, .words = named<laminatorTypesWritten>, .otherWord = "notpresent"},
-    [](TiXmlElement* parent, const char* name, const _Capabilities& caps, const Selection&) {
-        return addTag(parent, name,
-                      caps.laminator ? wordOf(laminatorTypesWritten, caps.laminatorType, "") : "notpresent");
+    [](Parent parent, const char* name, const _Capabilities& caps, const Selection&) {
+        return caps.laminator ? addWord(parent, name, laminatorTypesWritten, caps.laminatorType, "", "/laminatorType")
+                              : addTag(parent, name, "notpresent");
     }};
 
 template <auto Count>
@@ -307,12 +307,12 @@ inline constexpr auto encoderAloneTags = tags<_InternalEncoderInfo>({
 });
 
 inline constexpr WriteRule<_InternalEncoderInfo> encoderAloneGroup{
-    {.kind = Kind::group, .group = described<encoderAloneTags>},
-    [](TiXmlElement* parent, const char* name, const _InternalEncoderInfo& info, const Selection&) {
-        TiXmlElement* element = addTag(parent, name);
+    {.field = fieldOf<&Caps::internalEncoder>, .kind = Kind::part, .group = described<encoderAloneTags>},
+    [](Parent parent, const char* name, const _InternalEncoderInfo& info, const Selection&) {
+        const Parent element = addTag(parent, name);
         // Written even when there is nothing to say in it.
         compose(element, info, encoderAloneTags);
-        return element != nullptr;
+        return static_cast<bool>(element);
     }};
 
 inline constexpr auto encoderAlone = tags<_InternalEncoderInfo>({
@@ -321,6 +321,21 @@ inline constexpr auto encoderAlone = tags<_InternalEncoderInfo>({
 });
 
 // clang-format on
+
+/// Adds what a mode asks for: 0 the whole, 1 the magnetic encoder alone, 2 the built-in encoder alone; any other
+/// nothing.
+inline bool addCapabilities(Parent root, const _Capabilities& caps, int mode, bool directToCard) {
+    switch (mode) {
+        case 0:
+            return compose(root, caps, wholeTags, {.directToCard = directToCard});
+        case 1:
+            return compose(root, caps, magEncoderAlone);
+        case 2:
+            return compose(root, caps.internalEncoder, encoderAlone);
+        default:
+            return false;
+    }
+}
 
 }  // namespace kvj::capabilities
 

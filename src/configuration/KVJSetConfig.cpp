@@ -30,7 +30,7 @@ bool KVJSetConfig::addConfiguration(TiXmlElement* root, const _KVConfiguration& 
 // ---- General settings ----
 
 bool KVJSetConfig::addNetworkParams(TiXmlElement* under, const _KVConfiguration& cfg) {
-    return addNetworkParams(addTag(under, "ethernet"), cfg.ethernet);
+    return addNetworkParams(addTag(under, "ethernet").element(), cfg.ethernet);
 }
 
 bool KVJSetConfig::addNetworkParams(TiXmlElement* element, const _NetworkParams& network) {
@@ -38,7 +38,7 @@ bool KVJSetConfig::addNetworkParams(TiXmlElement* element, const _NetworkParams&
 }
 
 bool KVJSetConfig::addWirelessParams(TiXmlElement* under, const _KVConfiguration& cfg) {
-    return addWirelessParams(addTag(under, "ethernet"), cfg.wireless);
+    return addWirelessParams(addTag(under, "ethernet").element(), cfg.wireless);
 }
 
 bool KVJSetConfig::addWirelessParams(TiXmlElement* element, const _WirelessParams& network) {

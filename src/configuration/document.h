@@ -17,7 +17,9 @@ namespace kvj::configuration {
 /// Any other text is the strictest control.
 inline constexpr WordTable errorControls{errorControlHigh, {{"none", errorControlNone}, {"med", errorControlMedium}}};
 /// Any other code is written as "med".
-inline constexpr WordTable errorControlsWritten({{"none", errorControlNone}, {"high", errorControlHigh}});
+inline constexpr WordTable errorControlsWritten({{"none", errorControlNone},
+                                                 {"med", errorControlMedium},
+                                                 {"high", errorControlHigh}});
 
 /// Both directions; any other code is written as "high".
 inline constexpr WordTable usbSpeeds({{"full", usbSpeedFull}, {"high", usbSpeedHigh}});

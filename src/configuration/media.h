@@ -87,7 +87,7 @@ inline constexpr ReadRule<_KVConfiguration> customCard{
         _CustomCardInfo info{};
         bool result = false;
         {
-            const Watch::Pause pause(element);
+            const Unwatched pause(element);
             result = walk(element, info, card);
         }
         const bool isFirst = convert::equal(info.description, "Custom 1");

@@ -12,6 +12,12 @@ inline constexpr WordTable motors(
 
 inline constexpr int ribbonMotor = 2;
 
+/// What a motor is to do.
+inline constexpr WordTable motorModes({{"off", 0}, {"on", 1}, {"warm_up", 2}});
+
+inline constexpr int motorOn = 1;
+inline constexpr int motorWarmUp = 2;
+
 /// The motors that the printer expects a distance for, which is always 0.
 constexpr bool hasDistance(int motor) { return motor == 1 || motor == 3; }
 

@@ -7,6 +7,7 @@
 #include <span>
 #include <utility>
 
+#include "face/joined.h"
 #include "face/markup.h"
 #include "face/nearest.h"
 #include "face/value_check.h"
@@ -71,7 +72,7 @@ std::string excerpt(std::string_view text) {
     return std::string(text.substr(0, length));
 }
 
-std::string quoted(std::string_view name) { return "\"" + std::string(name) + "\""; }
+std::string quoted(std::string_view name) { return joined({"\"", name, "\""}); }
 
 /// Values that have a record in kvjxml.hpp alone: the message, the name that its table has for the field, and the one
 /// that hosts have.
@@ -88,13 +89,26 @@ constexpr struct {
 
 // ---- Where things are ----
 
+/// The element around each.
+std::vector<std::uint32_t> parentsIn(const Document& document) {
+    std::vector<std::uint32_t> parents(document.size() + 1);
+    std::vector<std::size_t> open{0};
+    for (std::size_t node = 1; node < document.size(); ++node) {
+        while (node >= document.endOf(open.back())) open.pop_back();
+        parents[node] = static_cast<std::uint32_t>(open.back());
+        open.push_back(node);
+    }
+    return parents;
+}
+
 /// Finds out where candidates are, in one pass from the first to the last.
 class Places {
 public:
-    Places(const Document& document, std::string_view bytes, const Markup& markup, const Message& message)
+    Places(const Document& document, std::string_view bytes, std::span<const std::uint32_t> parents,
+           const Message& message)
         : document_(document),
           bytes_(bytes),
-          markup_(markup),
+          parents_(parents),
           message_(message),
           markLength_(document.hasByteOrderMark() ? characters::markLength : 0) {}
 
@@ -121,7 +135,7 @@ public:
             std::string step = "/" + std::string(document_[node].name());
             if (const std::size_t place = placeAmongSiblings(node)) step += "[" + std::to_string(place) + "]";
             path.insert(0, step);
-            node = markup_.parentOf(node);
+            node = parents_[node];
         }
         return node == 0 && !path.empty() ? path : "/" + path;  // of one that is deeper the last steps
     }
@@ -137,7 +151,7 @@ private:
 
     /// From 1, among those of the same name; 0 when there is no other.
     std::size_t placeAmongSiblings(std::size_t node) {
-        const std::size_t parent = markup_.parentOf(node);
+        const std::size_t parent = parents_[node];
         if (numbered_.empty()) {
             numbered_.resize(document_.size());
             places_.resize(document_.size());
@@ -173,7 +187,7 @@ private:
 
     const Document& document_;
     std::string_view bytes_;
-    const Markup& markup_;
+    std::span<const std::uint32_t> parents_;
     const Message& message_;
     std::size_t markLength_;  ///< of the byte-order mark in front, which nobody sees
     std::size_t at_ = 0;
@@ -235,11 +249,12 @@ std::string decoded(std::string_view reference) {
 /// Looks at the pieces of a text.
 class Between {
 public:
-    Between(const Document& document, std::string_view bytes, const Roles& roles, std::size_t root,
-            Candidates& candidates)
+    Between(const Document& document, std::string_view bytes, std::span<const std::uint32_t> parents,
+            const Roles& roles, std::size_t root, Candidates& candidates)
         : document_(document),
           bytes_(bytes),
-          markup_(document, bytes),
+          parents_(parents),
+          markup_(document, bytes, parents),
           roles_(roles),
           root_(root),
           candidates_(candidates) {}
@@ -255,8 +270,6 @@ public:
             add(finding_kind::malformed, 0, nul, 1, "a NUL; nothing behind it was read");
         }
     }
-
-    [[nodiscard]] const Markup& markup() const { return markup_; }
 
 private:
     [[nodiscard]] std::string_view textOf(const Piece& piece) const {
@@ -313,7 +326,7 @@ private:
     }
 
     void startTag(const Piece& piece) {
-        const std::size_t parent = markup_.parentOf(piece.node);
+        const std::size_t parent = parents_[piece.node];
         if (parent == 0 && piece.node != root_) {
             add(finding_kind::ignored, piece.node, piece.offset, piece.length, "an element beside the message");
         } else if (roles_[parent] == Role::value) {
@@ -404,6 +417,7 @@ private:
 
     const Document& document_;
     std::string_view bytes_;
+    std::span<const std::uint32_t> parents_;
     Markup markup_;
     const Roles& roles_;
     std::size_t root_;
@@ -459,20 +473,24 @@ void tell(Candidates& candidates, Places& places, const Document& document, std:
 
 }  // namespace
 
-Diagnosis::Diagnosis(const Document& document, std::string_view bytes, Element root, const Message& message,
-                     Findings& findings)
+Diagnosis::Diagnosis(const Document& document, std::string_view bytes, bool isWhole, Element root,
+                     const Message& message, Findings& findings)
     : document_(document),
       bytes_(bytes),
       root_(root),
       message_(message),
       findings_(findings),
       roles_(document),
+      isPlain_(document.isPlain() && isWhole),
       room_(roomIn(message.record)) {
     roles_.set(root.number(), Role::around);
 }
 
 void Diagnosis::read(const Read& read) {
-    roles_.set(read.element.number(), roleOf(read.row), &read.row);
+    const Role role = roleOf(read.row);
+    roles_.set(read.element.number(), role, &read.row);
+    const bool hasElements = !read.element.children().empty();
+    isPlain_ &= role == Role::value ? !hasElements : hasElements || read.element.text() == nullptr;
     checkValue(read, candidates_);
     if (read.row.kind == Kind::entry && room_ != 0 && ++entries_ > room_) {
         candidates_.add({.kind = finding_kind::beyond_capacity,
@@ -487,12 +505,13 @@ void Diagnosis::skip(Element element) {
 }
 
 void Diagnosis::finish() {
-    Between between(document_, bytes_, roles_, root_.number(), candidates_);
-    between.all();
-    const Markup& markup = between.markup();
+    // In most replies there is nothing to be found.
+    if (isPlain_ && candidates_.all.empty()) return;
+    const auto parents = parentsIn(document_);
+    if (!isPlain_) Between(document_, bytes_, parents, roles_, root_.number(), candidates_).all();
     const auto namesTo = [&](std::size_t node) {
         std::vector<std::string_view> names;
-        for (; node != 0 && node != root_.number(); node = markup.parentOf(node)) {
+        for (; node != 0 && node != root_.number(); node = parents[node]) {
             names.insert(names.begin(), document_[node].name());
         }
         return names;
@@ -502,26 +521,26 @@ void Diagnosis::finish() {
     std::erase_if(candidates_.all, [&](Candidate& candidate) {
         if (candidate.kind != finding_kind::unknown_element) return false;
         const auto names = namesTo(candidate.node);
-        const auto parents = std::span(names).first(names.size() - 1);
+        const auto around = std::span(names).first(names.size() - 1);
         std::string_view best;
         for (const Message& message : messages()) {
             if (!hasRoot(message, root_.name())) continue;
-            const auto rows = rowsInside(message.table, parents);
+            const auto rows = rowsInside(message.table, around);
             if (std::ranges::find(rows, names.back(), &DescribedRow::name) != rows.end()) return true;
             if (best.empty()) best = nearest(names.back(), rows, [](const DescribedRow& row) { return row.name; });
         }
         if (!best.empty()) candidate.detail = "did you mean " + quoted(best) + "?";
         return false;
     });
-    Places places(document_, bytes_, markup, message_);
+    Places places(document_, bytes_, parents, message_);
     tell(candidates_, places, document_, bytes_, findings_);
 }
 
 void diagnoseWithout(const Document& document, std::string_view bytes, const Message& message, Findings& findings) {
     Candidates candidates;
     const Roles roles(document);
-    Between between(document, bytes, roles, 0, candidates);
-    between.all();
+    const auto parents = parentsIn(document);
+    Between(document, bytes, parents, roles, 0, candidates).all();
     // Elements beside the message are all there are.
     std::erase_if(candidates.all, [](const Candidate& candidate) { return candidate.kind == finding_kind::ignored; });
     std::string_view first;
@@ -537,7 +556,7 @@ void diagnoseWithout(const Document& document, std::string_view bytes, const Mes
                     .text = excerpt(first),
                     .detail = best.empty() || best == first ? quoted(message.root) + " is not in the reply"
                                                             : "did you mean " + quoted(best) + "?"});
-    Places places(document, bytes, between.markup(), message);
+    Places places(document, bytes, parents, message);
     tell(candidates, places, document, bytes, findings);
 }
 

@@ -84,7 +84,8 @@ private:
 class Diagnosis final : public Watch::Diagnosis {
 public:
     /// All of them outlive it.
-    Diagnosis(const Document& document, std::string_view bytes, Element root, const Message& message,
+    /// @param isWhole  whether the bytes are a whole document and UTF-8.
+    Diagnosis(const Document& document, std::string_view bytes, bool isWhole, Element root, const Message& message,
               Findings& findings);
 
     void read(const Read& read) override;
@@ -100,6 +101,7 @@ private:
     const Message& message_;
     Findings& findings_;
     Roles roles_;
+    bool isPlain_;  ///< there is nothing between the elements that was not read
     Candidates candidates_;
     std::size_t room_;         ///< of a list in the named operation's record; 0 when it has none
     std::size_t entries_ = 0;  ///< of that list

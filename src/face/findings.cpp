@@ -1,5 +1,6 @@
 #include "face/findings.h"
 
+#include <memory>
 #include <utility>
 
 /// What a host holds.
@@ -9,9 +10,9 @@ struct kvjxml_v1_findings : kvj::Findings {
 
 namespace kvj {
 
-kvjxml_v1_findings* handOver(std::unique_ptr<Findings> findings) {
-    if (findings->all.empty()) return nullptr;
-    return std::make_unique<kvjxml_v1_findings>(std::move(*findings)).release();
+kvjxml_v1_findings* handOver(Findings findings) {
+    if (findings.all.empty()) return nullptr;
+    return std::make_unique<kvjxml_v1_findings>(std::move(findings)).release();
 }
 
 }  // namespace kvj

@@ -7,7 +7,6 @@
 
 #include <cstddef>
 #include <kvjxml_read.hpp>
-#include <memory>
 #include <vector>
 
 namespace kvj {
@@ -21,7 +20,7 @@ struct Findings {
 };
 
 /// Null when there are none.
-kvjxml_v1_findings* handOver(std::unique_ptr<Findings> findings);
+kvjxml_v1_findings* handOver(Findings findings);
 
 }  // namespace kvj
 

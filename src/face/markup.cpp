@@ -77,11 +77,11 @@ std::size_t endOfTag(std::string_view bytes, std::size_t from) {
     return bytes.size();
 }
 
-Markup::Markup(const Document& document, std::string_view bytes)
+Markup::Markup(const Document& document, std::string_view bytes, std::span<const std::uint32_t> parents)
     : document_(document),
       bytes_(bytes),
       end_(document.fault() ? std::min(document.fault().offset, document.end()) : document.end()),
-      parents_(document.size() + 1),
+      parents_(parents),
       hasChild_(document.size() + 1) {
     if (bytes.starts_with("\xEF\xBB\xBF")) at_ = 3;
 }
@@ -146,7 +146,6 @@ bool Markup::text(Piece& piece) {
 bool Markup::startTag(Piece& piece) {
     const std::size_t end = endOfTag(bytes_, at_);
     piece = {Piece::Kind::startTag, count_, at_, end - at_, takeFirstChild(open_)};
-    parents_[count_] = static_cast<std::uint32_t>(open_);
     const bool isEmpty = end - at_ >= 2 && bytes_[end - 1] == '>' && bytes_[end - 2] == '/';
     if (!isEmpty) open_ = count_;
     ++count_;

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -38,7 +39,7 @@ struct Piece {
 class Markup {
 public:
     /// `bytes` are what the document was made of.
-    Markup(const Document& document, std::string_view bytes);
+    Markup(const Document& document, std::string_view bytes, std::span<const std::uint32_t> parents);
 
     /// @return false at the end of the text; the piece stays the last one.
     bool next(Piece& piece);
@@ -48,9 +49,6 @@ public:
 
     /// The innermost element that is open behind the last piece.
     [[nodiscard]] std::size_t open() const { return open_; }
-
-    /// The element around one; known as soon as its start tag has been passed.
-    [[nodiscard]] std::size_t parentOf(std::size_t node) const { return parents_[node]; }
 
 private:
     /// A piece that ends with this, which is looked for after so many bytes.
@@ -66,7 +64,7 @@ private:
     std::size_t end_;
     std::size_t open_ = 0;
     std::size_t count_ = 1;  ///< of elements passed
-    std::vector<std::uint32_t> parents_;
+    std::span<const std::uint32_t> parents_;
     std::vector<bool> hasChild_;
 };
 

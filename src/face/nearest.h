@@ -44,6 +44,7 @@ std::string_view nearest(std::string_view name, const Names& names, NameOf nameO
     std::size_t least = std::min<std::size_t>(name.size() / 3, 3) + 1;
     for (const auto& each : names) {
         const std::string_view candidate = nameOf(each);
+        if (candidate.size() >= name.size() + least || name.size() >= candidate.size() + least) continue;
         const std::size_t apart = distance(name, candidate);
         if (apart < least) {
             least = apart;

@@ -22,21 +22,6 @@ namespace kvj {
 
 namespace {
 
-/// A host's lists; those of a newer host's that no message of this library has are left empty.
-class HostRooms {
-public:
-    explicit HostRooms(const kvjxml_v1_target& target) {
-        const std::span lists(target.lists, target.lists_count);
-        std::ranges::copy(lists.first(std::min(lists.size(), rooms_.size())), rooms_.begin());
-        count_ = std::min(lists.size(), rooms_.size());
-    }
-    Rooms get() { return Rooms(rooms_).first(count_); }
-
-private:
-    std::array<Room, 16> rooms_;
-    std::size_t count_ = 0;
-};
-
 Text copyOf(std::string_view bytes) {
     Text copy(bytes.size());
     std::ranges::copy(bytes, copy.bytes());
@@ -55,15 +40,16 @@ void tellRoot(const Document& document, const kvjxml_v1_target& target) {
 int read(const Message& message, std::string_view bytes, const kvjxml_v1_target& target, Findings* findings) {
     const std::string_view text = bytes.substr(0, bytes.find('\0'));
     Document document(copyOf(text), Manner::ofUtf8);
-    const bool isWhole = document.isWhole() && text.size() == bytes.size() && firstOutsideUtf8(bytes) == bytes.size();
+    const bool isWhole = document.isWhole() && text.size() == bytes.size() &&
+                         (document.isAscii() || firstOutsideUtf8(bytes) == bytes.size());
     const Element root = document.root(message.root.data(), message.otherRoot.data());
     if (root) {
         std::optional<Diagnosis> diagnosis;
-        if (findings != nullptr) diagnosis.emplace(document, bytes, root, message, *findings);
+        if (findings != nullptr) diagnosis.emplace(document, bytes, isWhole, root, message, *findings);
         Watch watch(target.record, target.size, target.carried, diagnosis ? &*diagnosis : nullptr);
         document.watchWith(&watch);
-        HostRooms rooms(target);
-        message.readRoot(root, target.record, rooms.get());
+        std::vector<Room> rooms(target.lists, target.lists + target.lists_count);
+        message.readRoot(root, target.record, rooms);
         if (diagnosis) diagnosis->finish();
     } else {
         tellRoot(document, target);
@@ -81,10 +67,12 @@ int kvjxml_v1_read(int message, const char* text, size_t length, const kvjxml_v1
                    kvjxml_v1_findings** findings) {
     try {
         const auto all = kvj::messages();
-        const kvj::Message& row = all[static_cast<std::size_t>(message)];
+        const auto number = static_cast<std::size_t>(message);
+        if (number >= all.size()) return 0;  // The host is newer than the library.
+        const kvj::Message& row = all[number];
         if (findings == nullptr) return kvj::read(row, {text, length}, *target, nullptr);
-        auto found = std::make_unique<kvj::Findings>();
-        const int result = kvj::read(row, {text, length}, *target, found.get());
+        kvj::Findings found;
+        const int result = kvj::read(row, {text, length}, *target, &found);
         *findings = kvj::handOver(std::move(found));
         return result;
     } catch (const std::bad_alloc&) {

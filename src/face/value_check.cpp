@@ -1,5 +1,6 @@
 #include "face/value_check.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -9,9 +10,12 @@
 #include <optional>
 #include <utility>
 
+#include "FoundationRecords.h"
+#include "face/joined.h"
 #include "face/nearest.h"
 #include "fields/records.h"
 #include "foundation/convert.h"
+#include "messages/request.h"
 
 namespace kvj {
 
@@ -138,6 +142,13 @@ bool isSame(const Whole& number, std::int64_t stored, bool isSigned) {
         return isSigned && stored < 0 && 0 - static_cast<std::uint64_t>(stored) == number.magnitude;
     }
     return static_cast<std::uint64_t>(stored) == number.magnitude && !(isSigned && stored < 0);
+}
+
+/// Whether it is stored as it is.
+bool fits(const Whole& number, const Number& form) {
+    if (number.isHuge || (number.isNegative && !form.isSigned)) return false;
+    const int bits = form.isSigned ? form.bits - 1 : form.bits;
+    return bits >= 64 || number.magnitude >> bits == 0;
 }
 
 /// A number with a decimal point, in the same way.
@@ -275,7 +286,7 @@ private:
     void rest(std::size_t used) {
         const std::string_view left = withoutBlanks(text_->substr(used));
         if (left.empty()) return;
-        add(finding_kind::trailing_text, became(), "\"" + std::string(left) + "\" behind the number was ignored");
+        add(finding_kind::trailing_text, became(), joined({"\"", left, "\" behind the number was ignored"}));
     }
 
     void noNumber() {
@@ -287,6 +298,7 @@ private:
         const Whole number = wholeIn(*text_, form);
         if (number.used == 0) return noNumber();
         rest(number.used);
+        if (fits(number, form)) return;
         std::int64_t stored = 0;
         bool isSigned = form.isSigned;
         if (const auto field = storedIn(row_.field, read_.record)) {
@@ -299,7 +311,7 @@ private:
         }
         if (!number.isHuge && isSame(number, stored, isSigned)) return;
         add(finding_kind::out_of_range, became(),
-            "the field has " + std::to_string(form.bits) + " bits" + (form.isSigned ? "" : ", without a sign"));
+            joined({"the field has ", std::to_string(form.bits), " bits", form.isSigned ? "" : ", without a sign"}));
     }
 
     void decimal() {
@@ -311,29 +323,25 @@ private:
         }
     }
 
-    /// A part of a setting.
-    template <class Value>
-    [[nodiscard]] Value inSetting(std::string_view name) const {
-        const KnownField known = knownField(row_.field);
-        const Field* const field = fieldNamed(*known.field->record, name);
-        return valueOf<Value>(*field, known.field->at(read_.record));
+    template <class Setting>
+    [[nodiscard]] const Setting& stored() const {
+        return *static_cast<const Setting*>(row_.field.at(read_.record));
     }
-    template <class Value>
-    void clamped() {
-        const auto min = inSetting<Value>("min");
-        const auto max = inSetting<Value>("max");
-        add(finding_kind::clamped, became(), "its range is " + shortest(min) + " to " + shortest(max));
+    template <class Setting>
+    void clamped(const Setting& setting) {
+        add(finding_kind::clamped, became(),
+            joined({"its range is ", shortest(setting.min), " to ", shortest(setting.max)}));
     }
 
     void setting() {
         const Whole number = wholeIn(*text_, {});
         if (number.used == 0) return noNumber();
         rest(number.used);
-        const bool isHuge = number.isHuge || number.magnitude > 2147483647U + (number.isNegative ? 1U : 0U);
-        if (isHuge) {
+        const auto& setting = stored<Kavrin::_MinMaxVal>();
+        if (isBeyondInt(number)) {
             add(finding_kind::out_of_range, became(), "the field has 32 bits");
-        } else if (!isSame(number, inSetting<int>("value"), true)) {
-            clamped<int>();
+        } else if (!isSame(number, setting.value, true)) {
+            clamped(setting);
         }
     }
 
@@ -342,10 +350,11 @@ private:
         if (number.used == 0) return noNumber();
         rest(number.used);
         const auto value = static_cast<float>(number.value);
+        const auto& setting = stored<Kavrin::_MinMaxValFloat>();
         if (number.isHuge || std::isinf(value)) {
             add(finding_kind::out_of_range, became(), "the field is a float");
-        } else if (value < inSetting<float>("min") || value > inSetting<float>("max")) {
-            clamped<float>();
+        } else if (value < setting.min || value > setting.max) {
+            clamped(setting);
         }
     }
 
@@ -378,7 +387,8 @@ private:
     void cut(std::size_t capacity) {
         if (text_->size() < capacity) return;
         add(finding_kind::text_cut, became(),
-            "the field holds " + std::to_string(capacity - 1) + " of its " + std::to_string(text_->size()) + " bytes");
+            joined({"the field holds ", std::to_string(capacity - 1), " of its ", std::to_string(text_->size()),
+                    " bytes"}));
     }
 
     void textAndCode() {
@@ -389,7 +399,7 @@ private:
     void appended() {
         if (became().ends_with(*text_)) return;
         add(finding_kind::text_cut, became(),
-            "the field holds " + std::to_string(row_.capacity - 1) + " bytes of all that it is made of");
+            joined({"the field holds ", std::to_string(row_.capacity - 1), " bytes of all that it is made of"}));
     }
 
     void panels() {
@@ -402,20 +412,33 @@ private:
     }
 
     [[nodiscard]] bool known(const char* word) const {
-        Words table = row_.words.words;
-        table.other.reset();
-        return codeOf(table, word).has_value();
+        return codeOf(Words{row_.words.words.rows, {}, row_.words.words.match}, word).has_value();
+    }
+
+    /// Words that the printer takes but does not send are known all the same.
+    static bool isWritten(std::span<const DescribedRow> rows, const FieldName& field, std::string_view word) {
+        return std::ranges::any_of(rows, [&](const DescribedRow& row) {
+            const Description& it = row.description;
+            const bool isOfField = it.field.record == field.record && it.field.name == field.name;
+            const bool hasWord =
+                it.word == word || it.otherWord == word ||
+                std::ranges::any_of(it.words.words.rows, [&](const Word& each) { return each.word == word; });
+            return (isOfField && hasWord) || isWritten(it.group, field, word);
+        });
     }
 
     void unknownWord(const FieldName& field) {
+        for (const Request& request : requests()) {
+            if (isWritten(request.table, field, *text_)) return;
+        }
         const auto best =
             nearest(withoutBlanks(*text_), row_.words.words.rows, [](const Word& word) { return word.word; });
         add(finding_kind::unknown_word, became(field),
-            best.empty() ? std::string() : "did you mean \"" + std::string(best) + "\"?");
+            best.empty() ? std::string() : joined({"did you mean \"", best, "\"?"}));
     }
 
     void word(const FieldName& field) {
-        if (!known(std::string(*text_).c_str())) unknownWord(field);
+        if (!known(text_->data())) unknownWord(field);  // Each of these texts has its terminator.
     }
 
     void truthWord() {
@@ -430,20 +453,25 @@ private:
         const std::string trimmed(withoutBlanks(*text_));
         const std::string word(row_.word);
         if (*text_ == word || !convert::equalIgnoringCase(trimmed.c_str(), word.c_str())) return;
-        add(finding_kind::unknown_word, became(), "did you mean \"" + word + "\"?");
+        add(finding_kind::unknown_word, became(), joined({"did you mean \"", word, "\"?"}));
     }
 
     void hardwareAddress() {
         const std::string_view text = withoutBlanks(*text_);
-        if (convert::equalIgnoringCase(became().c_str(), std::string(text).c_str())) return;
-        if (text.size() > 17 && convert::equalIgnoringCase(became().c_str(), std::string(text.substr(0, 17)).c_str())) {
-            return rest(static_cast<std::size_t>(text.data() - text_->data()) + 17);
+        const convert::Digits address =
+            convert::fromHardwareAddress(static_cast<const unsigned char*>(row_.field.at(read_.record)));
+        constexpr std::size_t length = 17;
+        const std::string begin(text.substr(0, length));
+        if (!convert::equalIgnoringCase(address.c_str(), begin.c_str())) {
+            add(finding_kind::not_a_number, became(), "it is not six bytes such as \"00:1a:2b:3c:4d:5e\"");
+        } else if (text.size() > length) {
+            rest(static_cast<std::size_t>(text.data() - text_->data()) + length);
         }
-        add(finding_kind::not_a_number, became(), "it is not six bytes such as \"00:1a:2b:3c:4d:5e\"");
     }
 
     void ipAddress() {
-        if (became() == withoutBlanks(*text_)) return;
+        const auto address = *static_cast<const unsigned long*>(row_.field.at(read_.record));
+        if (convert::fromIpAddress(address).c_str() == withoutBlanks(*text_)) return;
         add(finding_kind::not_a_number, became(), "it is not an address such as \"192.168.1.20\"");
     }
 

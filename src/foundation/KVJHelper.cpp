@@ -78,7 +78,7 @@ bool KVJHelper::GetIP(TiXmlElement* /*element*/, char* /*name*/, unsigned long& 
 
 // ---- Value to element ----
 
-TiXmlElement* KVJHelper::AddTag(TiXmlElement* parent, char* name) { return kvj::addTag(parent, name); }
+TiXmlElement* KVJHelper::AddTag(TiXmlElement* parent, char* name) { return kvj::addTag(parent, name).element(); }
 
 bool KVJHelper::AddTagString(TiXmlElement* parent, char* name, const char* value) {
     return kvj::addTag(parent, name, value);

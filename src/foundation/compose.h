@@ -10,12 +10,11 @@
 #ifndef KVJXML_FOUNDATION_COMPOSE_H
 #define KVJXML_FOUNDATION_COMPOSE_H
 
-#include <tinyxml.h>
-
 #include <array>
 #include <cstddef>
 #include <string_view>
 
+#include "foundation/request_text.h"
 #include "foundation/rows.h"
 #include "foundation/tags.h"
 
@@ -34,7 +33,7 @@ template <class Record>
 struct WriteRule {
     Description description;
     /// Adds the element `name` to `parent`; false when it cannot be added.
-    bool (*write)(TiXmlElement* parent, const char* name, const Record& record, const Selection& selection);
+    bool (*write)(Parent parent, const char* name, const Record& record, const Selection& selection);
 };
 
 /// When an element is written.
@@ -124,45 +123,52 @@ consteval std::array<Section<Record>, N> sections(const Section<Record> (&list)[
 /// The name of a row, for TinyXML. It is a literal, so that it has its terminator.
 constexpr const char* terminated(std::string_view name) { return name.data(); }
 
-/// The one loop. The result is that of the last element written; `result` when there was none.
+/// The one loop, for a tree and for a text alike. The result is that of the last element written; `result` when there
+/// was none.
 template <class Record, template <class> class RowOf, std::size_t N>
-bool compose(TiXmlElement* parent, const Record& record, const std::array<RowOf<Record>, N>& table,
+bool compose(Parent parent, const Record& record, const std::array<RowOf<Record>, N>& table,
              const Selection& selection = {}, bool result = false) {
     for (const auto& row : table) {
-        if (isWanted(row, record, selection)) result = row.rule.write(parent, terminated(row.name), record, selection);
+        if (!isWanted(row, record, selection)) continue;
+        const WriteRule<Record>& rule = row.rule;
+        parent.announce(rule.description);
+        result = rule.write(parent, terminated(row.name), record, selection);
     }
     return result;
 }
 
 /// One row alone, for the operation that is named after it.
 template <class Record>
-bool compose(TiXmlElement* parent, const Record& record, const Tag<Record>& tag, const Selection& selection = {}) {
+bool compose(Parent parent, const Record& record, const Tag<Record>& tag, const Selection& selection = {}) {
     return isWanted(tag, record, selection) && tag.rule.write(parent, terminated(tag.name), record, selection);
 }
 
 /// Adds the element `name` and composes it with a table of its own.
 template <class Record, class Table>
-bool addGroup(TiXmlElement* parent, const char* name, const Record& record, const Table& table,
+bool addGroup(Parent parent, const char* name, const Record& record, const Table& table,
               const Selection& selection = {}) {
-    TiXmlElement* group = addTag(parent, name);
-    return group != nullptr && compose(group, record, table, selection);
+    const Parent group = addTag(parent, name);
+    return group && compose(group, record, table, selection);
 }
 
 /// Adds an element `name` for each of `count` entries. A null array has none.
 template <class Entry>
-bool addEntries(TiXmlElement* parent, const char* name, const Entry* entries, int count, const WriteRule<Entry>& rule,
+bool addEntries(Parent parent, const char* name, const Entry* entries, int count, const WriteRule<Entry>& rule,
                 const Selection& selection = {}) {
     bool result = false;
-    for (int i = 0; entries != nullptr && i < count; ++i) result = rule.write(parent, name, entries[i], selection);
+    for (int i = 0; entries != nullptr && i < count; ++i) {
+        parent.announce(rule.description, i);
+        result = rule.write(parent, name, entries[i], selection);
+    }
     return result;
 }
 
 /// Adds the element `name` with an element `entryName` for each entry.
 template <class Entry>
-bool addList(TiXmlElement* parent, const char* name, const char* entryName, const Entry* entries, int count,
+bool addList(Parent parent, const char* name, const char* entryName, const Entry* entries, int count,
              const WriteRule<Entry>& rule) {
-    TiXmlElement* list = addTag(parent, name);
-    return list != nullptr && addEntries(list, entryName, entries, count, rule);
+    const Parent list = addTag(parent, name);
+    return list && addEntries(list, entryName, entries, count, rule);
 }
 
 }  // namespace kvj

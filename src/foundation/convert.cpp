@@ -124,11 +124,14 @@ bool scanNumber(const char* text, int base, Unsigned& value) noexcept {
     return true;
 }
 
-/// The last character of `digits` stays zero.
+constexpr char hexDigits[] = "0123456789abcdef";
+
 template <class... Arguments>
 Digits digitsOf(Arguments... arguments) noexcept {
     Digits digits;
-    std::to_chars(digits.characters.data(), digits.characters.data() + digits.characters.size() - 1, arguments...);
+    const auto written =
+        std::to_chars(digits.characters.data(), digits.characters.data() + digits.characters.size() - 1, arguments...);
+    *written.ptr = '\0';
     return digits;
 }
 
@@ -224,10 +227,17 @@ Digits fromLong(long value) noexcept { return digitsOf(value); }
 
 Digits fromDouble(double value, int decimals) noexcept { return digitsOf(value, std::chars_format::fixed, decimals); }
 
+Digits shortest(float value) noexcept { return digitsOf(value); }
+
 Digits fromHardwareAddress(const unsigned char* address) noexcept {
     Digits digits;
-    static_cast<void>(std::snprintf(digits.characters.data(), digits.characters.size(), "%02x:%02x:%02x:%02x:%02x:%02x",
-                                    address[0], address[1], address[2], address[3], address[4], address[5]));
+    char* at = digits.characters.data();
+    for (std::size_t i = 0; i < HardwareAddress().size(); ++i) {
+        if (i > 0) *at++ = ':';
+        *at++ = hexDigits[address[i] / 16];
+        *at++ = hexDigits[address[i] % 16];
+    }
+    *at = '\0';
     return digits;
 }
 

@@ -49,7 +49,7 @@ bool copy(const char* text, char* destination, int capacity) noexcept;
 
 /// A short text by value; long enough for any double with six decimals.
 struct Digits {
-    std::array<char, 320> characters{};
+    std::array<char, 320> characters;
     [[nodiscard]] const char* c_str() const noexcept { return characters.data(); }
 };
 
@@ -58,6 +58,8 @@ Digits fromUnsigned(unsigned value) noexcept;  ///< "%u"
 Digits fromLong(long value) noexcept;          ///< "%ld"
 /// "%.*f"
 Digits fromDouble(double value, int decimals) noexcept;
+/// The fewest digits that are read as this number again.
+Digits shortest(float value) noexcept;
 /// "%02x:%02x:%02x:%02x:%02x:%02x"
 Digits fromHardwareAddress(const unsigned char* address) noexcept;
 /// Dotted, as inet_ntoa writes it; only the low 32 bits count.

@@ -84,12 +84,22 @@ public:
     [[nodiscard]] Element top() const noexcept;
 
     [[nodiscard]] const Fault& fault() const noexcept { return fault_; }
+    // What follows is known of a document that is read as UTF-8.
+
     /// Whether the text is a document from its beginning to its end: one element at the top level, ended by its own end
     /// tag, with nothing before or after it but blanks, comments and instructions, and no markup in it that is none.
     [[nodiscard]] bool isWhole() const noexcept { return isWhole_; }
+    /// Whether every byte is ASCII.
+    [[nodiscard]] bool isAscii() const noexcept { return isAscii_; }
+    /// Whether there is nothing in the document but elements, attributes and values: no text beside an element, no
+    /// comment and the like within one, no reference but to the five characters that have names.
+    [[nodiscard]] bool isPlain() const noexcept { return isPlain_; }
+
     /// How many elements there are, the document itself being one.
     [[nodiscard]] std::size_t size() const noexcept { return nodes_ == nullptr ? 0 : nodes_[0].end; }
     [[nodiscard]] Element operator[](std::size_t number) const noexcept;
+    /// The number of the next element that is no descendant of this one.
+    [[nodiscard]] std::size_t endOf(std::size_t number) const noexcept { return nodes_[number].end; }
 
     /// Where the parsing ended, in bytes from the beginning of the text: at the end of a whole document.
     [[nodiscard]] std::size_t end() const noexcept { return end_; }
@@ -102,9 +112,12 @@ public:
 
 private:
     friend class Element;
+    template <Manner manner>
     friend class DocumentParser;
 
     void parse(Manner manner);
+    template <Manner manner>
+    void parseAs();
     void allocate(std::size_t elements, std::size_t attributes);
 
     static constexpr std::size_t largest = std::numeric_limits<std::uint32_t>::max() - Text::padding;
@@ -117,9 +130,11 @@ private:
     Attribute* attributes_ = nullptr;
     Fault fault_;
     std::size_t end_ = 0;
-    Watch* watch_ = nullptr;
+    mutable Watch* watch_ = nullptr;  // Who looks on is no part of what there is.
     bool hasByteOrderMark_ = false;
     bool isWhole_ = false;
+    bool isAscii_ = false;
+    bool isPlain_ = true;
 };
 
 }  // namespace kvj

@@ -18,6 +18,16 @@ namespace {
 
 using namespace characters;
 
+/// Whether a text begins with these words, in any case: that of ASCII's letters, or of those that the locale knows.
+/// They are given in small letters.
+bool beginsInAnyCase(const char* text, std::string_view words, bool onlyAscii) noexcept {
+    const auto lower = [=](char c) {
+        if (onlyAscii) return c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : int{c};
+        return std::tolower(static_cast<unsigned char>(c));
+    };
+    return std::ranges::all_of(words, [&](char c) { return lower(*text++) == c; });
+}
+
 bool begins(const char* text, std::string_view words) noexcept {
     return std::ranges::all_of(words, [&](char c) { return *text++ == c; });
 }
@@ -27,20 +37,25 @@ bool begins(const char* text, std::string_view words) noexcept {
 struct Bounds {
     std::size_t elements = 0;
     std::size_t attributes = 0;
+    unsigned char bits = 0;  ///< those that are set in any byte, if they are asked for
 };
+template <bool withBits>
 Bounds boundsOf(const char* text, std::size_t length) noexcept {
     Bounds bounds;
     const auto count = [&](const char* block, std::size_t size) {
         unsigned char elements = 0;
         unsigned char attributes = 0;
+        unsigned char bits = 0;
         for (std::size_t i = 0; i < size; ++i) {
             const auto next = static_cast<unsigned char>(block[i + 1]);
             const bool begins = (block[i] == '<') & ((next >= 'A') | (next < ' '));
             elements = static_cast<unsigned char>(elements + begins);
             attributes = static_cast<unsigned char>(attributes + (block[i] == '='));
+            if (withBits) bits = static_cast<unsigned char>(bits | static_cast<unsigned char>(block[i]));
         }
         bounds.elements += elements;
         bounds.attributes += attributes;
+        bounds.bits |= bits;
     };
     // Only as many as a byte can count: compilers turn that into vector instructions.
     constexpr std::size_t whole = 128;
@@ -56,18 +71,15 @@ Bounds boundsOf(const char* text, std::size_t length) noexcept {
 
 /// Goes through a text once, token by token, without recursion. Places are those of the text as it came: a token is
 /// overwritten, by its decoded text or by the NUL after it, only once it has been read.
+template <Manner manner>
 class DocumentParser {
 public:
-    DocumentParser(Document& document, Manner manner) noexcept
+    explicit DocumentParser(Document& document) noexcept
         : document_(document),
           nodes_(document.nodes_),
           text_(document.text_.bytes()),
           end_(text_ + document.text_.length()),
-          at_(text_),
-          encoding_(manner == Manner::ofUtf8 ? Encoding::utf8 : Encoding::unknown),
-          condense_(manner == Manner::ofUtf8 || TiXmlBase::IsWhiteSpaceCondensed()),
-          // In UTF-8 no control character is a letter.
-          upToLocale_(manner == Manner::ofUtf8 ? 0U : unsigned{control}) {}
+          at_(text_) {}
 
     void parse() {
         nodes_[0] = {};
@@ -87,6 +99,9 @@ public:
 
 private:
     using Node = Document::Node;
+    static constexpr bool isUtf8 = manner == Manner::ofUtf8;
+    /// Whether anybody will ask if the document is whole, or plain.
+    static constexpr bool judges = isUtf8;
 
     /// Each byte is a character, until the first declaration at the top level says otherwise.
     enum class Encoding { unknown, utf8, bytes };
@@ -99,26 +114,23 @@ private:
         char* valueEnd;
     };
 
-    [[nodiscard]] bool utf8() const noexcept { return encoding_ == Encoding::utf8; }
+    [[nodiscard]] bool utf8() const noexcept { return isUtf8 || encoding_ == Encoding::utf8; }
+    [[nodiscard]] bool condenses() const noexcept { return isUtf8 || condense_; }
     [[nodiscard]] bool atTop() const noexcept { return open_ == 0; }
 
     [[nodiscard]] std::uint32_t offsetOf(const char* place) const noexcept {
         return static_cast<std::uint32_t>(place - text_);
     }
 
-    [[nodiscard]] int lower(char c) const noexcept {
-        if (upToLocale_ == 0) return c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c;
-        return std::tolower(static_cast<unsigned char>(c));
+    [[nodiscard]] static bool beginsInAnyCase(const char* text, std::string_view words) noexcept {
+        return kvj::beginsInAnyCase(text, words, isUtf8);
     }
-    /// Whether a text begins with these words, in any case. They are given in small letters.
-    bool beginsInAnyCase(const char* text, std::string_view words) const noexcept {
-        return std::ranges::all_of(words, [&](char c) { return lower(*text++) == c; });
+    // In UTF-8 no control character is a letter.
+    [[nodiscard]] static bool beginsName(char c) noexcept {
+        return is(c, letter) || (!isUtf8 && is(c, control) && std::isalpha(static_cast<unsigned char>(c)) != 0);
     }
-    [[nodiscard]] bool beginsName(char c) const noexcept {
-        return is(c, letter) || (is(c, upToLocale_) && std::isalpha(static_cast<unsigned char>(c)) != 0);
-    }
-    [[nodiscard]] bool continuesName(char c) const noexcept {
-        return is(c, inName) || (is(c, upToLocale_) && std::isalnum(static_cast<unsigned char>(c)) != 0);
+    [[nodiscard]] static bool continuesName(char c) noexcept {
+        return is(c, inName) || (!isUtf8 && is(c, control) && std::isalnum(static_cast<unsigned char>(c)) != 0);
     }
 
     /// Ends the parsing. What is there stays as it is.
@@ -162,14 +174,18 @@ private:
         skipBlanks();
         if (*at_ == '<') return true;
         if (*at_ == '\0') return fail(TiXmlBase::TIXML_ERROR_READING_END_TAG, at_);
-        if (!condense_) at_ = beginning;
+        if (!condenses()) at_ = beginning;
         return text();
     }
 
     bool text() noexcept {
         char* const value = at_;
         char* const valueEnd = decodeTo('<');
-        if (!std::all_of(value, valueEnd, [](char c) { return is(c, blank); })) append(value);
+        if (!std::all_of(value, valueEnd, [](char c) { return is(c, blank); })) {
+            if (judges && nodes_[open_].value != 0) document_.isPlain_ = false;
+            append(value);
+            if (judges) withText_ = open_;
+        }
         // A "<" that is the very last character is not seen.
         const bool more = *at_ == '<' && at_[1] != '\0';
         *valueEnd = '\0';
@@ -180,6 +196,7 @@ private:
         ++at_;
         if (beginsName(*at_)) return openElement();
         if (*at_ == '/' && !atTop()) return closeElement();
+        if (judges && !atTop()) document_.isPlain_ = false;
         if (beginsInAnyCase(at_, "?xml")) return declaration();
         if (begins(at_, "!--")) return verbatim("!--", "-->");
         if (begins(at_, "![CDATA[")) {
@@ -192,7 +209,7 @@ private:
     }
 
     /// A node whose text stays as it is, between these two words; without the second it takes all that is left.
-    bool verbatim(std::string_view first, std::string_view last) noexcept {
+    [[gnu::noinline]] bool verbatim(std::string_view first, std::string_view last) noexcept {
         char* const value = at_ + first.size();
         append(value);
         char* const found = last.size() == 1 ? std::strchr(value, last[0]) : std::strstr(value, last.data());
@@ -214,7 +231,10 @@ private:
             while (continuesName(*at_));
         }
         char* const nameEnd = at_;
-        topElements_ += atTop() ? 1 : 0;
+        if (judges) {
+            topElements_ += atTop() ? 1 : 0;
+            if (withText_ == open_ && !atTop()) document_.isPlain_ = false;
+        }
         append(name);
         Node& node = nodes_[count_];
         node = {offsetOf(name), offsetOf(nameEnd) - offsetOf(name), 0, attributeCount_, open_};
@@ -287,7 +307,7 @@ private:
 
     /// Whatever is not an attribute of a declaration is skipped. A declaration that is cut or wrong ends the parsing;
     /// at the top level it is not a fault.
-    bool declaration() noexcept {
+    [[gnu::noinline]] bool declaration() noexcept {
         char* const value = at_;
         append(value);
         at_ += std::strlen("?xml");
@@ -315,7 +335,7 @@ private:
         return true;
     }
 
-    [[nodiscard]] Encoding encodingOf(std::string_view name) const noexcept {
+    [[nodiscard]] static Encoding encodingOf(std::string_view name) noexcept {
         name = name.substr(0, name.find('\0'));
         const auto beginsWith = [&](std::string_view words) {
             return name.size() >= words.size() && beginsInAnyCase(name.data(), words);
@@ -325,7 +345,7 @@ private:
 
     /// From an attribute's name to what follows its value.
     /// @return what is wrong with it; nothing else is said then.
-    Fault attribute(RawAttribute& found) noexcept {
+    [[gnu::noinline]] Fault attribute(RawAttribute& found) noexcept {
         const auto wrong = [&](int id, const char* where) { return Fault{id, offsetOf(where)}; };
         found = {at_, at_, at_, at_};
         if (!beginsName(*at_)) return wrong(TiXmlBase::TIXML_ERROR_READING_ATTRIBUTES, at_);
@@ -358,7 +378,7 @@ private:
     /// The kinds of characters that do not stand for themselves before this delimiter.
     [[nodiscard]] unsigned specialBefore(char delimiter) const noexcept {
         const unsigned special = delimiter == '<' ? unsigned{end} : unsigned{quote};
-        const unsigned gaps = delimiter == '<' && condense_ ? unsigned{blank} : 0U;
+        const unsigned gaps = delimiter == '<' && condenses() ? unsigned{blank} : 0U;
         return special | gaps | ampersand | (utf8() ? unsigned{lead} : 0U);
     }
 
@@ -371,7 +391,7 @@ private:
     /// that cannot be decoded.
     /// @return the end of the decoded text, which is not terminated yet.
     char* decodeTo(char delimiter) noexcept {
-        const bool condense = delimiter == '<' && condense_;
+        const bool condense = delimiter == '<' && condenses();
         const unsigned special = specialBefore(delimiter);
         // Most texts stand for themselves.
         char* from = at_;
@@ -387,7 +407,10 @@ private:
             if (gap) *to++ = ' ';
             gap = false;
             if (*from == '&') {
+                const bool isNumber = from[1] == '#';
                 char* const behind = decodeReference(from, to, utf8());
+                // One of the five that have names is right in any case.
+                if (judges && (isNumber || behind == nullptr || behind == from + 1)) document_.isPlain_ = false;
                 if (behind == nullptr) break;
                 from = behind;
             } else {
@@ -404,20 +427,28 @@ private:
     char* const text_;
     char* const end_;
     char* at_;
-    Encoding encoding_;
-    const bool condense_;
-    const unsigned upToLocale_;  ///< the kinds of bytes that count as letters where the locale says so
+    Encoding encoding_ = Encoding::unknown;
+    const bool condense_ = TiXmlBase::IsWhiteSpaceCondensed();
     bool isDamaged_ = false;
     std::uint32_t topElements_ = 0;
-    std::uint32_t open_ = 0;   ///< the element that is open; until it ends, the end of its node holds its parent
-    std::uint32_t count_ = 1;  ///< of nodes
+    std::uint32_t withText_ = 0;  ///< the element that a text was last found in
+    std::uint32_t open_ = 0;      ///< the element that is open; until it ends, the end of its node holds its parent
+    std::uint32_t count_ = 1;     ///< of nodes
     std::uint32_t attributeCount_ = 0;
 };
 
-void Document::parse(Manner manner) {
-    const Bounds bounds = boundsOf(text_.bytes(), text_.length());
+// Each in a function of its own, with what it calls for every element in one piece.
+template <Manner manner>
+[[gnu::noinline, gnu::flatten]] void Document::parseAs() {
+    constexpr bool judges = manner == Manner::ofUtf8;
+    const Bounds bounds = boundsOf<judges>(text_.bytes(), text_.length());
+    isAscii_ = judges && bounds.bits < 0x80;
     allocate(bounds.elements, bounds.attributes);
-    DocumentParser(*this, manner).parse();
+    DocumentParser<manner>(*this).parse();
+}
+
+void Document::parse(Manner manner) {
+    manner == Manner::ofUtf8 ? parseAs<Manner::ofUtf8>() : parseAs<Manner::ofProcess>();
 }
 
 }  // namespace kvj

@@ -48,7 +48,7 @@ enum class Kind {
     hardwareAddress,  ///< six bytes
     ipAddress,        ///< IPv4
 
-    // ---- Elements around others: `group` ----
+    // ---- Elements around others: `group`. They and what follows carry no value of their own ----
     group,          ///< elements of the same record
     part,           ///< elements of a record inside the record
     list,           ///< a list in an array of the host's; when written, of elements `word`
@@ -103,6 +103,9 @@ const void* addressOf(const void* record) {
 
 template <auto Member>
 inline constexpr FieldName fieldOf{nameOfType<RecordOf<Member>>(), nameOf<Member>(), addressOf<Member>};
+/// That of a part or a list, which has nothing of its own: its fields are read one by one.
+template <auto Member>
+inline constexpr FieldName partOf{nameOfType<RecordOf<Member>>(), nameOf<Member>()};
 
 /// A table of words with its name. Two are the same table when they have the same rows in memory, not the same name.
 struct NamedWords {

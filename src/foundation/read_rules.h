@@ -135,12 +135,17 @@ inline constexpr ReadRule<RecordOf<Member>> hardwareAddress{
 /// A setting with its range, as KVJConfigParser::getMinMaxVal reads it.
 template <class Setting>
 bool readSetting(Element element, Setting& setting) {
-    readAttribute(element, "min", setting.min);
-    readAttribute(element, "max", setting.max);
+    const bool hasMin = readAttribute(element, "min", setting.min);
+    const bool hasMax = readAttribute(element, "max", setting.max);
     const bool result = readNumber(element, setting.value);
     // Not std::clamp: where the range is the wrong way round, the printer expects its maximum.
     if (setting.value < setting.min) setting.value = setting.min;
     if (setting.value > setting.max) setting.value = setting.max;
+    if (Watch* const watch = element.watch()) {
+        if (hasMin) watch->mark(&setting.min);
+        if (hasMax) watch->mark(&setting.max);
+        if (result) watch->mark(&setting.value);
+    }
     return result;
 }
 

@@ -81,20 +81,20 @@ bool walk(Element element, Record& record, const std::array<RowOf<Record>, N>& t
     std::uint64_t seen = 0;  // a bit for each row
     for (const Element child : element.children()) {
         const std::string_view name = child.name();
-        std::size_t row = 0;
-        while (row < N && table[row].name != name) ++row;
-        if (row == N) {
-            if (watch != nullptr) watch->skip(child);
-            continue;
-        }
-        const ReadRule<Record>& rule = table[row].rule;
-        result = rule.read(child, record);
-        if (watch != nullptr) {
-            const std::uint64_t bit = std::uint64_t{1} << row;
+        bool isKnown = false;
+        for (const auto& row : table) {
+            if (row.name != name) continue;
+            const ReadRule<Record>& rule = row.rule;
+            result = rule.read(child, record);
+            isKnown = true;
+            if (watch == nullptr) break;
+            const std::uint64_t bit = std::uint64_t{1} << (&row - table.data());
             const bool isEntry = isList<Record> && rule.description.kind != Kind::firstEntry;
-            watch->read({child, rule.description, watched(record), !isEntry && (seen & bit) != 0});
+            watch->read({child, rule.description, watched(record), result, !isEntry && (seen & bit) != 0});
             seen |= bit;
+            break;
         }
+        if (!isKnown && watch != nullptr) watch->skip(child);
     }
     return result;
 }
@@ -103,7 +103,7 @@ bool walk(Element element, Record& record, const std::array<RowOf<Record>, N>& t
 template <class Record>
 bool readItself(Element element, Record& record, const ReadRule<Record>& rule) {
     const bool result = rule.read(element, record);
-    if (Watch* const watch = element.watch()) watch->read({element, rule.description, watched(record), false});
+    if (Watch* const watch = element.watch()) watch->read({element, rule.description, watched(record), result, false});
     return result;
 }
 

@@ -3,30 +3,13 @@
 #ifndef KVJXML_FOUNDATION_WRITE_RULES_H
 #define KVJXML_FOUNDATION_WRITE_RULES_H
 
-#include <cstring>
-#include <string>
 #include <type_traits>
 
-#include "FoundationRecords.h"
 #include "foundation/compose.h"
 #include "foundation/convert.h"
 #include "foundation/member.h"
 #include "foundation/read_rules.h"
-
-namespace kvj {
-
-/// Adds a setting with its range.
-inline bool addSetting(TiXmlElement* parent, const char* name, const Kavrin::_MinMaxVal& setting) {
-    return addSetting(parent, name, convert::fromInt(setting.min).c_str(), convert::fromInt(setting.max).c_str(),
-                      convert::fromInt(setting.value).c_str());
-}
-inline bool addSetting(TiXmlElement* parent, const char* name, const Kavrin::_MinMaxValFloat& setting) {
-    // The printer expects the maximum as the element's text here, not the value.
-    const convert::Digits max = convert::fromDouble(setting.max, 2);
-    return addSetting(parent, name, convert::fromDouble(setting.min, 2).c_str(), max.c_str(), max.c_str());
-}
-
-}  // namespace kvj
+#include "foundation/sent.h"
 
 namespace kvj::put {
 
@@ -34,7 +17,7 @@ namespace kvj::put {
 template <auto Member>
 inline constexpr WriteRule<RecordOf<Member>> number{
     {.field = fieldOf<Member>, .kind = Kind::number, .number = numberOf<ValueOf<Member>>},
-    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
+    [](Parent parent, const char* name, const RecordOf<Member>& record, const Selection&) {
         if constexpr (std::is_unsigned_v<ValueOf<Member>>) {
             return addTag(parent, name, convert::fromUnsigned(record.*Member).c_str());
         } else {
@@ -46,17 +29,16 @@ inline constexpr WriteRule<RecordOf<Member>> number{
 template <auto Member>
 inline constexpr WriteRule<RecordOf<Member>> decimal{
     {.field = fieldOf<Member>, .kind = Kind::decimal, .decimals = 4},
-    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
-        return addTag(parent, name, convert::fromDouble(record.*Member, 4).c_str());
+    [](Parent parent, const char* name, const RecordOf<Member>& record, const Selection&) {
+        return addDecimal(parent, name, record.*Member, 4);
     }};
 
 /// A text, which need not be terminated in its field.
 template <auto Member>
 inline constexpr WriteRule<RecordOf<Member>> text{
     {.field = fieldOf<Member>, .kind = Kind::text, .capacity = std::extent_v<ValueOf<Member>>},
-    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
-        const auto& field = record.*Member;
-        return addTag(parent, name, std::string(field, strnlen(field, sizeof field)).c_str());
+    [](Parent parent, const char* name, const RecordOf<Member>& record, const Selection&) {
+        return addField(parent, name, record.*Member, sizeof(ValueOf<Member>));
     }};
 
 /// One of two words.
@@ -66,7 +48,7 @@ inline constexpr WriteRule<RecordOf<Member>> either{
      .kind = Kind::either,
      .word = literal<True>.characters,
      .otherWord = literal<False>.characters},
-    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
+    [](Parent parent, const char* name, const RecordOf<Member>& record, const Selection&) {
         return addTag(parent, name, record.*Member ? literal<True>.characters : literal<False>.characters);
     }};
 
@@ -79,23 +61,22 @@ inline constexpr const auto& enabledOrNot = either<Member, "enabled", "disabled"
 template <auto Member, const auto& Table, Literal Otherwise = "">
 inline constexpr WriteRule<RecordOf<Member>> word{
     {.field = fieldOf<Member>, .kind = Kind::word, .words = named<Table>, .otherWord = literal<Otherwise>.characters},
-    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
-        return addTag(parent, name, wordOf(Table, record.*Member, literal<Otherwise>.characters));
+    [](Parent parent, const char* name, const RecordOf<Member>& record, const Selection&) {
+        return addWord(parent, name, Table, record.*Member, literal<Otherwise>.characters);
     }};
 
 /// A record that is the code of a single word.
 template <const auto& Table>
-inline constexpr WriteRule<int> wordItself{
-    {.kind = Kind::word, .words = named<Table>},
-    [](TiXmlElement* parent, const char* name, const int& code, const Selection&) {
-        return addTag(parent, name, wordOf(Table, code, ""));
-    }};
+inline constexpr WriteRule<int> wordItself{{.kind = Kind::word, .words = named<Table>},
+                                           [](Parent parent, const char* name, const int& code, const Selection&) {
+                                               return addWord(parent, name, Table, code, "");
+                                           }};
 
 /// A setting with its range.
 template <auto Member>
 inline constexpr WriteRule<RecordOf<Member>> setting{
     {.field = fieldOf<Member>, .kind = kindOfSetting<ValueOf<Member>>, .decimals = 2},
-    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
+    [](Parent parent, const char* name, const RecordOf<Member>& record, const Selection&) {
         return addSetting(parent, name, record.*Member);
     }};
 
@@ -103,7 +84,7 @@ inline constexpr WriteRule<RecordOf<Member>> setting{
 template <auto Member>
 inline constexpr WriteRule<RecordOf<Member>> hardwareAddress{
     {.field = fieldOf<Member>, .kind = Kind::hardwareAddress},
-    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
+    [](Parent parent, const char* name, const RecordOf<Member>& record, const Selection&) {
         static_assert(sizeof(ValueOf<Member>) == sizeof(convert::HardwareAddress));
         return addTag(parent, name, convert::fromHardwareAddress(record.*Member).c_str());
     }};
@@ -112,8 +93,8 @@ inline constexpr WriteRule<RecordOf<Member>> hardwareAddress{
 template <auto Member>
 inline constexpr WriteRule<RecordOf<Member>> ipAddress{
     {.field = fieldOf<Member>, .kind = Kind::ipAddress},
-    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
-        return addTag(parent, name, convert::fromIpAddress(record.*Member).c_str());
+    [](Parent parent, const char* name, const RecordOf<Member>& record, const Selection&) {
+        return addIpAddress(parent, name, record.*Member);
     }};
 
 /// "0x0a"
@@ -122,28 +103,23 @@ inline constexpr WriteRule<RecordOf<Member>> prefixedHex{
     {.field = fieldOf<Member>,
      .kind = Kind::number,
      .number = {.isSigned = false, .base = Base::hexadecimal, .digits = 2}},
-    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
+    [](Parent parent, const char* name, const RecordOf<Member>& record, const Selection&) {
         return addTag(parent, name, convert::fromPrefixedHex(record.*Member).c_str());
     }};
 
 /// A word that is always the same.
 template <class Record, Literal Word>
-inline constexpr WriteRule<Record> constant{
-    {.kind = Kind::constant, .word = literal<Word>.characters},
-    [](TiXmlElement* parent, const char* name, const Record&, const Selection&) {
-        return addTag(parent, name, literal<Word>.characters);
-    }};
+inline constexpr WriteRule<Record> constant{{.kind = Kind::constant, .word = literal<Word>.characters},
+                                            [](Parent parent, const char* name, const Record&, const Selection&) {
+                                                return addTag(parent, name, literal<Word>.characters);
+                                            }};
 
 /// An element for each bit of a number that has a word, in the order of the words.
 template <auto Member, const auto& Table>
 inline constexpr WriteRule<RecordOf<Member>> bits{
     {.field = fieldOf<Member>, .kind = Kind::bits, .words = named<Table>},
-    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection&) {
-        bool result = false;
-        for (const Word& row : Words(Table).rows) {
-            if ((record.*Member & row.code) != 0) result = addTag(parent, name, row.word);
-        }
-        return result;
+    [](Parent parent, const char* name, const RecordOf<Member>& record, const Selection&) {
+        return addBits(parent, name, Table, record.*Member);
     }};
 
 /// A list: an element `EntryName` for each entry of an array.
@@ -153,7 +129,7 @@ inline constexpr WriteRule<RecordOf<Array>> list{
      .kind = Kind::list,
      .word = literal<EntryName>.characters,
      .group = Entry.description.group},
-    [](TiXmlElement* parent, const char* name, const RecordOf<Array>& record, const Selection&) {
+    [](Parent parent, const char* name, const RecordOf<Array>& record, const Selection&) {
         return addList(parent, name, literal<EntryName>.characters, record.*Array, record.*Count, Entry);
     }};
 
@@ -161,7 +137,7 @@ inline constexpr WriteRule<RecordOf<Array>> list{
 template <const auto& Table>
 inline constexpr WriteRule<RecordOfTable<Table>> group{
     {.kind = Kind::group, .group = describedWritten<Table>},
-    [](TiXmlElement* parent, const char* name, const RecordOfTable<Table>& record, const Selection& selection) {
+    [](Parent parent, const char* name, const RecordOfTable<Table>& record, const Selection& selection) {
         return addGroup(parent, name, record, Table, selection);
     }};
 
@@ -169,7 +145,7 @@ inline constexpr WriteRule<RecordOfTable<Table>> group{
 template <auto Member, const auto& Table>
 inline constexpr WriteRule<RecordOf<Member>> part{
     {.field = fieldOf<Member>, .kind = Kind::part, .group = describedWritten<Table>},
-    [](TiXmlElement* parent, const char* name, const RecordOf<Member>& record, const Selection& selection) {
+    [](Parent parent, const char* name, const RecordOf<Member>& record, const Selection& selection) {
         return addGroup(parent, name, record.*Member, Table, selection);
     }};
 

@@ -18,9 +18,6 @@ TiXmlElement* rootIn(TiXmlDocument& document, TiXmlElement* root) {
     return nullptr;
 }
 
-/// The card types that every printer takes.
-bool isBasic(const _CardInfo& card) { return card.type == 0 || card.type == 1; }
-
 }  // namespace
 
 bool KVJSetMedia::SetMedia(_KVMediaInfo& media, wchar_t* out, int outLen, char allCards, bool omitTransfer) {
@@ -31,13 +28,9 @@ bool KVJSetMedia::SetMedia(_KVMediaInfo& media, wchar_t* out, int outLen, char a
 }
 
 bool KVJSetMedia::addMedia(_KVMediaInfo& media, char allCards) {
-    TiXmlElement* cards = kvj::addTag(rootIn(*this, root_), "cards");
-    if (cards == nullptr || media.cards == nullptr) return false;
-    bool result = false;
-    for (const _CardInfo* card : *media.cards) {
-        if (card != nullptr && (allCards == 1 || isBasic(*card))) result = addCardInfo(cards, *card);
-    }
-    return result;
+    const tables::Cards cards =
+        media.cards == nullptr ? tables::Cards{} : tables::Cards{media.cards->data(), media.cards->size()};
+    return tables::addCards(rootIn(*this, root_), cards, allCards == 1, {.directToCard = omitTransfer_});
 }
 
 bool KVJSetMedia::addCardInfo(TiXmlElement* under, _CardInfo card) {

@@ -89,6 +89,32 @@ inline constexpr auto cardTags = tags<_CardInfo>({
     {"cal_table",             put::number<&_CardInfo::calTable>},
 });
 
+/// Cards that stand anywhere.
+struct Cards {
+    const _CardInfo* const* first;
+    std::size_t count;
+};
+
+/// The card types that every printer takes.
+inline bool isBasic(const _CardInfo& info) { return info.type == 0 || info.type == 1; }
+
+inline constexpr Description ofCards{.field = fieldOf<&_KVMediaInfo::cards>, .kind = Kind::list};
+
+/// "cards", of all cards or of the basic ones. A null card is left out.
+inline bool addCards(Parent media, const Cards& chosen, bool all, const Selection& selection) {
+    media.announce(ofCards);
+    const Parent list = addTag(media, "cards");
+    const auto& rule = put::group<cardTags>;
+    bool result = false;
+    for (std::size_t i = 0; list && i < chosen.count; ++i) {
+        const _CardInfo* const info = chosen.first[i];
+        if (info == nullptr || (!all && !isBasic(*info))) continue;
+        list.announce(rule.description, static_cast<int>(i));
+        result = rule.write(list, "card", *info, selection);
+    }
+    return result;
+}
+
 /// "film", "ribbon", "laminate"
 inline constexpr auto medium = rows<_MediaRibbonInfo>({
     {"vessa_part_number", text<&_MediaRibbonInfo::partNumber>},

@@ -1,100 +1,15 @@
 /// @file commands.h
-/// What the requests without a record of their own are made of: the arguments of their composer, as a record. The names
-/// are those of the arguments. Texts are the host's; where null is allowed, it leaves out what the text would be.
+/// What the requests without a record of their own are made of: the arguments of their composer, as a record, with the
+/// lists of their fields.
 #ifndef KVJXML_MESSAGES_COMMANDS_H
 #define KVJXML_MESSAGES_COMMANDS_H
 
 #include "fields/list.h"
+#include "kvjxml_arguments.hpp"
 
 namespace kvj {
 
-namespace command {
-
-// ---- Service commands ----
-
-struct Motor {
-    int state;
-    int direction;
-    int speed;
-    int motor;
-};
-
-struct MotorMode {
-    int mode;
-    int period;
-    float rpm;
-    int speed;
-    bool forward;
-};
-
-struct Cam {
-    const char* cam;
-    const char* state;
-};
-
-struct Calibrate {
-    int calibration;
-    float torque;
-    float rpm;
-};
-
-struct Other {
-    const char* device;
-    const char* text;
-    const char* panel;
-    bool on;
-};
-
-struct Rfid {
-    const char* device;
-    int mode;
-    int antenna;
-};
-
-// ---- The hand-shake ----
-
-struct Nonce {
-    const char* nonce;
-};
-
-struct ActionRequest {
-    const char* name;
-    const char* model;
-    const char* serial;
-    const char* nonce;
-};
-
-struct ActionDirective {
-    const char* model;
-    const char* serial;
-    const char* nonce;
-    const char* hmac;
-    int timeout;
-};
-
-struct Passkey {
-    const char* passkey;
-};
-
-struct PasskeyChange {
-    const char* current_passkey;
-    const char* new_passkey;
-};
-
-struct KeyChange {
-    const char* current_passkey;
-    const char* current_host_authentication_key;
-    const char* new_host_authentication_key;
-    const char* current_data_encryption_key;
-    const char* new_data_encryption_key;
-    const char* current_printer_lock_key;
-    const char* new_printer_lock_key;
-    bool host;
-    bool data;
-    bool lock;
-};
-
-}  // namespace command
+namespace command = kvjxml::arguments;
 
 // clang-format off
 

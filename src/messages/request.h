@@ -9,6 +9,7 @@
 
 #include "fields/field.h"
 #include "foundation/rows.h"
+#include "foundation/tags.h"
 
 namespace kvj {
 
@@ -51,7 +52,12 @@ struct Request {
     /// What a host does with a record of zeros before it fills it, and after composing; null for nothing.
     void (*begin)(void* record);
     void (*end)(void* record);
+    /// Has the named operation compose it.
     bool (*compose)(const void* record, const Choices& choices, const RequestBuffer& out);
+    const char* root;  ///< the name of its root
+    /// Fills the root; false when there is nothing to send. The record is the same, but for the media catalogue, of
+    /// which it is `media::Cards`.
+    bool (*write)(Parent root, const void* record, const Choices& choices);
 
     /// Whether a host chooses what is written by bits.
     [[nodiscard]] bool hasSections() const { return !table.empty() && table.front().section != 0; }

@@ -7,6 +7,7 @@
 
 #include "capabilities/tables.h"
 #include "configuration/document.h"
+#include "devicecontrol/commands.h"
 #include "fields/capabilities.h"
 #include "fields/identity.h"
 #include "fields/media.h"
@@ -17,6 +18,7 @@
 #include "messages/catalogue.h"
 #include "messages/commands.h"
 #include "messages/request.h"
+#include "security/actions.h"
 
 namespace kvj {
 
@@ -56,6 +58,26 @@ bool composePrinterId(const Kavrin::KVPrinterInfo& info, const Choices& choices,
 
 bool keys(const Kavrin::_tagSecKeys& it, const Choices& /*choices*/, const RequestBuffer& out) {
     return KVJSetSecActions().SetSecureActionXML(unchanged(it), out.wide, out.capacity);
+}
+
+bool writeCapabilities(Parent root, const Kavrin::_Capabilities& caps, const Choices& choices) {
+    capabilities::addCapabilities(root, caps, choices.mode, choices.withoutTransfer);
+    return true;
+}
+
+bool writeConfiguration(Parent root, const Kavrin::_KVConfiguration& values, const Choices& choices) {
+    return kvj::compose(root, values, configuration::documentSections,
+                        {.directToCard = choices.withoutTransfer, .sections = choices.sections, .card = choices.card});
+}
+
+bool writeMedia(Parent root, const media::Cards& cards, const Choices& choices) {
+    media::addCards(root, cards, choices.allCards, {.directToCard = choices.withoutTransfer});
+    return true;
+}
+
+bool writePrinterId(Parent root, const Kavrin::KVPrinterInfo& info, const Choices& choices) {
+    if (choices.full) return kvj::compose(root, info, identity::printerTags);
+    return kvj::compose(root, info, identity::printerSections, {.sections = choices.sections}, true);
 }
 
 WrittenFields capabilitiesWritten(const Choices& choices) {
@@ -140,7 +162,26 @@ bool keyChange(const command::KeyChange& it, const Choices& /*choices*/, const R
         text(it.current_printer_lock_key), text(it.new_printer_lock_key), it.host, it.data, it.lock);
 }
 
+template <class Arguments>
+bool writeCommand(Parent root, const Arguments& it, const Choices& /*choices*/) {
+    return devicecontrol::addCommand(root, it);
+}
+
+template <class Arguments>
+bool writeAction(Parent root, const Arguments& it, const Choices& /*choices*/) {
+    return security::addAction(root, it);
+}
+
 // ---- The table ----
+
+template <auto Write>
+struct Written;
+template <class Record, bool (*Write)(Parent, const Record&, const Choices&)>
+struct Written<Write> {
+    static bool write(Parent root, const void* record, const Choices& choices) {
+        return Write(root, *static_cast<const Record*>(record), choices);
+    }
+};
 
 template <class Compose>
 struct Composed;
@@ -158,8 +199,9 @@ struct Special {
     void (*end)(void* record) = nullptr;
 };
 
-template <auto Compose>
-constexpr Request request(std::string_view name, std::string_view operation, const Special& special = {}) {
+template <auto Compose, auto Write>
+constexpr Request request(std::string_view name, std::string_view operation, const char* root,
+                          const Special& special = {}) {
     using Record = typename Composed<decltype(Compose)>::Record;
     return {name,
             operation,
@@ -172,37 +214,53 @@ constexpr Request request(std::string_view name, std::string_view operation, con
             special.end,
             [](const void* record, const Choices& choices, const RequestBuffer& out) {
                 return Compose(*static_cast<const Record*>(record), choices, out);
-            }};
+            },
+            root,
+            Written<Write>::write};
 }
 
-constexpr Special serviceCommand{.isWide = false, .copy = "/tmp/composedXML"};
+/// A service command.
+template <auto Compose>
+constexpr Request command(std::string_view name, std::string_view operation) {
+    using Arguments = typename Composed<decltype(Compose)>::Record;
+    return request<Compose, writeCommand<Arguments>>(name, operation, devicecontrol::rootName,
+                                                     {.isWide = false, .copy = "/tmp/composedXML"});
+}
+
+/// A message of the hand-shake.
+template <auto Compose>
+constexpr Request action(std::string_view name, std::string_view operation) {
+    using Arguments = typename Composed<decltype(Compose)>::Record;
+    return request<Compose, writeAction<Arguments>>(name, operation, security::rootName<Arguments>);
+}
 
 constexpr Request table[] = {
-    request<composeCapabilities>("capabilities", "SetCapabilities",
-                                 {.table = described<capabilities::wholeTags>, .written = capabilitiesWritten}),
-    request<composeConfiguration>("configuration", "SetConfiguration",
-                                  {.table = described<configuration::documentSections>,
-                                   .written = configurationWritten,
-                                   .copy = "/tmp/firmwaresettings"}),
-    request<composeMedia>(
-        "media", "SetMedia",
+    request<composeCapabilities, writeCapabilities>(
+        "capabilities", "SetCapabilities", "capabilities",
+        {.table = described<capabilities::wholeTags>, .written = capabilitiesWritten}),
+    request<composeConfiguration, writeConfiguration>("configuration", "SetConfiguration", "configuration",
+                                                      {.table = described<configuration::documentSections>,
+                                                       .written = configurationWritten,
+                                                       .copy = "/tmp/firmwaresettings"}),
+    request<composeMedia, writeMedia>(
+        "media", "SetMedia", "media",
         {.table = described<media::cardTags>, .written = mediaWritten, .begin = beginCatalogue, .end = endCatalogue}),
-    request<composePrinterId>(
-        "printer-id", "SetPrinterInfo",
+    request<composePrinterId, writePrinterId>(
+        "printer-id", "SetPrinterInfo", "printer_id",
         {.table = described<identity::printerSections>, .written = printerIdWritten, .copy = "/tmp/printidsettings"}),
-    request<motor>("motor", "RunMotorCommand", serviceCommand),
-    request<motorMode>("motor-mode", "RunMotorCommand", serviceCommand),
-    request<cam>("cam", "RunCamCommand", serviceCommand),
-    request<calibrate>("calibrate", "RunCalibrateCommand", serviceCommand),
-    request<other>("other", "RunOtherCommands", serviceCommand),
-    request<rfid>("rfid", "RunRFIDCommands", serviceCommand),
-    request<nonce>("nonce", "GetNonceXML"),
-    request<actionRequest>("secure-action-request", "SecureActionRequestXML"),
-    request<actionDirective>("secure-action-directive", "SecureActionDirectiveXML"),
-    request<passkey>("passkey", "GetSecureActionXML"),
-    request<passkeyChange>("passkey-change", "GetPasskeyXML"),
-    request<keys>("keys", "SetSecureActionXML"),
-    request<keyChange>("key-change", "SetHostAndEncryptXML"),
+    command<motor>("motor", "RunMotorCommand"),
+    command<motorMode>("motor-mode", "RunMotorCommand"),
+    command<cam>("cam", "RunCamCommand"),
+    command<calibrate>("calibrate", "RunCalibrateCommand"),
+    command<other>("other", "RunOtherCommands"),
+    command<rfid>("rfid", "RunRFIDCommands"),
+    action<nonce>("nonce", "GetNonceXML"),
+    action<actionRequest>("secure-action-request", "SecureActionRequestXML"),
+    action<actionDirective>("secure-action-directive", "SecureActionDirectiveXML"),
+    action<passkey>("passkey", "GetSecureActionXML"),
+    action<passkeyChange>("passkey-change", "GetPasskeyXML"),
+    action<keys>("keys", "SetSecureActionXML"),
+    action<keyChange>("key-change", "SetHostAndEncryptXML"),
 };
 
 }  // namespace

@@ -44,7 +44,7 @@ namespace put {
 template <class Card, class Bit>
 inline constexpr WriteRule<Card> bit{
     {.field = {nameOfType<Card>(), Bit::name}, .kind = Kind::either, .word = "yes", .otherWord = "no"},
-    [](TiXmlElement* parent, const char* name, const Card& card, const Selection&) {
+    [](Parent parent, const char* name, const Card& card, const Selection&) {
         return addTag(parent, name, Bit::get(card) ? "yes" : "no");
     }};
 

@@ -48,7 +48,7 @@ constexpr kvj::WordTable levels({{"low", 0x8}, {"off", 0x1}});
 
 /// A rule that adds nothing and says so.
 constexpr kvj::WriteRule<Record> failing{
-    {}, [](TiXmlElement*, const char*, const Record&, const Selection&) { return false; }};
+    {}, [](kvj::Parent, const char*, const Record&, const Selection&) { return false; }};
 constexpr kvj::Condition<Record> whenReady{"when ready",
                                            [](const Record& record, const Selection&) { return record.ready; }};
 

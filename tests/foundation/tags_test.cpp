@@ -20,8 +20,8 @@ using AddText = Tags;
 using SetAttribute = Tags;
 
 TEST_F(AddTag, IsAnEmptyLastChild) {
-    const TiXmlElement* first = kvj::addTag(&root, "a");
-    const TiXmlElement* second = kvj::addTag(&root, "b");
+    const TiXmlElement* first = kvj::addTag(&root, "a").element();
+    const TiXmlElement* second = kvj::addTag(&root, "b").element();
     EXPECT_EQ(first, root.FirstChild());
     EXPECT_EQ(second, root.LastChild());
     EXPECT_EQ(written(root), "<r><a /><b /></r>");
@@ -33,14 +33,14 @@ TEST_F(AddTag, GoesOnFromTheElementAdded) {
 }
 
 TEST_F(AddTag, TheSameNameIsAddedAgain) {
-    EXPECT_NE(kvj::addTag(&root, "a"), kvj::addTag(&root, "a"));
+    EXPECT_NE(kvj::addTag(&root, "a").element(), kvj::addTag(&root, "a").element());
     EXPECT_EQ(written(root), "<r><a /><a /></r>");
 }
 
 TEST_F(AddTag, WithoutParentOrNameAddsNothing) {
-    EXPECT_EQ(kvj::addTag(nullptr, "a"), nullptr);
-    EXPECT_EQ(kvj::addTag(&root, nullptr), nullptr);
-    EXPECT_EQ(kvj::addTag(nullptr, nullptr), nullptr);
+    EXPECT_FALSE(kvj::addTag(nullptr, "a"));
+    EXPECT_FALSE(kvj::addTag(&root, nullptr));
+    EXPECT_FALSE(kvj::addTag(nullptr, nullptr));
     EXPECT_EQ(written(root), "<r />");
 }
 

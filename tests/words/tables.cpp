@@ -56,6 +56,7 @@ std::span<const NamedWords> wordTables() {
         named<configuration::transferTypes>,
         named<configuration::usbSpeeds>,
         named<devicecontrol::calibrations>,
+        named<devicecontrol::motorModes>,
         named<devicecontrol::motors>,
         named<devicecontrol::rfidModes>,
         named<devicecontrol::spoolTexts>,
