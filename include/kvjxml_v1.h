@@ -5,7 +5,7 @@
 #ifndef KVJXML_V1_H
 #define KVJXML_V1_H
 
-#include <stddef.h>
+#include <stddef.h>  // NOLINT(modernize-deprecated-headers): it is a header for C as well.
 
 #include "kvjxml_export.h"
 
