@@ -3,16 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdlib>
 #include <cstring>
 #include <kvjxml_read.hpp>
-#include <latch>
 #include <string>
 #include <string_view>
-#include <thread>
-#include <vector>
 
 #include "hostile/samples.h"
 #include "messages/message.h"
@@ -186,30 +182,6 @@ TEST(HostileReadings, OfManyAttributesTakeTimeInProportion) {
     const AnyReading reading = readAny(messageOf("job_list"), reply + "/>", kvjxml::diagnose);
     EXPECT_TRUE(reading.whole);
     EXPECT_EQ(reading.findings.size(), 10'000U);
-}
-
-// ---- Threads ----
-
-TEST(ReadingThreads, ReadConfigurationsAsOneDoes) {
-    constexpr std::size_t count = 8;
-    const std::string sample = sampleOf("configuration");
-    const auto expected = kvjxml::read<kvjxml::messages::configuration>(sample, kvjxml::diagnose);
-    ASSERT_TRUE(expected);
-    std::array<std::size_t, count> wrong{};
-    std::latch start(count);
-    std::vector<std::jthread> threads;
-    for (std::size_t& wrongHere : wrong) {
-        threads.emplace_back([&] {
-            start.arrive_and_wait();
-            for (int round = 0; round < 10; ++round) {
-                const auto reading = kvjxml::read<kvjxml::messages::configuration>(sample, kvjxml::diagnose);
-                if (std::memcmp(&*reading, &*expected, sizeof *reading) != 0) ++wrongHere;
-                if (toldOf(reading.findings()) != toldOf(expected.findings())) ++wrongHere;
-            }
-        });
-    }
-    threads.clear();  // waits for all
-    EXPECT_THAT(wrong, testing::Each(0U));
 }
 
 }  // namespace

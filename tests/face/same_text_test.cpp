@@ -2,11 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <clocale>
 #include <cstring>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "face/faces.h"
@@ -115,29 +113,6 @@ TEST(SameText, WithoutAcceptedChangesWhereNothingIsRefused) {
     });
     EXPECT_GT(refused, 1000U);
     EXPECT_GT(sent, 100U);
-}
-
-TEST(SameText, InThreadsThatShareARecord) {
-    for (const Request& request : kvj::requests()) {
-        Kept kept;
-        const ZeroedRecord record(request, request.record->size);
-        const Choices choices = kvj::tests::readSample(request, record.get(), kept);
-        const std::string expected = textOf(request, record.get(), choices);
-        const std::size_t problems = composed(request, record.get(), choices, false).problems().size();
-        std::array<int, 4> wrong{};
-        {
-            std::vector<std::jthread> threads;
-            for (int& mine : wrong) {
-                threads.emplace_back([&] {
-                    for (int i = 0; i < 50; ++i) {
-                        if (textOf(request, record.get(), choices) != expected) ++mine;
-                        if (composed(request, record.get(), choices, false).problems().size() != problems) ++mine;
-                    }
-                });
-            }
-        }
-        EXPECT_EQ(wrong, (std::array<int, 4>{})) << request.name;
-    }
 }
 
 }  // namespace
