@@ -8,7 +8,6 @@
 #include <kvjxml.hpp>
 
 #include <cstdlib>
-#include <cstring>
 #include <iostream>
 #include <iterator>
 #include <string>
@@ -36,8 +35,6 @@ int main(int count, char** arguments) {
         std::cerr << "usage: configure NETWORK CONTRAST <configuration.xml >request.xml\n";
         return 2;
     }
-    const std::string network = arguments[1];
-
     const std::string bytes(std::istreambuf_iterator<char>(std::cin), {});
     const auto reply = kvjxml::read<kvjxml::messages::configuration>(bytes);
     if (!reply) {
@@ -51,12 +48,10 @@ int main(int count, char** arguments) {
     }
 
     Configuration settings = *reply;
-    if (network.size() >= sizeof settings.wireless.ssid) {
+    if (!kvjxml::set_text(settings.wireless.ssid, arguments[1])) {
         std::cerr << "the name of a network has at most " << sizeof settings.wireless.ssid - 1 << " bytes\n";
         return 1;
     }
-    std::memset(settings.wireless.ssid, 0, sizeof settings.wireless.ssid);
-    std::memcpy(settings.wireless.ssid, network.data(), network.size());
     settings.lcdContrast.value = std::atoi(arguments[2]);
 
     const auto request = kvjxml::compose(settings, kvjxml::section::wireless | kvjxml::section::lcd_contrast);

@@ -379,18 +379,6 @@ template <class Message>
     return result;
 }
 
-// ---- Texts ----
-
-/// The text of a field, as a view of it.
-template <std::size_t Size>
-[[nodiscard]] std::string_view text(const char (&field)[Size]) noexcept {
-    std::size_t length = 0;
-    while (length < Size && field[length] != '\0') ++length;
-    return {field, length};
-}
-template <std::size_t Size>
-std::string_view text(const char (&&field)[Size]) = delete;  // It would view a temporary.
-
 }  // namespace v1
 }  // namespace kvjxml
 

@@ -4,6 +4,8 @@
 #ifndef KVJXML_RECORDS_HPP
 #define KVJXML_RECORDS_HPP
 
+#include <cstddef>
+#include <string_view>
 #include <vector>
 
 #include "CapabilitiesRecords.h"
@@ -98,6 +100,29 @@ struct printer_interim_key {
     /// "printer_interim_key": decimal, or hexadecimal after "0x".
     long key = 0;
 };
+
+// ---- Texts ----
+
+/// The text of a field, as a view of it.
+template <std::size_t Size>
+[[nodiscard]] std::string_view text(const char (&field)[Size]) noexcept {
+    std::size_t length = 0;
+    while (length < Size && field[length] != '\0') ++length;
+    return {field, length};
+}
+template <std::size_t Size>
+std::string_view text(const char (&&field)[Size]) = delete;  // It would view a temporary.
+
+/// Sets the text of a field, with zeros behind it.
+/// @return false, and the field stays as it is, when the text does not fit with its terminator.
+template <std::size_t Size>
+[[nodiscard]] bool set_text(char (&field)[Size], std::string_view text) noexcept {
+    if (text.size() >= Size) return false;
+    std::size_t at = 0;
+    for (const char c : text) field[at++] = c;
+    while (at < Size) field[at++] = '\0';
+    return true;
+}
 
 }  // namespace v1
 }  // namespace kvjxml

@@ -38,7 +38,8 @@ bool addIpAddress(Parent parent, const char* name, unsigned long address);
 
 // ---- What a host passes as an argument; `field` is its name in the record of arguments ----
 
-/// Whether an argument can be the name of an element. It is added all the same, unless it is null.
+/// Tells of an argument that cannot be the name of an element. In a tree it is added all the same, unless it is null;
+/// to a text only where somebody is told.
 Parent addNamed(Parent parent, const char* name, std::string_view field);
 /// An element with a text. Null adds nothing.
 bool addArgument(Parent parent, const char* name, const char* text, std::string_view field);

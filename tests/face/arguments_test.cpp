@@ -36,6 +36,14 @@ std::string line(problem_kind kind, const std::string& rest) {
     return std::to_string(static_cast<int>(kind)) + " " + rest + "\n";
 }
 
+TEST(ProblemKinds, HaveTheirNames) {
+    EXPECT_EQ(to_string(problem_kind::no_word), "no-word");
+    EXPECT_EQ(to_string(problem_kind::sent_as_maximum), "sent-as-maximum");
+    EXPECT_EQ(to_string(problem_kind::no_name), "no-name");
+    EXPECT_EQ(to_string(problem_kind::no_request), "no-request");
+    EXPECT_EQ(to_string(static_cast<problem_kind>(99)), "");
+}
+
 TEST(Motor, HasOneOfSixNumbers) {
     EXPECT_EQ(problemsOf(commands::motor{true, false, 3, 5}), "");
     EXPECT_EQ(problemsOf(commands::motor{true, false, 3, 6}),
@@ -89,6 +97,13 @@ TEST(Other, NeedsTheNameOfAnElement) {
               line(problem_kind::no_name, "/device /device_control/a><b a><b -> a><b"));
     EXPECT_EQ(problemsOf(commands::other{withNul, "1", "", true}),
               line(problem_kind::no_name, "/device /device_control/a a0b -> a"));
+}
+
+TEST(Other, IsRefusedWithoutSuchANameEvenIfChangesAreAccepted) {
+    const auto request = kvjxml::compose(commands::other{"a b", "1", "", true}, kvjxml::accept_changes{});
+    ASSERT_FALSE(request);
+    EXPECT_EQ(request.problems().front().kind, problem_kind::no_name);
+    EXPECT_TRUE(kvjxml::compose(commands::other{"fan", "a  b", "", true}, kvjxml::accept_changes{}));
 }
 
 TEST(Other, SendsTextsThatArrive) {

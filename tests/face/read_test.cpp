@@ -234,6 +234,27 @@ TEST(ReadErrors, CutALongNameAfter63Bytes) {
     EXPECT_EQ(read<messages::general_status>("<" + name + "/>").error().root, std::string(63, 'a'));
 }
 
+TEST(FieldTexts, AreViewedUpToTheirTerminatorOrTheEndOfTheField) {
+    const char field[4] = {'a', 'b', '\0', 'c'};
+    EXPECT_EQ(kvjxml::text(field), "ab");
+    const char full[2] = {'a', 'b'};
+    EXPECT_EQ(kvjxml::text(full), "ab");
+}
+
+TEST(FieldTexts, AreSetWithZerosBehindThem) {
+    char field[4] = {'w', 'x', 'y', 'z'};
+    EXPECT_TRUE(kvjxml::set_text(field, "a"));
+    EXPECT_EQ(std::string(field, sizeof field), std::string("a\0\0\0", 4));
+    EXPECT_TRUE(kvjxml::set_text(field, "abc"));
+    EXPECT_STREQ(field, "abc");
+}
+
+TEST(FieldTexts, ThatDoNotFitLeaveTheField) {
+    char field[4] = {'w', 'x', 'y', '\0'};
+    EXPECT_FALSE(kvjxml::set_text(field, "abcd"));
+    EXPECT_STREQ(field, "wxy");
+}
+
 TEST(ReadErrors, NeedNoText) {
     EXPECT_FALSE(read<messages::general_status>(std::string_view()));
     EXPECT_FALSE(read<messages::general_status>(std::string_view(), kvjxml::diagnose));
