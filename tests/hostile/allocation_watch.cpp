@@ -92,6 +92,14 @@ std::size_t AllocationWatch::alive() const { return state.alive; }
 
 void* operator new(std::size_t size) { return kvj::tests::allocate(size); }
 void* operator new[](std::size_t size) { return kvj::tests::allocate(size); }
+void* operator new(std::size_t size, const std::nothrow_t& /*nothrow*/) noexcept {
+    try {
+        return kvj::tests::allocate(size);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+void operator delete(void* memory, const std::nothrow_t& /*nothrow*/) noexcept { kvj::tests::release(memory); }
 void operator delete(void* memory) noexcept { kvj::tests::release(memory); }
 void operator delete[](void* memory) noexcept { kvj::tests::release(memory); }
 void operator delete(void* memory, std::size_t /*size*/) noexcept { kvj::tests::release(memory); }
