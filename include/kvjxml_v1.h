@@ -30,7 +30,9 @@ struct kvjxml_v1_target {
     unsigned char* carried;
     const struct kvjxml_v1_list* lists;  ///< all that the message has
     size_t lists_count;
-    char* root;        ///< gets the name of the first element, terminated and cut, where the message was not found
+    /// Gets a terminated text where the message was not found: the name of the reply's first element, cut to its room;
+    /// empty when there is no element, or no such message in this library.
+    char* root;
     size_t root_size;  ///< 1 at least
 };
 
@@ -41,14 +43,15 @@ enum kvjxml_v1_result {
     kvjxml_v1_too_large = 8
 };
 
-/// What was ignored, changed or lost in a reply.
+/// What was ignored, changed or lost in a reply; kvjxml::finding says what each field is. No text is null, and all but
+/// `text` are terminated.
 struct kvjxml_v1_finding {
-    int kind;
-    int severity;
-    size_t line;
-    size_t column;
-    size_t offset;
-    size_t length;
+    int kind;       ///< a kvjxml::finding_kind
+    int severity;   ///< a kvjxml::severity
+    size_t line;    ///< from 1
+    size_t column;  ///< in characters, from 1
+    size_t offset;  ///< in bytes
+    size_t length;  ///< in bytes
     const char* path;
     const char* field;
     const char* text;

@@ -39,22 +39,8 @@ severity severityOf(finding_kind kind) {
 }
 
 Role roleOf(const Description& row) {
-    switch (row.kind) {
-        case Kind::attribute:
-        case Kind::givenAttributes:
-            return Role::bare;
-        case Kind::wordOfPanels:
-        case Kind::group:
-        case Kind::part:
-        case Kind::list:
-        case Kind::entry:
-        case Kind::firstEntry:
-        case Kind::newEntry:
-        case Kind::byDescription:
-            return Role::around;
-        default:
-            return Role::value;
-    }
+    if (row.kind == Kind::attribute || row.kind == Kind::givenAttributes) return Role::bare;
+    return hasOwnValue(row.kind) && row.kind != Kind::wordOfPanels ? Role::value : Role::around;
 }
 
 /// How many entries the record of the named operation holds in an array of its own; 0 when it has none.

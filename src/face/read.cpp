@@ -1,12 +1,10 @@
 #include <kvjxml_v1.h>
 
 #include <algorithm>
-#include <array>
-#include <cstring>
-#include <memory>
 #include <new>
 #include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "face/diagnosis.h"
@@ -68,7 +66,10 @@ int kvjxml_v1_read(int message, const char* text, size_t length, const kvjxml_v1
     try {
         const auto all = kvj::messages();
         const auto number = static_cast<std::size_t>(message);
-        if (number >= all.size()) return 0;  // The host is newer than the library.
+        if (number >= all.size()) {  // The host is newer than the library.
+            *target->root = '\0';
+            return 0;
+        }
         const kvj::Message& row = all[number];
         if (findings == nullptr) return kvj::read(row, {text, length}, *target, nullptr);
         kvj::Findings found;

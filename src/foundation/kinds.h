@@ -60,6 +60,9 @@ enum class Kind {
     givenAttributes,  ///< nothing is read: the element is given the `attributes`
 };
 
+/// Whether an element is read for a value of its own, and not for the elements inside it.
+constexpr bool hasOwnValue(Kind kind) { return kind < Kind::group; }
+
 /// How the digits of an integer stand in a text.
 enum class Base {
     decimal,

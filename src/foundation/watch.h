@@ -16,7 +16,6 @@ struct Read {
     Element element;
     const Description& row;
     const void* record;  ///< whose fields the row names; null for none
-    bool result;         ///< what the rule said
     bool again;          ///< whether the row has read another child of the same parent before
 };
 
@@ -42,7 +41,7 @@ public:
 
     void read(const Read& read) {
         const Kind kind = read.row.kind;
-        if (read.record != nullptr && kind < Kind::group) {  // Elements around others carry none of their own.
+        if (read.record != nullptr && hasOwnValue(kind)) {
             if (kind == Kind::attribute) {
                 if (read.element.attribute(read.row.word.data()) != nullptr) mark(read.row.field, read.record);
             } else if (kind != Kind::setting && kind != Kind::decimalSetting && read.element.text() != nullptr) {

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <clocale>
 #include <cstddef>
 #include <cstdlib>
 #include <cstring>
@@ -20,6 +19,7 @@
 #include "hostile/samples.h"
 #include "messages/message.h"
 #include "messages/zeroed_record.h"
+#include "support/locale_scope.h"
 #include "support/random_replies.h"
 #include "support/readings.h"
 
@@ -34,28 +34,6 @@ using namespace kvj::tests;
 
 // ---- The named operation, with room for all ----
 
-/// The locale of this thread while it lives.
-class ThreadLocale {
-public:
-    explicit ThreadLocale(const char* name) : own_(newlocale(LC_ALL_MASK, name, nullptr)) {
-        if (own_ == nullptr) throw std::runtime_error(std::string("no locale ") + name);
-    }
-    ~ThreadLocale() { freelocale(own_); }
-    ThreadLocale(const ThreadLocale&) = delete;
-    ThreadLocale& operator=(const ThreadLocale&) = delete;
-
-    template <class Action>
-    auto during(Action action) const {
-        const locale_t before = uselocale(own_);
-        const auto result = action();
-        uselocale(before);
-        return result;
-    }
-
-private:
-    locale_t own_;
-};
-
 constexpr std::string_view mark = "\xEF\xBB\xBF";
 
 /// A reply in both forms, for a named operation that is to read it as UTF-8: behind a byte-order mark, and padded to as
@@ -67,28 +45,19 @@ public:
         // What is no text at all in one locale is a byte for each character in another.
         isUtf8_ = firstOutsideUtf8(narrow_) == narrow_.size();
         if (isUtf8_) {
-            utf8().during([&] { return std::mbstowcs(wide_.data(), narrow_.c_str(), wide_.size()); });
+            const LocaleScope utf8("C.UTF-8");
+            std::mbstowcs(wide_.data(), narrow_.c_str(), wide_.size());
         } else {
             std::ranges::transform(narrow_, wide_.begin(), [](char c) { return static_cast<unsigned char>(c); });
         }
     }
 
     bool read(const Message& message, void* record) const {
-        return (isUtf8_ ? utf8() : latin()).during([&] {
-            return message.read({narrow_.c_str(), wide_.data(), narrow_.size()}, record);
-        });
+        const LocaleScope locale(isUtf8_ ? "C.UTF-8" : "de_DE.ISO-8859-1");
+        return message.read({narrow_.c_str(), wide_.data(), narrow_.size()}, record);
     }
 
 private:
-    static const ThreadLocale& utf8() {
-        static const ThreadLocale locale("C.UTF-8");
-        return locale;
-    }
-    static const ThreadLocale& latin() {
-        static const ThreadLocale locale("de_DE.ISO-8859-1");
-        return locale;
-    }
-
     std::string narrow_;
     std::vector<wchar_t> wide_;
     bool isUtf8_;

@@ -257,6 +257,15 @@ TEST(FieldTexts, ThatDoNotFitLeaveTheField) {
     EXPECT_STREQ(field, "wxy");
 }
 
+TEST(ReadErrors, AreThereForAMessageThatAnOlderLibraryDoesNotKnow) {
+    char root[] = "before";
+    kvjxml_v1_target target{};
+    target.root = root;
+    target.root_size = sizeof root;
+    EXPECT_EQ(kvjxml_v1_read(1000, "<a/>", 4, &target, nullptr), 0);
+    EXPECT_STREQ(root, "");
+}
+
 TEST(ReadErrors, NeedNoText) {
     EXPECT_FALSE(read<messages::general_status>(std::string_view()));
     EXPECT_FALSE(read<messages::general_status>(std::string_view(), kvjxml::diagnose));

@@ -19,7 +19,7 @@
 #include <type_traits>
 #include <utility>
 
-#include "foundation/locale_scope.h"
+#include "support/locale_scope.h"
 
 namespace convert = kvj::convert;
 using kvj::tests::LocaleScope;

@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "foundation/element.h"
-#include "foundation/locale_scope.h"
 #include "foundation/reading.h"
+#include "support/locale_scope.h"
 
 using namespace kvj;
 using namespace kvj::tests;

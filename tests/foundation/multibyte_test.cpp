@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
-#include "foundation/locale_scope.h"
 #include "support/guarded_memory.h"
+#include "support/locale_scope.h"
 
 using kvj::tests::End;
 using kvj::tests::GuardedMemory;

@@ -11,9 +11,9 @@
 #include <string_view>
 
 #include "foundation/element.h"
-#include "foundation/locale_scope.h"
 #include "support/files.h"
 #include "support/guarded_memory.h"
+#include "support/locale_scope.h"
 #include "support/tree.h"
 #include "support/xml.h"
 

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "foundation/locale_scope.h"
 #include "support/files.h"
+#include "support/locale_scope.h"
 #include "support/xml.h"
 
 using kvj::tests::contentOf;

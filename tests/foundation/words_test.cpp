@@ -12,9 +12,9 @@
 
 #include "FoundationRecords.h"
 #include "KVJHelper.h"
-#include "foundation/locale_scope.h"
 #include "foundation/name.h"
 #include "foundation/vocabulary.h"
+#include "support/locale_scope.h"
 
 using kvj::Match;
 using kvj::Word;

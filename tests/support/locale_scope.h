@@ -1,7 +1,7 @@
 /// @file locale_scope.h
 /// A part of a test that runs in a locale of its own.
-#ifndef KVJXML_TESTS_FOUNDATION_LOCALE_SCOPE_H
-#define KVJXML_TESTS_FOUNDATION_LOCALE_SCOPE_H
+#ifndef KVJXML_TESTS_SUPPORT_LOCALE_SCOPE_H
+#define KVJXML_TESTS_SUPPORT_LOCALE_SCOPE_H
 
 #include <clocale>
 #include <stdexcept>
