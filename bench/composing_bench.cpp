@@ -99,7 +99,7 @@ Task composing(const char* name, Ask ask, Named named, ByHand byHand) {
         const auto& first = composed.problems().front();
         throw std::runtime_error(std::string(name) + " is refused for " + first.field + ": " + first.asked);
     }
-    const std::string text = composed.text();
+    const std::string& text = composed.text();
     const auto wideText = std::make_shared<std::vector<wchar_t>>(65536);
     const auto pugixml = std::make_shared<PugixmlComposer>();
     constexpr double half = 0.5;

@@ -60,7 +60,7 @@ void add(Node parent, const char* name, const _MinMaxValFloat& setting) {
 void addHardwareAddress(Node parent, const char* name, const unsigned char (&address)[6]) {
     constexpr char digits[] = "0123456789abcdef";
     char text[18];
-    for (int i = 0; i < 6; ++i) {
+    for (std::size_t i = 0; i < 6; ++i) {
         text[3 * i] = digits[address[i] / 16];
         text[3 * i + 1] = digits[address[i] % 16];
         text[3 * i + 2] = ':';

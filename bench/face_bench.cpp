@@ -76,7 +76,7 @@ std::vector<Task> tasks() {
         Kavrin::KVJSensorParser().ParseSensorStates(text.c_str(), 0, states);
         return states.doorOpen[0] != '\0';
     });
-    for (const std::size_t count : {20, 200, 2000}) {
+    for (const std::size_t count : {20U, 200U, 2000U}) {
         add<messages::media>(all, "media/" + std::to_string(count), catalogue(count), [](const std::string& text) {
             const auto media = Kavrin::MakeKVMedia();
             Kavrin::KVJMediaParser().GetMedia(text.front(), 0, *media);

@@ -300,7 +300,7 @@ protected:
 
 private:
     using plain_type = typename detail::plain_part<record>::type;
-    const plain_type& plain() const noexcept { return record_; }
+    [[nodiscard]] const plain_type& plain() const noexcept { return record_; }
 
     record record_{};
     std::array<unsigned char, (sizeof(plain_type) + 7) / 8> carried_{};

@@ -20,6 +20,7 @@ bool KVJSetCaps::SetCapabilities(const _Capabilities& caps, wchar_t* out, int ou
     return saveJob(out, outLen);
 }
 
+// Hosts know it as it is. NOLINTNEXTLINE(readability-make-member-function-const)
 bool KVJSetCaps::addCapabilities(TiXmlElement* root, const _Capabilities& caps, int mode) {
     return tables::addCapabilities(root, caps, mode, directToCard_);
 }

@@ -29,6 +29,7 @@ Choices choicesOf(const kvjxml_v1_request& asked) {
 
 kvjxml_v1_characters charactersOf(std::string_view text) { return {text.data(), text.size()}; }
 
+// It begins again once, to find the reasons. NOLINTNEXTLINE(misc-no-recursion)
 kvjxml_v1_composing composeText(const kvjxml_v1_request& asked, const kvjxml_v1_room& where,
                                 const kvjxml_v1_listener& listener, std::size_t& size) {
     const auto row = std::ranges::find(requests(), asked.name, &Request::name);

@@ -22,7 +22,7 @@ TEST(CommandLine, HelpShowsTheExitCodes) {
         const Outcome outcome = runTool(words);
         EXPECT_EQ(outcome.code, 0);
         EXPECT_THAT(outcome.out, HasSubstr("0  done\n"));
-        EXPECT_THAT(outcome.out, HasSubstr("4  the reader reported failure; what was read is printed all the same\n"));
+        EXPECT_THAT(outcome.out, HasSubstr("4  a document is damaged; what could be read is printed all the same\n"));
     }
 }
 

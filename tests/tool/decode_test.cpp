@@ -14,7 +14,6 @@ using kvj::tests::runTool;
 using kvj::tests::TemporaryFolder;
 using nlohmann::json;
 using testing::HasSubstr;
-using testing::Not;
 
 const std::string sample = std::string(KVJXML_REPLIES) + "/get_job_status.xml";
 
@@ -77,6 +76,8 @@ TEST(Decode, WhatIsNoXmlIsCode3AndSaysWhy) {
 TEST(Decode, NoReplyIsTooDeepOrTooWide) {
     std::string deep = "<get_job_status><action_id>7</action_id>";
     for (int level = 0; level < 10'000; ++level) deep += "<a>";
+    for (int level = 0; level < 10'000; ++level) deep += "</a>";
+    deep += "</get_job_status>";
     std::string wide = "<get_job_status";
     for (int number = 0; number < 10'000; ++number) wide += " a" + std::to_string(number) + "='1'";
     wide += "><action_id>7</action_id></get_job_status>";
@@ -97,15 +98,15 @@ TEST(Decode, BytesThatAreNotUtf8AreCode3AndSayWhere) {
 TEST(Decode, AKnownRootBehindAnUnknownOneIsFound) {
     const Outcome outcome =
         runTool("decode", "<header/><get_job_status><action_id>7</action_id></get_job_status><get_general_status/>");
-    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(outcome.code, 4);
     EXPECT_EQ(recordOf(outcome).at("actionId"), 7);
 }
 
-TEST(Decode, AReaderThatReportsFailureIsCode4AndWhatWasReadIsPrinted) {
+TEST(Decode, AWholeReplyWhoseLastElementIsEmptyIsAnAnswer) {
     const Outcome outcome = runTool("decode", "<get_job_status><action_id>7</action_id><uuid/></get_job_status>");
-    EXPECT_EQ(outcome.code, 4);
+    EXPECT_EQ(outcome.code, 0);
     EXPECT_EQ(recordOf(outcome).at("actionId"), 7);
-    EXPECT_THAT(outcome.error, HasSubstr("kvjxml: standard input: ParseJobStatus reported failure"));
+    EXPECT_EQ(outcome.error, "");
 }
 
 TEST(Decode, AGivenMessageOverridesTheRoot) {
@@ -116,15 +117,16 @@ TEST(Decode, AGivenMessageOverridesTheRoot) {
     EXPECT_EQ(recordOf(runTool("decode --message get_job_status", both)).at("actionId"), 7);
 }
 
-TEST(Decode, AGivenMessageThatIsNotInTheReplyIsCode4) {
+TEST(Decode, AGivenMessageThatIsNotInTheReplyIsCode3AndNothingIsPrinted) {
     const Outcome outcome = runTool("decode --message get_general_status " + sample);
-    EXPECT_EQ(outcome.code, 4);
-    EXPECT_EQ(recordOf(outcome).at("printerState"), 0);
+    EXPECT_EQ(outcome.code, 3);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_THAT(outcome.error, HasSubstr("there is no \"get_general_status\" in it"));
 }
 
 TEST(Decode, ACutReplyIsReadAsFarAsItGoesAndSaysSo) {
     const Outcome outcome = runTool("decode", "<get_job_status>\n<action_id>7</action_id>\n<uuid>6a1");
-    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(outcome.code, 4);
     EXPECT_EQ(recordOf(outcome).at("actionId"), 7);
     EXPECT_EQ(recordOf(outcome).at("uuid"), "6a1");
     EXPECT_EQ(outcome.error,
@@ -151,7 +153,7 @@ TEST(Decode, ATextCutInsideACharacterStillPrintsAsJson) {
     // 38 letters and a two-byte character: the field holds 39 bytes, so half of the character is left.
     const Outcome outcome =
         runTool("decode", "<get_job_status><uuid>" + std::string(38, 'x') + "\xC3\xAB</uuid></get_job_status>");
-    EXPECT_EQ(outcome.code, 4);
+    EXPECT_EQ(outcome.code, 0);
     EXPECT_EQ(recordOf(outcome).at("uuid"), std::string(38, 'x') + "\xEF\xBF\xBD");
 }
 
@@ -173,35 +175,14 @@ TEST(Decode, EveryReaderOfAReplyHasItsRecordUnderItsName) {
                     {"ParseCleanLogCount", 456}}));
 }
 
-TEST(Decode, OneReaderThatReadSomethingIsEnoughAndTheOthersSaySo) {
+TEST(Decode, AReaderWithoutAPartInTheReplyHasARecordOfZeros) {
     const Outcome outcome = runTool("decode", voltageOnly);
     EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(outcome.error, "");
     const json records = recordOf(outcome);
     EXPECT_EQ(records.size(), 3U);
     EXPECT_EQ(records.at("ParseSensorInfo").at("headOpen"), 0);
     EXPECT_EQ(records.at("ParseSensorStates").at("doorOpen"), "");
-    EXPECT_THAT(outcome.error, Not(HasSubstr("ParseSensorStatus")));
-    EXPECT_THAT(outcome.error, HasSubstr("kvjxml: standard input: ParseSensorInfo reported failure"));
-    EXPECT_THAT(outcome.error, HasSubstr("kvjxml: standard input: ParseSensorStates reported failure"));
-}
-
-TEST(Decode, OnlyTheLastReaderHavingReadSomethingIsEnough) {
-    const Outcome outcome = runTool(
-        "decode", "<get_count><total_cards_until_next_cleaning>456</total_cards_until_next_cleaning></get_count>");
-    EXPECT_EQ(outcome.code, 0);
-    EXPECT_EQ(recordOf(outcome).at("ParseCleanLogCount"), 456);
-    EXPECT_THAT(outcome.error, HasSubstr("ParseCardCount reported failure"));
-}
-
-TEST(Decode, NoReaderHavingReadAnythingIsCode4AndEveryRecordIsPrinted) {
-    const Outcome outcome = runTool("decode", "<get_count><total_cards_rejected>31</total_cards_rejected></get_count>");
-    EXPECT_EQ(outcome.code, 4);
-    EXPECT_EQ(recordOf(outcome),
-              (json{{"ParseCardCount",
-                     {{"totalCardsDone", 0}, {"laminatorCardsLaminated", 0}, {"laminatorCardsProcessed", 0}}},
-                    {"ParseCleanLogCount", 0}}));
-    EXPECT_THAT(outcome.error, HasSubstr("ParseCardCount reported failure"));
-    EXPECT_THAT(outcome.error, HasSubstr("ParseCleanLogCount reported failure"));
 }
 
 // ---- Values ----

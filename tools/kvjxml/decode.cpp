@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iostream>
+#include <kvjxml.hpp>
 #include <vector>
 
 #include "decode_message.h"
@@ -59,21 +60,18 @@ std::vector<Message> messagesIn(const Document& reply, const Input& input) {
 std::vector<Message> readersOf(const Input& input, const std::string& message) {
     const Reply reply(input.bytes.c_str());
     auto readers = message.empty() ? messagesIn(reply, input) : messagesOf(message);
+    const Message& first = readers.front();
+    if (!reply.root(first.root.data(), first.otherRoot.data())) {
+        throw Failure(ExitCode::unknownMessage, input.name + ": there is no \"" + message + "\" in it");
+    }
     if (const auto error = faultIn(reply, input.bytes); !error.empty()) {
         std::cerr << "kvjxml: " << input.name << ": read as far as it goes: " << error << '\n';
     }
     return readers;
 }
 
-/// Has a reader print its record, and says when it failed.
-bool decode(const Message& reader, const Input& input, JsonPrinter& json) {
-    const bool result = decodeMessage(reader, input, json);
-    if (!result) {
-        std::cerr << "kvjxml: " << input.name << ": " << reader.operation << " reported failure: \"" << reader.root
-                  << "\" is missing or empty, or the last element known in it has no text or one too long\n";
-    }
-    return result;
-}
+/// Whether a reply is whole, as kvjxml.hpp says. That is the same whatever message is looked for.
+bool isWhole(std::string_view bytes) { return kvjxml::read<kvjxml::messages::nonce>(bytes).whole(); }
 
 }  // namespace
 
@@ -81,20 +79,19 @@ ExitCode decode(const Source& source, const std::string& message) {
     const Input input = readInput(source);
     const auto readers = readersOf(input, message);
     JsonPrinter json(std::cout);
-    bool anyRead = false;
     if (readers.size() == 1) {
-        anyRead = decode(readers.front(), input, json);
+        decodeMessage(readers.front(), input, json);
     } else {
-        // Several readers may each take a part of one reply, and a reply need not have a part for every one.
+        // Several readers may each take a part of one reply.
         json.object([&] {
             for (const Message& reader : readers) {
                 json.field(reader.operation);
-                if (decode(reader, input, json)) anyRead = true;
+                decodeMessage(reader, input, json);
             }
         });
     }
     std::cout << '\n';
-    return anyRead ? ExitCode::done : ExitCode::readerFailed;
+    return isWhole(input.bytes) ? ExitCode::done : ExitCode::damaged;
 }
 
 }  // namespace kvj::tool

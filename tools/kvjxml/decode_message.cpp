@@ -61,8 +61,7 @@ public:
     Entries(Element root, const HostList& list)
         : list_(&list), sections_(sectionsOf(root, list)), entry_(std::make_unique<char[]>(field().size)) {}
 
-    /// @return the result of reading the last entry; false when there is none.
-    bool print(JsonPrinter& json) {
+    void print(JsonPrinter& json) {
         json.list([&] {
             std::size_t unwritten = 0;
             for (; !sections_.empty(); goOn()) {
@@ -76,7 +75,6 @@ public:
                 printEntry(json);
             }
         });
-        return result_;
     }
 
 private:
@@ -90,7 +88,7 @@ private:
     void read() {
         for (Section section : sections_) {
             do {
-                result_ = list_->read(section.entry(), entry_.get());
+                list_->read(section.entry(), entry_.get());
                 section.goOn();
             } while (list_->isOneEntry && section);
         }
@@ -112,7 +110,6 @@ private:
     const HostList* list_;
     std::vector<Section> sections_;
     std::unique_ptr<char[]> entry_;
-    bool result_ = false;
 };
 
 void printValue(JsonPrinter& json, const Field& field, const void* value) {
@@ -125,9 +122,9 @@ void printValue(JsonPrinter& json, const Field& field, const void* value) {
 
 }  // namespace
 
-bool decodeMessage(const Message& message, const Input& input, JsonPrinter& json) {
+void decodeMessage(const Message& message, const Input& input, JsonPrinter& json) {
     const ZeroedRecord record(message, message.record.size);
-    bool result = message.read({input.bytes.c_str(), input.text.c_str(), input.text.size()}, record.get());
+    message.read({input.bytes.c_str(), input.text.c_str(), input.text.size()}, record.get());
     const Reply reply(input.bytes.c_str());
     const Element root = reply.root(message.root.data(), message.otherRoot.data());
     if (message.lists.empty()) {
@@ -135,11 +132,9 @@ bool decodeMessage(const Message& message, const Input& input, JsonPrinter& json
     } else {
         printRecord(json, *message.record.record, record.get(), [&](const Field& list) {
             Entries entries(root, *std::ranges::find(message.lists, &list, &HostList::field));
-            const bool lastResult = entries.print(json);
-            if (countOf(*list.entries, record.get()) > 0) result = lastResult;
+            entries.print(json);
         });
     }
-    return message.saysWhetherRead ? result : !root.children().empty();
 }
 
 }  // namespace kvj::tool

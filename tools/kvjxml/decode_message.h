@@ -10,8 +10,7 @@
 namespace kvj::tool {
 
 /// Reads the reply and prints the record, a long list entry by entry.
-/// @return what the reader returned; whether it had anything to read when it does not say.
-bool decodeMessage(const Message& message, const Input& input, JsonPrinter& json);
+void decodeMessage(const Message& message, const Input& input, JsonPrinter& json);
 
 }  // namespace kvj::tool
 

@@ -1,15 +1,26 @@
-#include "request_options.h"
-
 #include <algorithm>
 #include <map>
+#include <memory>
+#include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
+#include "encode.h"
+#include "messages/request.h"
 #include "sections.h"
+#include "verb.h"
 
 namespace kvj::tool {
 
 namespace {
+
+struct Options {
+    Source source;
+    Choices choices;
+    std::vector<long> sections;  ///< their bits one by one
+    bool listSections = false;   ///< instead of composing
+};
 
 /// Numbers by the names that the command line has for them.
 using NamedNumbers = std::map<std::string, long>;
@@ -101,8 +112,7 @@ std::string_view wordsFor(FieldType type) {
     }
 }
 
-}  // namespace
-
+/// What the JSON of a request has, for its help.
 std::string contentOf(const Request& request) {
     if (!request.table.empty()) return "the fields that decode prints; those that are not written may be left out";
     std::string text;
@@ -113,9 +123,29 @@ std::string contentOf(const Request& request) {
 }
 
 void addOptions(CLI::App& verb, const Request& request, Options& options) {
+    addSource(verb, "The JSON", options.source);
     const auto* const own = std::ranges::find(ownOptions, request.name, &OwnOptions::request);
     if (own != std::end(ownOptions)) own->add(verb, options.choices);
     if (request.hasSections()) addSectionOptions(verb, request, options);
+}
+
+}  // namespace
+
+Run addEncode(CLI::App& verb) {
+    const auto options = std::make_shared<Options>();
+    verb.require_subcommand(1);
+    for (const auto& request : requests()) {
+        CLI::App* const one =
+            verb.add_subcommand(std::string(request.name), "From an object with " + contentOf(request));
+        addOptions(*one, request, *options);
+    }
+    return [options, &verb] {
+        const auto& request =
+            *std::ranges::find(requests(), verb.get_subcommands().front()->get_name(), &Request::name);
+        if (options->listSections) return listSections(request.table);
+        for (const long bit : options->sections) options->choices.sections |= bit;
+        return encode(request, options->choices, options->source);
+    };
 }
 
 }  // namespace kvj::tool

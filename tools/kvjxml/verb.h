@@ -1,0 +1,41 @@
+/// @file verb.h
+/// What the tool can be asked to do.
+#ifndef KVJXML_TOOL_VERB_H
+#define KVJXML_TOOL_VERB_H
+
+#include <CLI/CLI.hpp>
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "exit_code.h"
+#include "input.h"
+
+namespace kvj::tool {
+
+/// Does what a command line says, once it has been read.
+using Run = std::function<ExitCode()>;
+
+struct Verb {
+    std::string_view name;
+    std::string_view summary;  ///< for --help
+    /// Gives the verb its options. What they are stored in belongs to the result.
+    Run (*add)(CLI::App& verb);
+};
+
+/// In the order of --help.
+std::span<const Verb> verbs();
+
+Run addDecode(CLI::App& verb);
+Run addEncode(CLI::App& verb);
+Run addMessages(CLI::App& verb);
+
+/// The option of every verb that limits its input.
+void addMaxSize(CLI::App& verb, std::uint64_t& maxSize);
+/// The file that a verb reads, and how much of it.
+void addSource(CLI::App& verb, const std::string& content, Source& source);
+
+}  // namespace kvj::tool
+
+#endif
