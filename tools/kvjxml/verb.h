@@ -27,6 +27,7 @@ struct Verb {
 /// In the order of --help.
 std::span<const Verb> verbs();
 
+Run addCheck(CLI::App& verb);
 Run addDecode(CLI::App& verb);
 Run addEncode(CLI::App& verb);
 Run addMessages(CLI::App& verb);

@@ -28,6 +28,7 @@ std::string asBytes(std::string& text) {
 
 constexpr Verb all[] = {
     {"decode", "Print the record that a captured reply fills, as JSON", addDecode},
+    {"check", "Say what would be ignored, changed or lost of documents", addCheck},
     {"encode", "Compose a request from JSON; keys are read from it, never from options", addEncode},
     {"messages", "Print every known message element by element, as Markdown", addMessages},
 };
