@@ -81,7 +81,9 @@ public:
         move(found);
         found.path = pathOf(candidate.node);
         if (!candidate.name.empty()) found.path += "/@" + std::string(candidate.name);
-        if (candidate.row != nullptr) found.field = nameOf(candidate.row->field);
+        if (candidate.row != nullptr) {
+            found.field = nameOf(candidate.toOther ? candidate.row->otherField : candidate.row->field);
+        }
         found.text = std::move(candidate.text);
         found.became = std::move(candidate.became);
         found.detail = std::move(candidate.detail);
@@ -310,8 +312,9 @@ private:
         const std::string_view text = textOf(piece);
         const std::size_t blanks = blanksIn(text);
         if (blanks == text.size()) return;
-        if (piece.node != 0 && role != Role::around && role != Role::value) return;
-        add(finding_kind::ignored, piece.node, piece.offset + blanks, piece.length - blanks, "a text beside elements");
+        if (piece.node != 0 && role != Role::around && role != Role::value && role != Role::bare) return;
+        add(finding_kind::ignored, piece.node, piece.offset + blanks, piece.length - blanks,
+            role == Role::bare ? "a text where only attributes are read" : "a text beside elements");
     }
 
     void cdata(const Piece& piece) {
