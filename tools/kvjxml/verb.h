@@ -31,6 +31,7 @@ std::span<const Verb> verbs();
 Run addCheck(CLI::App& verb);
 Run addDecode(CLI::App& verb);
 Run addEncode(CLI::App& verb);
+Run addCompletion(CLI::App& verb);
 Run addMessages(CLI::App& verb);
 
 /// The option of every verb that limits its input.

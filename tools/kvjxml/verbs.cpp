@@ -30,6 +30,7 @@ constexpr Verb all[] = {
     {"decode", "Print the record that a captured reply fills, as JSON", addDecode},
     {"check", "Say what would be ignored, changed or lost of documents", addCheck},
     {"encode", "Compose a request from JSON; keys are read from it, never from options", addEncode},
+    {"completion", "Print what a shell needs to complete the command line of kvjxml", addCompletion},
     {"messages", "Print every known message element by element, as Markdown", addMessages},
 };
 
