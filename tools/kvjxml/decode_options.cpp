@@ -1,9 +1,7 @@
 #include <memory>
-#include <set>
 #include <string>
 
 #include "decode.h"
-#include "messages/message.h"
 #include "verb.h"
 
 namespace kvj::tool {
@@ -14,15 +12,10 @@ Run addDecode(CLI::App& verb) {
         std::string message;
     };
     const auto options = std::make_shared<Options>();
-    std::set<std::string> roots;
-    for (const auto& known : messages()) {
-        roots.emplace(known.root);
-        if (!known.otherRoot.empty()) roots.emplace(known.otherRoot);
-    }
     addSource(verb, "The reply, in UTF-8", options->source);
     verb.add_option("--message", options->message, "Read it as this message, whatever its root element")
         ->option_text("NAME")
-        ->check(CLI::IsMember(roots));
+        ->check(knownRoot());
     return [options] { return decode(options->source, options->message); };
 }
 

@@ -33,6 +33,8 @@ Run addMessages(CLI::App& verb);
 
 /// The option of every verb that limits its input.
 void addMaxSize(CLI::App& verb, std::uint64_t& maxSize);
+/// Takes the root element of a known message, and says of another name which one it may be meant to be.
+CLI::Validator knownRoot();
 /// The file that a verb reads, and how much of it.
 void addSource(CLI::App& verb, const std::string& content, Source& source);
 

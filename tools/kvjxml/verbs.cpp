@@ -2,8 +2,11 @@
 #include <cstdint>
 #include <limits>
 #include <map>
+#include <set>
 
+#include "messages/message.h"
 #include "reference.h"
+#include "suggestion.h"
 #include "verb.h"
 
 namespace kvj::tool {
@@ -44,6 +47,18 @@ void addMaxSize(CLI::App& verb, std::uint64_t& maxSize) {
                     "told")
         ->option_text("SIZE")
         ->transform(CLI::Validator(asBytes, ""));
+}
+
+CLI::Validator knownRoot() {
+    return {[](const std::string& name) {
+                std::set<std::string_view> roots;
+                for (const Message& message : messages()) {
+                    roots.insert(message.root);
+                    if (!message.otherRoot.empty()) roots.insert(message.otherRoot);
+                }
+                return roots.contains(name) ? std::string() : unknown("message", name, roots);
+            },
+            ""};
 }
 
 void addSource(CLI::App& verb, const std::string& content, Source& source) {
