@@ -20,7 +20,8 @@ std::string unknown(std::string_view what, std::string_view name, const Names& n
     // What a temporary holds would be gone before it is shown.
     static_assert(!std::is_same_v<decltype(std::invoke(nameOf, *std::begin(names))), std::string>);
     std::string text = "there is no " + std::string(what) + " \"" + visible(name) + "\"";
-    const std::string_view meant = nearest(name, names, nameOf);
+    const std::string_view meant =
+        nearest(name, names, [&](const auto& each) -> std::string_view { return std::invoke(nameOf, each); });
     if (!meant.empty()) text.append("; did you mean \"").append(meant).append("\"?");
     return text;
 }

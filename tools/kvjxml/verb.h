@@ -29,6 +29,7 @@ std::span<const Verb> verbs();
 
 Run addDecode(CLI::App& verb);
 Run addEncode(CLI::App& verb);
+Run addExplain(CLI::App& verb);
 Run addMessages(CLI::App& verb);
 
 /// The option of every verb that limits its input.
