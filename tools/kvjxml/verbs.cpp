@@ -34,6 +34,7 @@ constexpr Verb all[] = {
     {"encode", "Compose a request from JSON; keys are read from it, never from options", addEncode},
     {"explain", "Say what a message, field, element, code or word is", addExplain},
     {"messages", "Print every known message element by element, as Markdown", addMessages},
+    {"sample", "Print a document of a message in which every element has a value", addSample},
 };
 
 }  // namespace
