@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "code_words.h"
 #include "columns.h"
 #include "failure.h"
 #include "field_comments.h"
@@ -95,20 +96,14 @@ Places placesNamed(std::string_view name) {
     return placesWhere([&](const ElementPlace& place) { return place.row->name == path || place.path == path; });
 }
 
-/// The tables of words of these places, each once, with whether their codes are bits.
-struct Table {
-    const NamedWords* words;
-    bool isOfBits;
-};
-using Tables = std::vector<Table>;
+/// The tables of words of these places, each once.
+using Tables = std::vector<CodeTable>;
 
 void add(Tables& tables, const Description& row) {
-    if (row.words.name.empty()) return;
-    const auto isSame = [&](const Table& table) {
-        return table.words->words.rows.data() == row.words.words.rows.data();
-    };
-    if (std::ranges::any_of(tables, isSame)) return;
-    tables.push_back({&row.words, row.kind == Kind::bits || row.kind == Kind::combinedCodes});
+    const auto table = codeTable(row);
+    if (table && std::ranges::none_of(tables, [&](const CodeTable& each) { return each.is(row.words); })) {
+        tables.push_back(*table);
+    }
 }
 
 template <class PointersToPlaces>
@@ -124,7 +119,7 @@ Tables allTables() {
 
 Tables tablesNamed(std::string_view name) {
     Tables tables = allTables();
-    std::erase_if(tables, [&](const Table& table) { return !isLastOf(name, table.words->name); });
+    std::erase_if(tables, [&](const CodeTable& table) { return !isLastOf(name, table.words->name); });
     return tables;
 }
 
@@ -139,18 +134,12 @@ std::optional<std::int64_t> numberIn(std::string_view text) {
     return number;
 }
 
-std::string hexadecimal(std::uint64_t number) {
-    std::string text = "0x";
-    char digits[16];
-    return text.append(digits, std::to_chars(digits, digits + sizeof digits, number, 16).ptr);
-}
-
 /// The bits of a number, "0x8000 + 0x2".
 std::string bitsOf(std::uint64_t number) {
     std::string text;
     for (int bit = 63; bit >= 0; --bit) {
         const std::uint64_t one = std::uint64_t{1} << bit;
-        if ((number & one) != 0) text.append(text.empty() ? "" : " + ").append(hexadecimal(one));
+        if ((number & one) != 0) text.append(text.empty() ? "" : " + ").append(inHexadecimal(one));
     }
     return text;
 }
@@ -162,29 +151,15 @@ std::string joined(const std::vector<std::string>& parts, std::string_view betwe
 }
 
 /// What a code stands for.
-std::string meaningOf(const Table& table, std::int64_t code) {
-    const Words& words = table.words->words;
-    std::vector<std::string> same;
-    std::vector<std::string> bits;
-    std::int64_t unnamed = code;
-    for (const Word& row : words.rows) {
-        if (row.code == code) same.emplace_back(row.word);
-        const bool isFirst = wordOf(words, row.code) == row.word;
-        if (row.code != 0 && isFirst && (row.code & ~code) == 0) {
-            bits.emplace_back(row.word);
-            unnamed &= ~std::int64_t{row.code};
-        }
-    }
-    if (!same.empty()) return joined(same, " or ");
-    if (words.other == code) return "any other word";
-    if (!table.isOfBits || bits.empty()) return "no word has this code";
-    if (unnamed != 0) bits.push_back(hexadecimal(static_cast<std::uint64_t>(unnamed)) + ", which has no word");
-    return joined(bits, " + ");
+std::string meaningOf(const CodeTable& table, std::int64_t code) {
+    const std::string words = wordsOf(table, code);
+    if (!words.empty()) return words;
+    return table.rows().other == code ? "any other word" : "no word has this code";
 }
 
 /// The code that a word becomes.
-std::string codeOfWord(const Table& table, const std::string& word) {
-    const Words& words = table.words->words;
+std::string codeOfWord(const CodeTable& table, const std::string& word) {
+    const Words& words = table.rows();
     if (const auto code = codeOf({words.rows, std::nullopt, words.match}, word.c_str())) return std::to_string(*code);
     const std::string none = unknown("word", word, words.rows, &Word::word);
     if (!words.other) return none + "; it leaves the field alone";
@@ -202,10 +177,10 @@ std::string meaningOf(const Description& row, const std::string& value) {
         return "not a code; it is read as: " + quoted(inWords(row, Direction::read));
     const auto bits = static_cast<std::uint64_t>(*number);
     if (row.number.base == Base::decimal) return std::to_string(*number) + ", a number without words";
-    return std::to_string(*number) + " = " + hexadecimal(bits) + (bits == 0 ? "" : ", the bits " + bitsOf(bits));
+    return std::to_string(*number) + " = " + inHexadecimal(bits) + (bits == 0 ? "" : ", the bits " + bitsOf(bits));
 }
 
-std::string meaningOf(const Table& table, const std::string& value) {
+std::string meaningOf(const CodeTable& table, const std::string& value) {
     const auto code = numberIn(value);
     return code ? meaningOf(table, *code) : codeOfWord(table, value);
 }
@@ -362,18 +337,18 @@ void explainElements(Explanation& out, std::string_view name) {
 }
 
 void explainTables(Explanation& out, std::string_view name) {
-    for (const Table& table : tablesNamed(name)) {
+    for (const CodeTable& table : tablesNamed(name)) {
         out.title(std::string(table.words->name) + ": a table of words");
         out.words({table});
     }
 }
 
 /// The fields that have codes of a table.
-std::vector<std::string> fieldsWith(const Table& table) {
+std::vector<std::string> fieldsWith(const CodeTable& table) {
     std::vector<std::string> fields;
     for (const ElementPlace& place : elementPlaces()) {
         const Description& row = place.row->description;
-        if (row.words.words.rows.data() != table.words->words.rows.data()) continue;
+        if (!table.is(row.words)) continue;
         const FieldName& field = row.kind == Kind::textAndCode ? row.otherField : row.field;
         const std::string name = field.empty() ? place.path : fieldName(field);
         if (std::ranges::find(fields, name) == fields.end()) fields.push_back(name);
@@ -383,8 +358,8 @@ std::vector<std::string> fieldsWith(const Table& table) {
 
 void explainWord(Explanation& out, const std::string& word) {
     std::vector<Cells> cells;
-    for (const Table& table : allTables()) {
-        const Words& words = table.words->words;
+    for (const CodeTable& table : allTables()) {
+        const Words& words = table.rows();
         if (const auto code = codeOf({words.rows, std::nullopt, Match::whole}, word.c_str())) {
             cells.push_back({std::to_string(*code), std::string(table.words->name), joined(fieldsWith(table), ", ")});
         }
@@ -427,7 +402,7 @@ void explainValue(Explanation& out, const std::string& name, const std::string& 
     }
     if (out.isBegun()) return;
     explainValue(out, name, placesNamed(name), value);
-    for (const Table& table : tablesNamed(name)) {
+    for (const CodeTable& table : tablesNamed(name)) {
         out.title(std::string(table.words->name) + " " + visible(value) + ": " + meaningOf(table, value));
     }
 }
@@ -450,9 +425,9 @@ void list(Explanation& out) {
     out.columns(cells);
     out.title("Tables of words");
     cells.clear();
-    for (const Table& table : allTables()) {
+    for (const CodeTable& table : allTables()) {
         std::vector<std::string> words;
-        for (const Word& row : table.words->words.rows) words.emplace_back(row.word);
+        for (const Word& row : table.rows().rows) words.emplace_back(row.word);
         cells.push_back({std::string(table.words->name), joined(words, ", ")});
     }
     out.columns(cells);
@@ -470,9 +445,9 @@ std::set<std::string> allNames() {
         names.emplace(unqualified(record->name));
         for (const Field& field : record->fields) names.emplace(field.name);
     }
-    for (const Table& table : allTables()) {
+    for (const CodeTable& table : allTables()) {
         names.emplace(unqualified(table.words->name));
-        for (const Word& row : table.words->words.rows) names.emplace(row.word);
+        for (const Word& row : table.rows().rows) names.emplace(row.word);
     }
     return names;
 }

@@ -28,6 +28,7 @@ struct Verb {
 std::span<const Verb> verbs();
 
 Run addDecode(CLI::App& verb);
+Run addDiff(CLI::App& verb);
 Run addEncode(CLI::App& verb);
 Run addExplain(CLI::App& verb);
 Run addMessages(CLI::App& verb);

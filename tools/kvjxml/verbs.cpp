@@ -31,6 +31,7 @@ std::string asBytes(std::string& text) {
 
 constexpr Verb all[] = {
     {"decode", "Print the record that a captured reply fills, as JSON", addDecode},
+    {"diff", "Say what differs between two replies of one message", addDiff},
     {"encode", "Compose a request from JSON; keys are read from it, never from options", addEncode},
     {"explain", "Say what a message, field, element, code or word is", addExplain},
     {"messages", "Print every known message element by element, as Markdown", addMessages},
