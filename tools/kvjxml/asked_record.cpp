@@ -22,8 +22,8 @@ std::string meant(std::string_view name) { return name.empty() ? "" : "; did you
 
 class Filling {
 public:
-    Filling(bool isAllSent, Arrays& arrays, Changes& changes)
-        : isAllSent_(isAllSent), arrays_(&arrays), changes_(&changes) {}
+    Filling(bool isOfArguments, Arrays& arrays, Changes& changes)
+        : isOfArguments_(isOfArguments), arrays_(&arrays), changes_(&changes) {}
 
     void readRecord(const Place& place, const RecordType& type, void* record, const Needed* needed) {
         place.expectObject();
@@ -49,7 +49,7 @@ private:
             case FieldType::list:
                 return readEntries(place, *field.entries, record, needed, name);
             default: {
-                const bool isSent = needed != nullptr || isAllSent_;
+                const bool isSent = needed != nullptr || isOfArguments_;
                 readValue(place, field, record, name, isSent ? changes_ : nullptr);
             }
         }
@@ -77,7 +77,7 @@ private:
             expectMembers(place);
             const Place value = place.at("value");
             readSimple(value, field, record, changes);
-            addRaw(place, value.value().dump(), changes);
+            addRaw(place, value.value().is_string() ? value.text() : value.value().dump(), changes);
         } else {
             readSimple(place, field, record, changes);
         }
@@ -139,14 +139,14 @@ private:
     static void addRaw(const Place& place, std::string sent, Changes* changes) {
         if (changes == nullptr || !place.has("sent")) return;
         changes->add(
-            {place.pointer(), place.at("sent").text(), std::move(sent), "the reply said so, but nobody knows it"});
+            {place.pointer(), place.at("sent").text(), std::move(sent), "the reply said so, and was read otherwise"});
     }
 
-    static std::int64_t number(const Place& place, const FieldOfRecord& name, Changes* changes) {
+    std::int64_t number(const Place& place, const FieldOfRecord& name, Changes* changes) {
         const nlohmann::json& value = place.value();
         if (value.is_number()) {
             const std::int64_t code = place.wholeNumber();
-            if (code == 0 && changes != nullptr) checkZero(place, name, *changes);
+            if (changes != nullptr) checkCode(place, name, code, *changes);
             return code;
         }
         const FieldCodes codes(name.record->name, name.field->name);
@@ -163,7 +163,7 @@ private:
     }
 
     /// Of an object as `decode --words` prints it.
-    static std::int64_t code(const Place& place, const FieldCodes& codes, const FieldOfRecord& name, Changes* changes) {
+    std::int64_t code(const Place& place, const FieldCodes& codes, const FieldOfRecord& name, Changes* changes) {
         const std::int64_t code = place.at("code").wholeNumber();
         const auto expect = [&](const Place& word, std::int64_t other) {
             if (other != code) word.refuse("is " + std::to_string(other) + ", but the code is " + std::to_string(code));
@@ -173,8 +173,8 @@ private:
         if (place.has("sent") && codes.codeOf(place.at("sent").text()) != code) {
             const std::string word = codes.wordOf(code);
             addRaw(place, word.empty() ? std::to_string(code) : word, changes);
-        } else if (code == 0 && !place.has("word") && !place.has("sent") && changes != nullptr) {
-            checkZero(place, name, *changes);
+        } else if (!place.has("word") && !place.has("sent") && changes != nullptr) {
+            checkCode(place, name, code, *changes);
         }
         return code;
     }
@@ -196,18 +196,22 @@ private:
         return bits;
     }
 
-    /// A network must not be opened because its printer's word was not known.
-    static void checkZero(const Place& place, const FieldOfRecord& name, Changes& changes) {
+    /// A network must not be opened because its printer's word was not known, nor a motor be stopped by a state 2.
+    void checkCode(const Place& place, const FieldOfRecord& name, std::int64_t code, Changes& changes) {
+        if (code != 0 && !isOfArguments_) return;  // The library has a word for it, or says that there is none.
         const FieldCodes codes(name.record->name, name.field->name);
-        if (!codes.zeroMayBeUnread()) return;
-        const std::string word = codes.wordOf(0);
-        changes.add({place.pointer(), "0", word,
-                     "0 is also what a missing or unknown word leaves; say \"" + word + "\" if it is meant"});
+        const std::string word = codes.wordSentFor(code);
+        if (code == 0 && codes.zeroMayBeUnread()) {
+            changes.add({place.pointer(), "0", word,
+                         "0 is also what a missing or unknown word leaves; say \"" + word + "\" if it is meant"});
+        } else if (isOfArguments_ && !codes.empty() && codes.wordOf(code).empty()) {
+            changes.add({place.pointer(), std::to_string(code), word, "the printer takes no word for that"});
+        }
     }
 
     std::byte* makeArray(std::size_t size) { return arrays_->emplace_back(std::make_shared<std::byte[]>(size)).get(); }
 
-    bool isAllSent_;
+    bool isOfArguments_;
     Arrays* arrays_;
     Changes* changes_;
 };

@@ -12,9 +12,9 @@ namespace kvj::tool {
 
 namespace {
 
-// Commands have no rows: their words by their arguments.
-constexpr WordTable motorStates({{"off", 0}, {"on", 1}});
-constexpr WordTable motorDirections({{"forward", 0}, {"reverse", 1}});
+// Commands have no rows: their words by their arguments. A motor takes any other state and direction as one of these.
+constexpr WordTable motorStates{0, {{"off", 0}, {"on", 1}}};
+constexpr WordTable motorDirections{1, {{"forward", 0}, {"reverse", 1}}};
 
 struct ArgumentWords {
     std::string_view record;
@@ -59,7 +59,9 @@ FieldCodes::FieldCodes(std::string_view record, std::string_view field) {
         if (!isRead || std::ranges::find(read, row->name, &DescribedRow::name) != read.end()) add(row);
     }
     for (const ArgumentWords& argument : argumentWords) {
-        if (argument.record == unqualified(record) && argument.field == field) tables_.push_back(argument.words);
+        if (argument.record != unqualified(record) || argument.field != field) continue;
+        tables_.push_back(argument.words);
+        sentOtherwise_ = argument.words.other;
     }
 }
 
@@ -80,6 +82,11 @@ std::string FieldCodes::wordOf(std::int64_t code) const {
         if (const char* const word = kvj::wordOf(table, static_cast<int>(code))) return word;
     }
     return {};
+}
+
+std::string FieldCodes::wordSentFor(std::int64_t code) const {
+    const std::string word = wordOf(code);
+    return word.empty() && sentOtherwise_ ? wordOf(*sentOtherwise_) : word;
 }
 
 std::string FieldCodes::listed() const {

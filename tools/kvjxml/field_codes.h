@@ -29,6 +29,8 @@ public:
     [[nodiscard]] std::optional<std::int64_t> codeOf(const std::string& word) const;
     /// The word that comes first for a code; empty when it has none.
     [[nodiscard]] std::string wordOf(std::int64_t code) const;
+    /// The same, but the word that a command is sent with when its argument has none.
+    [[nodiscard]] std::string wordSentFor(std::int64_t code) const;
     /// The words with their codes, for people: "none 0, wep40 1". Of several words of a code the first.
     [[nodiscard]] std::string listed() const;
     /// The word that somebody may have meant; empty when none is near.
@@ -37,6 +39,7 @@ public:
 private:
     std::vector<Words> tables_;
     bool areBits_ = false;
+    std::optional<int> sentOtherwise_;
     bool isLeftAlone_ = false;  ///< whether reading leaves the field alone when the word is not known
 };
 

@@ -9,15 +9,13 @@
 #include <new>
 #include <set>
 #include <span>
-#include <sstream>
 #include <vector>
 
 #include "field_at.h"
 #include "field_rows.h"
 #include "fields/differences.h"
+#include "foundation/convert.h"
 #include "foundation/document.h"
-#include "json_printer.h"
-#include "json_record.h"
 #include "kvjxml_read.hpp"
 #include "messages/message.h"
 #include "messages/zeroed_record.h"
@@ -73,6 +71,9 @@ public:
                                                                                        kvjxml_v1_findings_release);
         if ((result & kvjxml_v1_no_memory) != 0) throw std::bad_alloc();
         for (Entries& entries : entries_) hand(entries);
+        for (const HostList& list : message.lists) {
+            if (list.isOneEntry) unlike_.insert(nameOf({message.record.record, list.field}));
+        }
         const std::size_t count = findings == nullptr ? 0 : kvjxml_v1_findings_count(findings);
         for (std::size_t i = 0; i < count; ++i) {
             kvjxml_v1_finding finding{};
@@ -89,13 +90,15 @@ public:
             static_cast<std::size_t>(static_cast<const std::byte*>(field) - static_cast<const std::byte*>(record()));
         return (carried_[offset / 8] >> offset % 8 & 1U) != 0;
     }
-    /// Whether the printer takes a field in another way than it sends it: as another word, or in two elements of one
-    /// name. Its reader cannot tell then.
-    [[nodiscard]] bool takesOtherwise(const FieldOfRecord& at) const {
-        return unlike_.contains(std::string(at.record->name).append("::").append(at.field->name));
-    }
+    /// Whether the printer takes a field in another way than it sends it: as another word, in two elements of one
+    /// name, or as a list of which readers keep one entry. Nobody can tell then.
+    [[nodiscard]] bool takesOtherwise(const FieldOfRecord& at) const { return unlike_.contains(nameOf(at)); }
 
 private:
+    static std::string nameOf(const FieldOfRecord& at) {
+        return std::string(at.record->name).append("::").append(at.field->name);
+    }
+
     void hand(Entries& entries) {
         const auto& list = *entries.list->entries;
         if (list.storage == Storage::ofHost) {
@@ -137,13 +140,18 @@ Found find(const RecordType& type, const void* record, const std::string& pointe
     return found;
 }
 
-std::string shown(const Field& field, const void* owner) {
-    if (field.type == FieldType::list) return std::to_string(countOf(*field.entries, owner)) + " entries";
-    std::ostringstream text;
-    JsonPrinter json(text);
-    print(json, field, owner);
-    const auto value = nlohmann::json::parse(text.str());
-    return value.is_string() ? value.get<std::string>() : text.str();
+/// What a comparison says of a value, for people.
+std::string shown(const Found& found, const std::string& compared) {
+    switch (found.field->type) {
+        case FieldType::list:
+            return compared + " entries";
+        case FieldType::decimal:
+            return convert::shortest(valueOf<float>(*found.field, found.owner)).c_str();
+        case FieldType::text:
+            return std::string(textOf(*found.field, found.owner));
+        default:
+            return compared;
+    }
 }
 
 /// Whether the request writes the fields on a way.
@@ -170,7 +178,8 @@ bool counts(const Asked& asked, const Seen& seen, const Found& found) {
     if (std::ranges::any_of(way, [&](const FieldOfRecord& at) { return seen.takesOtherwise(at); })) return false;
     const bool hasAddress = !found.isInList && found.field->type != FieldType::list && found.field->at != nullptr;
     // What is read of an entry is not told.
-    if (!hasAddress) return isWritten(asked.needed, way) && isReadAsWritten(way.back());
+    const bool isList = found.field->type == FieldType::list;
+    if (!hasAddress) return isWritten(asked.needed, way) && (isList || isReadAsWritten(way.back()));
     // An element may be written from one field and read as another beside it.
     return isWritten(asked.needed, way.first(way.size() - 1)) && seen.carries(found.field->at(found.owner));
 }
@@ -222,7 +231,7 @@ void addSeenOtherwise(const Asked& asked, const std::string& text, Changes& chan
         if (!counts(asked, seen, is)) continue;
         if (is.field->type == FieldType::list) shorter = pointer + "/";
         const Found was = find(type, asked.record, pointer);
-        changes.add({pointer, shown(*was.field, was.owner), shown(*is.field, is.owner),
+        changes.add({pointer, shown(was, difference.expected), shown(is, difference.actual),
                      isWritten(asked.needed, is.way) ? "so it reads back"
                                                      : "the element is not written from this field; leave it out"});
     }
