@@ -75,18 +75,18 @@ bool isWhole(std::string_view bytes) { return kvjxml::read<kvjxml::messages::non
 
 }  // namespace
 
-ExitCode decode(const Source& source, const std::string& message) {
+ExitCode decode(const Source& source, const std::string& message, const View& view) {
     const Input input = readInput(source);
     const auto readers = readersOf(input, message);
     JsonPrinter json(std::cout);
     if (readers.size() == 1) {
-        decodeMessage(readers.front(), input, json);
+        decodeMessage(readers.front(), input, json, view);
     } else {
         // Several readers may each take a part of one reply.
         json.object([&] {
             for (const Message& reader : readers) {
                 json.field(reader.operation);
-                decodeMessage(reader, input, json);
+                decodeMessage(reader, input, json, view);
             }
         });
     }

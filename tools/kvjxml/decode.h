@@ -7,13 +7,14 @@
 
 #include "exit_code.h"
 #include "input.h"
+#include "view.h"
 
 namespace kvj::tool {
 
-/// Prints the record of the reply from `source` as JSON.
+/// Prints the record of the reply from `source`.
 /// @param message  the root element of the message to look for; empty to go by the document.
 /// @throws Failure
-ExitCode decode(const Source& source, const std::string& message);
+ExitCode decode(const Source& source, const std::string& message, const View& view);
 
 }  // namespace kvj::tool
 

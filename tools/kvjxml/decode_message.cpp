@@ -8,6 +8,7 @@
 #include "foundation/reply.h"
 #include "json_record.h"
 #include "messages/zeroed_record.h"
+#include "reading.h"
 
 namespace kvj::tool {
 
@@ -61,28 +62,26 @@ public:
     Entries(Element root, const HostList& list)
         : list_(&list), sections_(sectionsOf(root, list)), entry_(std::make_unique<char[]>(field().size)) {}
 
-    void print(JsonPrinter& json) {
-        json.list([&] {
-            std::size_t unwritten = 0;
-            for (; !sections_.empty(); goOn()) {
-                if (!isWritten()) {
-                    ++unwritten;
-                    continue;
-                }
-                fill(0);
-                for (; unwritten > 0; --unwritten) printEntry(json);
-                read();
-                printEntry(json);
+    void print(JsonPrinter& json, const Showing& showing) {
+        std::size_t unwritten = 0;
+        for (; !sections_.empty(); goOn()) {
+            if (!isWritten()) {
+                ++unwritten;
+                continue;
             }
-        });
+            fill(0);
+            for (; unwritten > 0; --unwritten) printEntry(json, showing);
+            read();
+            printEntry(json, showing);
+        }
     }
 
 private:
     [[nodiscard]] const Field& field() const { return *list_->field->entries->entry; }
     void fill(char byte) { std::memset(entry_.get(), byte, field().size); }
-    void printEntry(JsonPrinter& json) {
+    void printEntry(JsonPrinter& json, const Showing& showing) {
         json.entry();
-        tool::print(json, field(), entry_.get());
+        tool::print(json, nullptr, field(), entry_.get(), showing);
     }
 
     void read() {
@@ -112,27 +111,50 @@ private:
     std::unique_ptr<char[]> entry_;
 };
 
-void printValue(JsonPrinter& json, const Field& field, const void* value) {
-    if (field.name.empty()) return print(json, field, value);
+void printValue(JsonPrinter& json, const Field& field, const void* value, const Showing& showing) {
+    if (field.name.empty()) return print(json, nullptr, field, value, showing);
     json.object([&] {
         json.field(field.name);
-        print(json, field, value);
+        print(json, nullptr, field, value, showing);
     });
+}
+
+void printWithSent(const Message& message, const Input& input, JsonPrinter& json, Showing showing) {
+    const Reading reading(input.bytes, message);
+    showing.sent = &reading.sent();
+    const auto printEntries = [&](const GrowingList& list) {
+        for (std::size_t i = 0; i < list.count(); ++i) {
+            json.entry();
+            print(json, nullptr, list.entry(), list.at(i), showing);
+        }
+    };
+    if (const GrowingList* const all = reading.list(message.record)) {
+        json.list([&] { printEntries(*all); });
+    } else if (message.record.type != FieldType::record) {
+        printValue(json, message.record, reading.record(), showing);
+    } else {
+        printRecord(json, *message.record.record, reading.record(), showing, [&](const Field& field) {
+            const GrowingList& list = *reading.list(field);
+            printList(json, field, list.count(), [&] { printEntries(list); });
+        });
+    }
 }
 
 }  // namespace
 
-void decodeMessage(const Message& message, const Input& input, JsonPrinter& json) {
+void decodeMessage(const Message& message, const Input& input, JsonPrinter& json, const View& view) {
+    const Showing showing{.redacts = view.redacts};
+    if (view.words) return printWithSent(message, input, json, showing);
     const ZeroedRecord record(message, message.record.size);
     message.read({input.bytes.c_str(), input.text.c_str(), input.text.size()}, record.get());
     const Reply reply(input.bytes.c_str());
     const Element root = reply.root(message.root.data(), message.otherRoot.data());
     if (message.lists.empty()) {
-        printValue(json, message.record, record.get());
+        printValue(json, message.record, record.get(), showing);
     } else {
-        printRecord(json, *message.record.record, record.get(), [&](const Field& list) {
+        printRecord(json, *message.record.record, record.get(), showing, [&](const Field& list) {
             Entries entries(root, *std::ranges::find(message.lists, &list, &HostList::field));
-            entries.print(json);
+            printList(json, list, countOf(*list.entries, record.get()), [&] { entries.print(json, showing); });
         });
     }
 }

@@ -6,11 +6,12 @@
 #include "input.h"
 #include "json_printer.h"
 #include "messages/message.h"
+#include "view.h"
 
 namespace kvj::tool {
 
 /// Reads the reply and prints the record, a long list entry by entry.
-void decodeMessage(const Message& message, const Input& input, JsonPrinter& json);
+void decodeMessage(const Message& message, const Input& input, JsonPrinter& json, const View& view);
 
 }  // namespace kvj::tool
 

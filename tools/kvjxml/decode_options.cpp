@@ -5,13 +5,29 @@
 #include "decode.h"
 #include "messages/message.h"
 #include "verb.h"
+#include "visible_text.h"
 
 namespace kvj::tool {
+
+namespace {
+
+/// How a reply is shown.
+void addView(CLI::App& verb, View& view) {
+    verb.add_flag("--words", view.words,
+                  "Beside each code the word for it, and beside each value that is not what the printer sent, what it "
+                  "sent");
+    view.redacts = writesToTerminal();
+    verb.add_flag("--redact,!--no-redact", view.redacts,
+                  "Mask keys, passkeys and magnetic tracks; so it is on a terminal unless told otherwise");
+}
+
+}  // namespace
 
 Run addDecode(CLI::App& verb) {
     struct Options {
         Source source;
         std::string message;
+        View view;
     };
     const auto options = std::make_shared<Options>();
     std::set<std::string> roots;
@@ -23,7 +39,8 @@ Run addDecode(CLI::App& verb) {
     verb.add_option("--message", options->message, "Read it as this message, whatever its root element")
         ->option_text("NAME")
         ->check(CLI::IsMember(roots));
-    return [options] { return decode(options->source, options->message); };
+    addView(verb, options->view);
+    return [options] { return decode(options->source, options->message, options->view); };
 }
 
 }  // namespace kvj::tool

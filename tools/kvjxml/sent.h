@@ -1,0 +1,48 @@
+/// @file sent.h
+/// What a reply said of each field of a record, beside what the field became.
+#ifndef KVJXML_TOOL_SENT_H
+#define KVJXML_TOOL_SENT_H
+
+#include <cstddef>
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "foundation/watch.h"
+
+namespace kvj::tool {
+
+/// A field that the reply carried.
+struct SentValue {
+    const Description* row = nullptr;  ///< by which it was read
+    std::string text{};                ///< that of a word, and of a value that is not what was sent; else empty
+    bool isChanged = false;            ///< whether the field's value is not what was sent
+};
+
+/// Told of each element while a message is read, it keeps what the fields were read from.
+class Sent final : public Watch::Diagnosis {
+public:
+    void read(const Read& read) override;
+    void skip(Element /*element*/) override {}
+
+    /// That of a field, by the address of the record that the field is in; null when the reply did not carry it.
+    [[nodiscard]] const SentValue* find(const void* record, std::string_view field) const;
+
+    /// Entries of a list are elsewhere now.
+    void move(const std::byte* from, std::size_t size, const std::byte* to);
+    /// Entries of a list are no more.
+    void forget(const std::byte* from, std::size_t size);
+
+private:
+    /// A record and the first of its fields have the same address.
+    using Key = std::pair<const std::byte*, std::string_view>;
+
+    void add(const void* record, std::string_view field, SentValue value);
+
+    std::map<Key, SentValue> values_;
+};
+
+}  // namespace kvj::tool
+
+#endif
