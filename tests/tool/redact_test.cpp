@@ -49,6 +49,7 @@ TEST(Secrets, AreMaskedOrShownAnywhereAsTheUserSays) {
     for (const auto& [name, secret] : secrets) {
         EXPECT_THAT(runTool("decode --redact " + sample(name)).out, Not(HasSubstr(secret))) << name;
         EXPECT_THAT(runTool("decode --words --redact " + sample(name)).out, Not(HasSubstr(secret))) << name;
+        EXPECT_THAT(runTool("decode --format text --redact " + sample(name)).out, Not(HasSubstr(secret))) << name;
         EXPECT_THAT(runOnTerminal("decode --no-redact " + sample(name)).out, HasSubstr(secret)) << name;
     }
 }
@@ -85,7 +86,7 @@ const std::string hostileReply = "<get_job_status><uuid>" + hostile + "</uuid></
 TEST(Controls, ReachNoTerminalAsTheyAre) {
     const TemporaryFolder folder;
     write(folder / "reply.xml", hostileReply);
-    for (const std::string options : {"", "--words "}) {
+    for (const std::string options : {"", "--words ", "--format text "}) {
         const auto outcome = runOnTerminal("decode " + options + (folder / "reply.xml").string(), "NO_COLOR=1");
         EXPECT_EQ(outcome.code, 0) << options;
         EXPECT_THAT(outcome.out, HasSubstr("2Jb")) << options;
@@ -101,7 +102,7 @@ TEST(Controls, AreTheSameInJson) { EXPECT_EQ(json::parse(runTool("decode", hosti
 // ---- Where output goes ----
 
 TEST(FullDisk, IsCode1AndSaysSo) {
-    for (const std::string options : {"", "--words "}) {
+    for (const std::string options : {"", "--words ", "--format text "}) {
         const auto outcome = runTool("decode " + options + sample("configuration") + " >/dev/full");
         EXPECT_EQ(outcome.code, 1) << options;
         EXPECT_THAT(outcome.error, HasSubstr("standard output: cannot be written")) << options;

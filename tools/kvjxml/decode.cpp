@@ -78,6 +78,11 @@ bool isWhole(std::string_view bytes) { return kvjxml::read<kvjxml::messages::non
 ExitCode decode(const Source& source, const std::string& message, const View& view) {
     const Input input = readInput(source);
     const auto readers = readersOf(input, message);
+    if (view.isText) {
+        const bool whole = isWhole(input.bytes);
+        for (const Message& reader : readers) showMessage(reader, input, whole, view);
+        return whole ? ExitCode::done : ExitCode::damaged;
+    }
     JsonPrinter json(std::cout);
     if (readers.size() == 1) {
         decodeMessage(readers.front(), input, json, view);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iostream>
 #include <memory>
 #include <vector>
 
@@ -9,6 +10,7 @@
 #include "json_record.h"
 #include "messages/zeroed_record.h"
 #include "reading.h"
+#include "text_printer.h"
 
 namespace kvj::tool {
 
@@ -157,6 +159,26 @@ void decodeMessage(const Message& message, const Input& input, JsonPrinter& json
             printList(json, list, countOf(*list.entries, record.get()), [&] { entries.print(json, showing); });
         });
     }
+}
+
+void showMessage(const Message& message, const Input& input, bool isWhole, const View& view) {
+    const Reading reading(input.bytes, message);
+    TextPrinter text(std::cout, {.redacts = view.redacts, .sent = &reading.sent()}, view.colours);
+    const auto viewOfList = [](const GrowingList& list) {
+        return ListView{&list.entry(), list.count(), [&](std::size_t index) { return list.at(index); }};
+    };
+    text.begin(message.name);
+    if (!isWhole) text.warn("damaged: read as far as it goes");
+    const Field& field = message.record;
+    if (const GrowingList* const all = reading.list(field)) {
+        text.list({}, viewOfList(*all));
+    } else if (field.type == FieldType::record) {
+        text.record(*field.record, reading.record(),
+                    [&](const Field& list) { return viewOfList(*reading.list(list)); });
+    } else {
+        text.value(field.name.empty() ? "value" : field.name, field, reading.record());
+    }
+    text.end();
 }
 
 }  // namespace kvj::tool

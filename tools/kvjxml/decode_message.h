@@ -13,6 +13,9 @@ namespace kvj::tool {
 /// Reads the reply and prints the record, a long list entry by entry.
 void decodeMessage(const Message& message, const Input& input, JsonPrinter& json, const View& view);
 
+/// Reads the reply and prints the record for eyes.
+void showMessage(const Message& message, const Input& input, bool isWhole, const View& view);
+
 }  // namespace kvj::tool
 
 #endif

@@ -16,7 +16,13 @@ void addView(CLI::App& verb, View& view) {
     verb.add_flag("--words", view.words,
                   "Beside each code the word for it, and beside each value that is not what the printer sent, what it "
                   "sent");
+    verb.add_option_function<std::string>(
+            "--format", [&view](const std::string& name) { view.isText = name == "text"; },
+            "json, or text for eyes: with words, units and what was sent")
+        ->option_text("FORMAT")
+        ->check(CLI::IsMember({"json", "text"}));
     view.redacts = writesToTerminal();
+    view.colours = writesInColour();
     verb.add_flag("--redact,!--no-redact", view.redacts,
                   "Mask keys, passkeys and magnetic tracks; so it is on a terminal unless told otherwise");
 }

@@ -83,6 +83,12 @@ const SentValue* Sent::find(const void* record, std::string_view field) const {
     return found == values_.end() ? nullptr : &found->second;
 }
 
+bool Sent::knows(const void* memory, std::size_t size) const {
+    const auto* const first = static_cast<const std::byte*>(memory);
+    const auto found = values_.lower_bound({first, {}});
+    return found != values_.end() && found->first.first < first + size;
+}
+
 void Sent::move(const std::byte* from, std::size_t size, const std::byte* to) {
     auto at = values_.lower_bound({from, {}});
     while (at != values_.end() && at->first.first < from + size) {

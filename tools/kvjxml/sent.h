@@ -29,6 +29,9 @@ public:
     /// That of a field, by the address of the record that the field is in; null when the reply did not carry it.
     [[nodiscard]] const SentValue* find(const void* record, std::string_view field) const;
 
+    /// Whether the reply carried any field that is stored there.
+    [[nodiscard]] bool knows(const void* memory, std::size_t size) const;
+
     /// Entries of a list are elsewhere now.
     void move(const std::byte* from, std::size_t size, const std::byte* to);
     /// Entries of a list are no more.
