@@ -1,6 +1,8 @@
+#include <algorithm>
 #include <memory>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "decode.h"
 #include "messages/message.h"
@@ -11,28 +13,24 @@ namespace kvj::tool {
 
 namespace {
 
-/// How a reply is shown.
+/// What is shown besides the values, and what is not.
 void addView(CLI::App& verb, View& view) {
     verb.add_flag("--words", view.words,
                   "Beside each code the word for it, and beside each value that is not what the printer sent, what it "
                   "sent");
-    verb.add_option_function<std::string>(
-            "--format", [&view](const std::string& name) { view.isText = name == "text"; },
-            "json, or text for eyes: with words, units and what was sent")
-        ->option_text("FORMAT")
-        ->check(CLI::IsMember({"json", "text"}));
     view.redacts = writesToTerminal();
-    view.colours = writesInColour();
     verb.add_flag("--redact,!--no-redact", view.redacts,
                   "Mask keys, passkeys and magnetic tracks; so it is on a terminal unless told otherwise");
+    view.colours = writesInColour();
 }
 
 }  // namespace
 
 Run addDecode(CLI::App& verb) {
     struct Options {
-        Source source;
+        Captures captures;
         std::string message;
+        std::string format{formats().front().name};
         View view;
     };
     const auto options = std::make_shared<Options>();
@@ -41,12 +39,22 @@ Run addDecode(CLI::App& verb) {
         roots.emplace(known.root);
         if (!known.otherRoot.empty()) roots.emplace(known.otherRoot);
     }
-    addSource(verb, "The reply, in UTF-8", options->source);
+    addCaptures(verb, "The replies", options->captures);
     verb.add_option("--message", options->message, "Read it as this message, whatever its root element")
         ->option_text("NAME")
         ->check(CLI::IsMember(roots));
+    std::vector<std::string> names;
+    std::string help;
+    for (const Format& format : formats()) {
+        names.emplace_back(format.name);
+        help.append(help.empty() ? "" : "; ").append(format.name).append(": ").append(format.summary);
+    }
+    verb.add_option("--format", options->format, help)->option_text("FORMAT")->check(CLI::IsMember(names));
     addView(verb, options->view);
-    return [options] { return decode(options->source, options->message, options->view); };
+    return [options] {
+        const auto format = std::ranges::find(formats(), options->format, &Format::name);
+        return decode(options->captures, options->message, *format, options->view);
+    };
 }
 
 }  // namespace kvj::tool

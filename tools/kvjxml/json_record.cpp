@@ -61,9 +61,11 @@ void printEntries(JsonPrinter& json, const Entries& entries, const void* record,
 void print(JsonPrinter& json, const RecordType* type, const Field& field, const void* record, const Showing& showing) {
     if (field.type == FieldType::record) {
         const void* const inner = field.at(record);
-        printRecord(json, *field.record, inner, showing, [&](const Field& list) {
-            printList(json, list, countOf(*list.entries, inner),
-                      [&] { printEntries(json, *list.entries, inner, showing); });
+        json.object([&] {
+            printFields(json, *field.record, inner, showing, [&](const Field& list) {
+                printList(json, list, countOf(*list.entries, inner),
+                          [&] { printEntries(json, *list.entries, inner, showing); });
+            });
         });
     } else if (field.type == FieldType::list) {
         json.list([&] { printEntries(json, *field.entries, record, showing); });

@@ -20,20 +20,18 @@ namespace kvj::tool {
 void print(JsonPrinter& json, const RecordType* type, const Field& field, const void* record, const Showing& showing);
 
 // Records nest as deep as they are declared, so the recursion ends. NOLINTBEGIN(misc-no-recursion)
-/// Prints a record, of which `printList(field)` prints the lists.
+/// Prints the fields of a record into an object, of which `printList(field)` prints the lists.
 template <class PrintList>
-void printRecord(JsonPrinter& json, const RecordType& type, const void* record, const Showing& showing,
+void printFields(JsonPrinter& json, const RecordType& type, const void* record, const Showing& showing,
                  PrintList printList) {
-    json.object([&] {
-        for (const Field& field : type.fields) {
-            if (field.type == FieldType::list) {
-                printList(field);
-            } else {
-                json.field(field.name);
-                print(json, &type, field, record, showing);
-            }
+    for (const Field& field : type.fields) {
+        if (field.type == FieldType::list) {
+            printList(field);
+        } else {
+            json.field(field.name);
+            print(json, &type, field, record, showing);
         }
-    });
+    }
 }
 
 /// Prints a list of a record, whose entries `printEntries()` prints.

@@ -35,9 +35,19 @@ bool isSetting(const FieldName& name) {
     return known && known.field->type == FieldType::record;
 }
 
+bool hasLists(const Field& record) {
+    return record.type == FieldType::record &&
+           std::ranges::find(record.record->fields, FieldType::list, &Field::type) != record.record->fields.end();
+}
+
 }  // namespace
 
 void Sent::read(const Read& read) {
+    keep(read);
+    if (next_ != nullptr) next_->read(read);
+}
+
+void Sent::keep(const Read& read) {
     const Description& row = read.row;
     if (read.record == nullptr || !hasOwnValue(row.kind)) return;
     Candidates found;
@@ -73,33 +83,44 @@ void Sent::read(const Read& read) {
 }
 
 void Sent::add(const void* record, std::string_view field, SentValue value) {
-    SentValue& known = values_[{static_cast<const std::byte*>(record), field}];
+    const Field& whole = message_->record;
+    const auto offset = reinterpret_cast<std::uintptr_t>(record) - reinterpret_cast<std::uintptr_t>(record_);
+    if (offset >= whole.size && whole.type != FieldType::list && !hasLists(whole)) {
+        // It is read into a record that several messages share, and copied from there. What is no field of a host's
+        // record is then the value that stands for itself.
+        record = record_;
+        if (!knownField(value.row->field)) field = whole.name;
+    }
+    SentValue& known = values_[key(record, field)];
     if (known.isChanged && adds(value.row->kind) && !value.isChanged) return;
     known = std::move(value);
 }
 
 const SentValue* Sent::find(const void* record, std::string_view field) const {
-    const auto found = values_.find({static_cast<const std::byte*>(record), field});
+    const auto found = values_.find(key(record, field));
     return found == values_.end() ? nullptr : &found->second;
 }
 
 bool Sent::knows(const void* memory, std::size_t size) const {
-    const auto* const first = static_cast<const std::byte*>(memory);
-    const auto found = values_.lower_bound({first, {}});
-    return found != values_.end() && found->first.first < first + size;
+    const auto first = key(memory, {});
+    const auto found = values_.lower_bound(first);
+    return found != values_.end() && found->first.first < first.first + size;
 }
 
-void Sent::move(const std::byte* from, std::size_t size, const std::byte* to) {
-    auto at = values_.lower_bound({from, {}});
-    while (at != values_.end() && at->first.first < from + size) {
+void Sent::move(std::uintptr_t from, std::size_t size, const void* to) {
+    const Key end{from + size, {}};
+    std::map<Key, SentValue> moved;
+    for (auto at = values_.lower_bound({from, {}}); at != values_.end() && at->first < end;) {
         auto node = values_.extract(at++);
-        node.key().first = to + (node.key().first - from);
-        values_.insert(std::move(node));
+        node.key().first = node.key().first - from + reinterpret_cast<std::uintptr_t>(to);
+        moved.insert(moved.end(), std::move(node));
     }
+    values_.merge(moved);
 }
 
-void Sent::forget(const std::byte* from, std::size_t size) {
-    values_.erase(values_.lower_bound({from, {}}), values_.lower_bound({from + size, {}}));
+void Sent::forget(const void* first, std::size_t size) {
+    const Key begin = key(first, {});
+    values_.erase(values_.lower_bound(begin), values_.lower_bound({begin.first + size, {}}));
 }
 
 }  // namespace kvj::tool

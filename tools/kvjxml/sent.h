@@ -4,12 +4,14 @@
 #define KVJXML_TOOL_SENT_H
 
 #include <cstddef>
+#include <cstdint>
 #include <map>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "foundation/watch.h"
+#include "messages/message.h"
 
 namespace kvj::tool {
 
@@ -23,8 +25,16 @@ struct SentValue {
 /// Told of each element while a message is read, it keeps what the fields were read from.
 class Sent final : public Watch::Diagnosis {
 public:
+    /// @param record  that of the message, which outlives it as well.
+    Sent(const Message& message, const void* record) : message_(&message), record_(record) {}
+
+    /// Somebody else who is told of each element; null for nobody.
+    void passOnTo(Watch::Diagnosis* next) { next_ = next; }
+
     void read(const Read& read) override;
-    void skip(Element /*element*/) override {}
+    void skip(Element element) override {
+        if (next_ != nullptr) next_->skip(element);
+    }
 
     /// That of a field, by the address of the record that the field is in; null when the reply did not carry it.
     [[nodiscard]] const SentValue* find(const void* record, std::string_view field) const;
@@ -33,16 +43,23 @@ public:
     [[nodiscard]] bool knows(const void* memory, std::size_t size) const;
 
     /// Entries of a list are elsewhere now.
-    void move(const std::byte* from, std::size_t size, const std::byte* to);
+    void move(std::uintptr_t from, std::size_t size, const void* to);
     /// Entries of a list are no more.
-    void forget(const std::byte* from, std::size_t size);
+    void forget(const void* first, std::size_t size);
 
 private:
     /// A record and the first of its fields have the same address.
-    using Key = std::pair<const std::byte*, std::string_view>;
+    using Key = std::pair<std::uintptr_t, std::string_view>;
 
+    static Key key(const void* record, std::string_view field) {
+        return {reinterpret_cast<std::uintptr_t>(record), field};
+    }
+    void keep(const Read& read);
     void add(const void* record, std::string_view field, SentValue value);
 
+    const Message* message_;
+    const void* record_;
+    Watch::Diagnosis* next_ = nullptr;
     std::map<Key, SentValue> values_;
 };
 

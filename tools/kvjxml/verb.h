@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+#include "captures.h"
 #include "exit_code.h"
 #include "input.h"
 
@@ -33,6 +34,9 @@ Run addMessages(CLI::App& verb);
 
 /// The option of every verb that limits its input.
 void addMaxSize(CLI::App& verb, std::uint64_t& maxSize);
+/// The documents that a verb reads, see captures.h.
+/// @param captures  outlives the command line.
+void addCaptures(CLI::App& verb, const std::string& content, Captures& captures);
 /// The file that a verb reads, and how much of it.
 void addSource(CLI::App& verb, const std::string& content, Source& source);
 

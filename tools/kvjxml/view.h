@@ -6,10 +6,9 @@
 namespace kvj::tool {
 
 struct View {
-    bool isText = false;   ///< for eyes, not for programs
-    bool colours = false;  ///< of a text
     bool words = false;    ///< codes have their words beside them, and changed values what was sent
     bool redacts = false;  ///< secrets are masked
+    bool colours = false;  ///< of a text
 };
 
 }  // namespace kvj::tool
