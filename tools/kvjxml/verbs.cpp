@@ -55,15 +55,20 @@ void addMaxSize(CLI::App& verb, std::uint64_t& maxSize) {
 }
 
 CLI::Validator knownRoot() {
-    return {[](const std::string& name) {
-                std::set<std::string_view> roots;
-                for (const Message& message : messages()) {
-                    roots.insert(message.root);
-                    if (!message.otherRoot.empty()) roots.insert(message.otherRoot);
-                }
-                return roots.contains(name) ? std::string() : unknown("message", name, roots);
+    std::set<std::string_view> roots;
+    for (const Message& message : messages()) {
+        roots.insert(message.root);
+        if (!message.otherRoot.empty()) roots.insert(message.otherRoot);
+    }
+    std::string names;
+    for (const auto root : roots) names.append(names.empty() ? "" : ",").append(root);
+    return {[roots, names](const std::string& name) {
+                if (roots.contains(name)) return std::string();
+                std::string reason = unknown("message", name, roots);
+                if (!reason.ends_with('?')) reason.append("; there are ").append(names);
+                return reason;
             },
-            ""};
+            "{" + names + "}"};
 }
 
 void addSource(CLI::App& verb, const std::string& content, Source& source) {
