@@ -23,7 +23,7 @@ void printJson(const Capture& capture, const DecodedDocument& document) {
     for (const std::string& remark : remarksOn(capture, document)) tell(capture.origin, remark);
     JsonPrinter json(std::cout);
     printDocument(json, document);
-    std::cout << '\n';
+    json.endLine();
 }
 
 /// A line about a document, of which `content` prints what is special.
@@ -37,20 +37,20 @@ void printLine(const Origin& origin, Content content) {
             json.field("source");
             json.object([&] {
                 json.field("file");
-                json.value(nlohmann::json(origin.file));
+                json.value(origin.file);
                 json.field("number");
                 json.value(origin.number);
             });
             content(json);
         });
     });
-    std::cout << '\n';
+    json.endLine();
 }
 
 void printDocumentLine(const Capture& capture, const DecodedDocument& document) {
     printLine(capture.origin, [&](JsonPrinter& json) {
         json.field("message");
-        json.value(nlohmann::json(document.root()));
+        json.value(document.root());
         json.field("damaged");
         json.value(!document.isWhole());
         json.field("findings");
@@ -71,7 +71,7 @@ void printFailureLine(const Origin& origin, const Failure& failure) {
             json.field("code");
             json.value(static_cast<int>(failure.code()));
             json.field("text");
-            json.value(nlohmann::json(failure.what()));
+            json.value(failure.what());
         });
     });
 }

@@ -110,11 +110,15 @@ void DecodedDocument::read(DecodedMessage& reader, std::string_view text, Counti
     message.readRoot(reader.root, reader.record.data(), rooms);
     document_.watchWith(nullptr);
     if (!diagnosis) return;
+    if (readers_.size() == 1) {
+        others_ = diagnosis->count();
+        return;
+    }
     diagnosis->finish();
     for (const kvjxml::finding& each : findings.all) {
         findings_.emplace(each.offset, each.kind, each.path, each.text, each.became, each.detail);
     }
-    omitted_ = std::max(omitted_, findings.omitted);
+    others_ = std::max(others_, findings.omitted);
 }
 
 // ---- Damage ----

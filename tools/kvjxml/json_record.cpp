@@ -14,7 +14,7 @@ namespace {
 
 /// A float in as few digits as tell it from its neighbours, 24.35 and not 24.350000381469727.
 void printDecimal(JsonPrinter& json, float value) {
-    if (!std::isfinite(value)) return json.value(nullptr);  // JSON has no other number for it.
+    if (!std::isfinite(value)) return json.value(nlohmann::json());  // JSON has no other number for it.
     std::array<char, 64> digits{};
     std::to_chars(digits.data(), digits.data() + digits.size() - 1, value);
     json.value(nlohmann::json::parse(digits.data()));
