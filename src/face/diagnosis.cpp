@@ -468,9 +468,21 @@ void Diagnosis::skip(Element element) {
 }
 
 void Diagnosis::finish() {
+    const auto parents = settle();
+    if (candidates_.all.empty()) return;
+    Places places(document_, bytes_, parents, message_);
+    tell(candidates_, places, document_, bytes_, findings_);
+}
+
+std::size_t Diagnosis::count() {
+    settle();
+    return candidates_.all.size() + candidates_.omitted;
+}
+
+std::vector<std::uint32_t> Diagnosis::settle() {
     // In most replies there is nothing to be found.
-    if (isPlain_ && candidates_.all.empty()) return;
-    const auto parents = parentsIn(document_);
+    if (isPlain_ && candidates_.all.empty()) return {};
+    auto parents = parentsIn(document_);
     if (!isPlain_) Between(document_, bytes_, parents, roles_, root_.number(), candidates_).all();
     const auto namesTo = [&](std::size_t node) {
         std::vector<std::string_view> names;
@@ -495,8 +507,7 @@ void Diagnosis::finish() {
         if (!best.empty()) candidate.detail = "did you mean " + quoted(best) + "?";
         return false;
     });
-    Places places(document_, bytes_, parents, message_);
-    tell(candidates_, places, document_, bytes_, findings_);
+    return parents;
 }
 
 void diagnoseWithout(const Document& document, std::string_view bytes, const Message& message, Findings& findings) {

@@ -92,10 +92,16 @@ public:
     void read(const Read& read) override;
     void skip(Element element) override;
 
-    /// When all is read: looks at what is between the elements, and finds out where everything is.
+    /// When all is read: looks at what is between the elements, and tells where everything is.
     void finish();
+    /// In its place, for who only wants to know how many findings there are: it takes a third of the time.
+    std::size_t count();
 
 private:
+    /// Looks at what is between the elements, and drops what turns out to be nothing.
+    /// @return the element around each; none where there is nothing to be found.
+    std::vector<std::uint32_t> settle();
+
     const Document& document_;
     std::string_view bytes_;
     Element root_;

@@ -213,6 +213,25 @@ TEST(DecodeMany, AFullDiskEndsItWithCode1) {
     }
 }
 
+// ---- Progress ----
+
+TEST(DecodeProgress, IsShownAtATerminalWhenAStreamTakesLong) {
+    const TemporaryFolder folder;
+    const std::string out = (folder / "out").string();
+    const std::string stream = "(echo " + std::string("\"<nonce/>\"") + "; sleep 1.2; echo \"<nonce/>\")";
+    const Outcome outcome = runShell(
+        "script -qec '" + stream + " | " KVJXML_TOOL " decode --format jsonl --separator line >" + out + "' /dev/null");
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(outcome.out, "2 documents, 1 a second\r\x1B[K");
+}
+
+TEST(DecodeProgress, IsNotShownWhereNobodyWaitsForIt) {
+    const Outcome outcome = runShell("(echo '<nonce/>'; sleep 1.2; echo '<nonce/>') | " KVJXML_TOOL
+                                     " decode --format jsonl --separator line");
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(outcome.error, "");
+}
+
 // ---- Damage in machine formats ----
 
 TEST(DecodeDamaged, TheMarkIsTheFirstMemberOfWhateverWasRead) {

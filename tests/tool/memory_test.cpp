@@ -66,17 +66,17 @@ TEST(MaxSize, IsBytesOrHasAUnit) {
 
 // ---- Memory ----
 
-/// The most memory that decoding a reply takes at once, in bytes.
-std::size_t peakOf(const std::string& reply) {
+/// The most memory that decoding takes at once, in bytes.
+std::size_t peakOf(const std::string& replies, const char* format = "json", const char* separator = "nul") {
     const TemporaryFolder folder;
-    const std::string file = (folder / "reply.xml").string();
-    kvj::tests::write(file, reply);
+    const std::string file = (folder / "replies").string();
+    kvj::tests::write(file, replies);
     const pid_t child = fork();
     if (child == 0) {
         const int nowhere = open("/dev/null", O_WRONLY);
         dup2(nowhere, STDOUT_FILENO);
         dup2(nowhere, STDERR_FILENO);
-        execl(KVJXML_TOOL, KVJXML_TOOL, "decode", file.c_str(), nullptr);
+        execl(KVJXML_TOOL, KVJXML_TOOL, "decode", "--format", format, "--separator", separator, file.c_str(), nullptr);
         _exit(127);
     }
     int status = 0;
@@ -128,5 +128,41 @@ INSTANTIATE_TEST_SUITE_P(
                     Shape{"services", "<get_log_service_history>", "<service/>", "</get_log_service_history>"},
                     Shape{"three_readers", "<get_sensor_status>", "<a/>", "</get_sensor_status>"},
                     Shape{"unknown_nodes", "<get_job_status>", "x<>", "</get_job_status>"}));
+
+// ---- Streams ----
+
+TEST(PeakOfAStream, DoesNotGrowWithItsLength) {
+    if (kvj::tests::hasAddressSanitizer || kvj::tests::hasThreadSanitizer) {
+        GTEST_SKIP() << "It keeps what was released.";
+    }
+    const auto stream = [](std::size_t count) {
+        std::string text;
+        // One in ten is cut, and one is of no message.
+        for (std::size_t i = 0; i < count; ++i) {
+            text += i % 10 == 3   ? "<get_job_status><action_id>7\n"
+                    : i % 10 == 6 ? "<a/>\n"
+                                  : "<get_job_status><action_id>7</action_id></get_job_status>\n";
+        }
+        return text;
+    };
+    for (const char* format : {"json", "jsonl"}) {
+        const std::size_t few = peakOf(stream(2'000), format, "line");
+        const std::size_t many = peakOf(stream(40'000), format, "line");
+        EXPECT_LE(many, few + (std::size_t{512} << 10)) << format << ": the streams have 0.1 and 2 MB";
+    }
+}
+
+TEST(PeakOfAStream, DoesNotGrowWithADocumentThatIsTooLarge) {
+    if (kvj::tests::hasAddressSanitizer || kvj::tests::hasThreadSanitizer) {
+        GTEST_SKIP() << "It keeps what was released.";
+    }
+    const Outcome outcome =
+        runShell("{ head -c 64M /dev/zero; echo; echo '<nonce>5F</nonce>'; } | (ulimit -v 65536; " KVJXML_TOOL
+                 " decode --separator line --max-size 1M)");
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_EQ(outcome.out, "{\n    \"nonce\": \"5F\"\n}\n");
+    EXPECT_EQ(outcome.error,
+              "kvjxml: standard input, document 1: is larger than 1048576 bytes; --max-size takes more\n");
+}
 
 }  // namespace

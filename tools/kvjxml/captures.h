@@ -25,10 +25,10 @@ enum class Separator : std::uint8_t {
 
 /// What is to be read, and how.
 struct Captures {
-    std::vector<std::string> paths;  ///< "-" is standard input; none is that alone
-    bool isRecursive = false;        ///< whether a folder stands for the files in it
+    std::vector<std::string> paths{};  ///< "-" is standard input; none is that alone
+    bool isRecursive = false;          ///< whether a folder stands for the files in it
     Separator separator = Separator::none;
-    std::optional<Encoding> encoding;                 ///< nothing for what each capture says itself
+    std::optional<Encoding> encoding{};               ///< nothing for what each capture says itself
     std::uint64_t maxSize = std::uint64_t{64} << 20;  ///< of a document, in bytes
 };
 

@@ -27,7 +27,7 @@ void printJson(const Capture& capture, const DecodedDocument& document, const Vi
     tellRemarks(capture, document);
     JsonPrinter json(std::cout);
     printDocument(json, document, view);
-    std::cout << '\n';
+    json.endLine();
 }
 
 void printForEyes(const Capture& capture, const DecodedDocument& document, const View& view) {
@@ -46,20 +46,20 @@ void printLine(const Origin& origin, Content content) {
             json.field("source");
             json.object([&] {
                 json.field("file");
-                json.value(nlohmann::json(origin.file));
+                json.value(origin.file);
                 json.field("number");
                 json.value(origin.number);
             });
             content(json);
         });
     });
-    std::cout << '\n';
+    json.endLine();
 }
 
 void printDocumentLine(const Capture& capture, const DecodedDocument& document, const View& view) {
     printLine(capture.origin, [&](JsonPrinter& json) {
         json.field("message");
-        json.value(nlohmann::json(document.root()));
+        json.value(document.root());
         json.field("damaged");
         json.value(!document.isWhole());
         json.field("findings");
@@ -80,7 +80,7 @@ void printFailureLine(const Origin& origin, const Failure& failure) {
             json.field("code");
             json.value(static_cast<int>(failure.code()));
             json.field("text");
-            json.value(nlohmann::json(failure.what()));
+            json.value(failure.what());
         });
     });
 }

@@ -125,11 +125,15 @@ void DecodedDocument::read(DecodedMessage& reader, std::string_view text, Counti
     document_.watchWith(nullptr);
     if (reader.sent != nullptr) reader.sent->passOnTo(nullptr);
     if (!diagnosis) return;
+    if (readers_.size() == 1) {
+        others_ = diagnosis->count();
+        return;
+    }
     diagnosis->finish();
     for (const kvjxml::finding& each : findings.all) {
         findings_.emplace(each.offset, each.kind, each.path, each.text, each.became, each.detail);
     }
-    omitted_ = std::max(omitted_, findings.omitted);
+    others_ = std::max(others_, findings.omitted);
 }
 
 // ---- Damage ----

@@ -81,7 +81,7 @@ public:
     /// One at least; several may each take a part of one document.
     [[nodiscard]] const std::vector<DecodedMessage>& readers() const { return readers_; }
     /// How much was ignored, changed or lost, by all of them.
-    [[nodiscard]] std::size_t findings() const { return findings_.size() + omitted_; }
+    [[nodiscard]] std::size_t findings() const { return findings_.size() + others_; }
 
 private:
     void findReaders(std::string_view text, std::string_view root);
@@ -89,10 +89,10 @@ private:
 
     Utf8Reply document_;
     std::vector<DecodedMessage> readers_;
-    /// What tells a finding from others: two readers of the same element may find the same.
+    /// Of several readers, what tells a finding from others: two that read the same element may find the same.
     std::set<std::tuple<std::size_t, kvjxml::finding_kind, std::string, std::string, std::string, std::string>>
         findings_;
-    std::size_t omitted_ = 0;
+    std::size_t others_ = 0;  ///< how many there are beyond those
 };
 
 /// Where a document that is not whole breaks, for people: "line 3, column 5: the reply ends here".

@@ -61,16 +61,16 @@ std::string fromUtf16(std::string_view bytes, bool isLittleEndian) {
 
 struct Mark {
     std::string_view bytes;
-    Encoding encoding;
     const char* note;
+    Encoding encoding;
     bool isCharacter = false;  ///< no mark, but what a document begins with
 };
 constexpr Mark marks[] = {
-    {"\xEF\xBB\xBF", Encoding::utf8, "begins with a byte order mark"},
-    {"\xFF\xFE", Encoding::utf16le, "is UTF-16, little-endian, by its byte order mark"},
-    {"\xFE\xFF", Encoding::utf16be, "is UTF-16, big-endian, by its byte order mark"},
-    {{"<\0", 2}, Encoding::utf16le, "is UTF-16, little-endian, by its first character", true},
-    {{"\0<", 2}, Encoding::utf16be, "is UTF-16, big-endian, by its first character", true},
+    {"\xEF\xBB\xBF", "begins with a byte order mark", Encoding::utf8},
+    {"\xFF\xFE", "is UTF-16, little-endian, by its byte order mark", Encoding::utf16le},
+    {"\xFE\xFF", "is UTF-16, big-endian, by its byte order mark", Encoding::utf16be},
+    {{"<\0", 2}, "is UTF-16, little-endian, by its first character", Encoding::utf16le, true},
+    {{"\0<", 2}, "is UTF-16, big-endian, by its first character", Encoding::utf16be, true},
 };
 
 bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
@@ -116,18 +116,15 @@ bool declaresLatin1(std::string_view document) {
 }
 
 std::string toUtf8(std::string_view bytes, Encoding encoding) {
-    switch (encoding) {
-        case Encoding::utf8:
-            return std::string(bytes);
+    switch (const Encoding exact = withOrder(encoding, bytes)) {
         case Encoding::latin1:
             return fromLatin1(bytes);
-        case Encoding::utf16:
-            return toUtf8(bytes, withOrder(encoding, bytes));  // NOLINT(misc-no-recursion): once, it has an order then
         case Encoding::utf16le:
         case Encoding::utf16be:
-            return fromUtf16(bytes, encoding == Encoding::utf16le);
+            return fromUtf16(bytes, exact == Encoding::utf16le);
+        default:
+            return std::string(bytes);
     }
-    return {};
 }
 
 std::size_t sizeIn(Encoding encoding, std::string_view utf8) {
