@@ -16,8 +16,7 @@ using kvjxml::finding_kind;
 using kvjxml::severity;
 
 struct Options {
-    std::vector<std::string> files;
-    std::uint64_t maxSize = Source{}.maxSize;
+    Captures captures;
     std::string format = "text";
     std::string failOn = "warning";
     std::optional<bool> redacts;
@@ -56,20 +55,17 @@ const std::map<std::string, severity> severities{
 const std::map<std::string, MakeWriter> formats{{"text", textWriter}, {"json", jsonWriter}, {"sarif", sarifWriter}};
 
 ExitCode run(const Options& options) {
-    std::vector<Source> sources;
-    for (const std::string& file : options.files) sources.push_back({file, options.maxSize});
-    if (sources.empty()) sources.push_back({.maxSize = options.maxSize});
     CheckOptions how = options.check;
     how.failOn = severities.at(options.failOn);
     how.hidesSecrets = options.redacts.value_or(writesToTerminal());
-    return check(sources, how, formats.at(options.format));
+    return check(options.captures, how, formats.at(options.format));
 }
 
 }  // namespace
 
 Run addCheck(CLI::App& verb) {
     const auto options = std::make_shared<Options>();
-    verb.add_option("FILE", options->files, "Documents, in UTF-8; - for standard input, as without any");
+    addCaptures(verb, "The documents", options->captures);
     verb.add_option("--format", options->format,
                     "text, json (an object for each document, on one line) or sarif (SARIF 2.1.0); text unless told")
         ->option_text("FORMAT")
@@ -81,7 +77,6 @@ Run addCheck(CLI::App& verb) {
     addIgnore(verb, options->check.ignored);
     verb.add_flag("--redact,!--no-redact", options->redacts,
                   "Mask keys and other secrets, or do not; unless told, they are masked on a terminal");
-    addMaxSize(verb, options->maxSize);
     return [options] { return run(*options); };
 }
 

@@ -7,7 +7,8 @@
 #include <utility>
 
 #include "face/nearest.h"
-#include "foundation/document.h"
+#include "face/utf8_reply.h"
+#include "failure.h"
 #include "foundation/element.h"
 #include "reading.h"
 
@@ -19,12 +20,9 @@ using kvjxml::finding;
 using kvjxml::finding_kind;
 
 std::vector<std::string> rootsIn(std::string_view bytes) {
-    const std::string_view content = bytes.substr(0, bytes.find('\0'));
-    Text text(content.size());
-    std::ranges::copy(content, text.bytes());
-    const Document document(std::move(text), Manner::ofUtf8);
+    const Utf8Reply document(bytes);
+    if (!document.top() && !bytes.empty()) throw Failure(ExitCode::inputOutput, "is too large to be read");
     std::vector<std::string> roots;
-    if (!document.top()) return roots;
     for (const Element root : document.top().children()) roots.emplace_back(root.name());
     return roots;
 }

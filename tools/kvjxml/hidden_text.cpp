@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "face/markup.h"
+#include "face/utf8_reply.h"
 #include "foundation/document.h"
 #include "foundation/element.h"
 #include "secrets.h"
@@ -117,10 +118,7 @@ std::size_t shownOfRest(std::string_view rest, bool isSafe) {
 }  // namespace
 
 HiddenText::HiddenText(std::string_view bytes, const CheckedDocument& checked) {
-    const std::string_view content = bytes.substr(0, bytes.find('\0'));
-    Text text(content.size());
-    std::ranges::copy(content, text.bytes());
-    const Document document(std::move(text), Manner::ofUtf8);
+    const Utf8Reply document(bytes);
     if (!document.top()) return;
     const ShownElements isShown(document, checked);
     const auto parents = parentsIn(document);
