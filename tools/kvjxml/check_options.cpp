@@ -1,6 +1,5 @@
 #include <map>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,8 +18,7 @@ struct Options {
     Captures captures;
     std::string format = "text";
     std::string failOn = "warning";
-    std::optional<bool> redacts;
-    CheckOptions check;
+    CheckOptions check{.hidesSecrets = writesToTerminal()};
 };
 
 std::map<std::string, finding_kind> kinds() {
@@ -57,7 +55,6 @@ const std::map<std::string, MakeWriter> formats{{"text", textWriter}, {"json", j
 ExitCode run(const Options& options) {
     CheckOptions how = options.check;
     how.failOn = severities.at(options.failOn);
-    how.hidesSecrets = options.redacts.value_or(writesToTerminal());
     return check(options.captures, how, formats.at(options.format));
 }
 
@@ -75,7 +72,7 @@ Run addCheck(CLI::App& verb) {
         ->option_text("SEVERITY")
         ->check(CLI::IsMember(&severities));
     addIgnore(verb, options->check.ignored);
-    verb.add_flag("--redact,!--no-redact", options->redacts,
+    verb.add_flag("--redact,!--no-redact", options->check.hidesSecrets,
                   "Mask keys and other secrets, or do not; unless told, they are masked on a terminal");
     return [options] { return run(*options); };
 }
