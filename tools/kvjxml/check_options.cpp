@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "check.h"
+#include "suggestion.h"
 #include "verb.h"
 #include "visible_text.h"
 
@@ -29,6 +30,10 @@ std::map<std::string, finding_kind> kinds() {
     return all;
 }
 
+std::string unknownKind(const std::string& name) {
+    return unknown("kind of finding", name, kinds(), [](const auto& known) { return std::string_view(known.first); });
+}
+
 void addIgnore(CLI::App& verb, std::vector<Ignored>& ignored) {
     std::string names;
     for (const auto& [name, kind] : kinds()) names += (names.empty() ? "" : ", ") + name;
@@ -37,7 +42,7 @@ void addIgnore(CLI::App& verb, std::vector<Ignored>& ignored) {
             const std::size_t colon = text.find(':');
             const auto known = kinds();
             const auto kind = known.find(text.substr(0, colon));
-            if (kind == known.end()) throw CLI::ValidationError("--ignore", "\"" + text + "\" begins with no kind");
+            if (kind == known.end()) throw CLI::ValidationError("--ignore", unknownKind(text.substr(0, colon)));
             ignored.push_back({kind->second, colon == std::string::npos ? std::string() : text.substr(colon + 1)});
         }
     };
