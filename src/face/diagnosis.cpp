@@ -444,7 +444,7 @@ Diagnosis::Diagnosis(const Document& document, std::string_view bytes, bool isWh
       message_(message),
       findings_(findings),
       roles_(document),
-      isPlain_(document.isPlain() && isWhole),
+      isPlain_(document.isPlain() && isWhole && (root.text() == nullptr || !root.children().empty())),
       room_(roomIn(message.record)) {
     roles_.set(root.number(), Role::around);
 }

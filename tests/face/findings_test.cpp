@@ -57,6 +57,12 @@ TEST(FindingsAtTheRoot, SayThatItHoldsElementsBesideItsText) {
                     "warning ignored 1:12 /nonce \"a\" (a text beside elements)"));
 }
 
+TEST(FindingsAtTheRoot, SayThatATextStandsInThePlaceOfElements) {
+    EXPECT_THAT(found("job_status", "<get_job_status>\n text</get_job_status>"),
+                ElementsAre("warning ignored 2:2 /get_job_status \"text\" (a text beside elements)"));
+    EXPECT_THAT(found("job_status", "<get_job_status> \n </get_job_status>"), IsEmpty());
+}
+
 TEST(FindingsBesideRows, SayThatATextStandsWhereOnlyAttributesAreRead) {
     EXPECT_THAT(found("sensor_info",
                       "<get_sensor_status><input_output><input_feeder reading='8'>874</input_feeder></input_output>"

@@ -10,6 +10,7 @@
 #include <ostream>
 #include <set>
 #include <span>
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -20,6 +21,8 @@
 #include "foundation/element.h"
 #include "hostile/samples.h"
 #include "messages/message.h"
+#include "support/files.h"
+#include "support/readings.h"
 #include "tool/checked.h"
 
 namespace {
@@ -348,6 +351,16 @@ TEST_F(Planted, AWrongEndTagIsFoundAndNothingElseInFrontOfIt) {
     });
 }
 
+TEST_F(Planted, AnEntryThatTheRecordHasNoRoomForIsFound) {
+    const std::string entry = "<job><action_id>7</action_id></job>\n";
+    std::string jobs = "<get_job_list>\n";
+    constexpr std::size_t room = 64;
+    for (std::size_t i = 0; i < room; ++i) jobs += entry;
+    EXPECT_TRUE(toldIn(jobs + "</get_job_list>").empty());
+    const std::multiset<Told> expected{{Found::beyond_capacity, room + 2, "/get_job_list/job[65]"}};
+    EXPECT_EQ(toldIn(jobs + entry + "</get_job_list>"), expected);
+}
+
 TEST_F(Planted, ARootThatIsMisspeltIsFoundWithTheNameThatWasMeant) {
     for (const Sample& sample : samples()) {
         SCOPED_TRACE(sample.root);
@@ -361,6 +374,23 @@ TEST_F(Planted, ARootThatIsMisspeltIsFoundWithTheNameThatWasMeant) {
         EXPECT_EQ(findings[0].kind, Found::unknown_message);
         EXPECT_EQ(findings[0].path, "/" + name);
         EXPECT_EQ(findings[0].detail, "did you mean \"" + sample.root + "\"?");
+    }
+}
+
+// ---- The samples as they are ----
+
+/// What the library's readers of a root find, each by itself, in lines that begin with the name of the reader.
+TEST(CheckedSamples, TellOnlyWhatIsOddInThem) {
+    std::map<std::string, std::set<std::string>> expected;
+    std::istringstream lines(kvj::tests::contentOf(FINDINGS_OF_SAMPLES));
+    for (std::string line; std::getline(lines, line);) {
+        if (line.empty() || line.starts_with('#')) continue;
+        const std::size_t colon = line.find(": ");
+        expected[std::string(messageOf(line.substr(0, colon)).root)].insert(line.substr(colon + 2));
+    }
+    for (const Sample& sample : samples()) {
+        const auto told = toldOf(checkedFindings(sample.text));
+        EXPECT_THAT(told, testing::UnorderedElementsAreArray(expected[sample.root])) << sample.root;
     }
 }
 

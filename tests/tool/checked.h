@@ -19,7 +19,7 @@ inline std::string printed(tool::MakeWriter makeWriter, std::string_view documen
                            const tool::CheckOptions& options = {}) {
     std::ostringstream out;
     const auto writer = makeWriter(out);
-    tool::Check(options, *writer).document("reply.xml", 0, document);
+    check({.origin = {.file = "reply.xml"}, .text = std::string(document)}, options, *writer);
     writer->end();
     return out.str();
 }

@@ -2,9 +2,12 @@
 
 #include <algorithm>
 #include <iostream>
+#include <stdexcept>
 
+#include "checked_document.h"
+#include "encodings.h"
 #include "failure.h"
-#include "visible_text.h"
+#include "hidden_text.h"
 
 namespace kvj::tool {
 
@@ -34,6 +37,24 @@ ExitCode codeOf(const CheckedDocument& checked, kvjxml::severity failOn) {
     return fails ? ExitCode::findings : ExitCode::done;
 }
 
+/// Findings are in the order of the document, so one walk over it tells where all of them are in the capture.
+std::vector<ToldFinding> toldOf(const std::vector<kvjxml::finding>& findings, const Capture& capture,
+                                const HiddenText& hidden) {
+    const std::string_view text = capture.text;
+    std::vector<ToldFinding> told;
+    std::size_t passed = 0;
+    std::size_t offset = capture.offset;
+    for (const kvjxml::finding& one : findings) {
+        offset += sizeIn(capture.encoding, text.substr(passed, one.offset - passed));
+        passed = one.offset;
+        ToldFinding& it = told.emplace_back(ToldFinding{hidden.shown(one), one.offset});
+        it.finding.line += capture.line;
+        it.finding.offset = offset;
+        it.finding.length = sizeIn(capture.encoding, text.substr(one.offset, one.length));
+    }
+    return told;
+}
+
 }  // namespace
 
 bool Ignored::matches(const kvjxml::finding& finding) const {
@@ -47,37 +68,41 @@ bool Ignored::matches(const kvjxml::finding& finding) const {
     return meant.empty() && found.empty();
 }
 
-void Check::document(std::string_view file, std::size_t number, std::string_view bytes) {
-    CheckedDocument checked = checkDocument(bytes);
+ExitCode check(const Capture& capture, const CheckOptions& options, FindingWriter& writer) {
+    CheckedDocument checked = checkDocument(capture.text);
     std::erase_if(checked.findings, [&](const kvjxml::finding& one) {
-        return std::ranges::any_of(options_.ignored, [&](const Ignored& each) { return each.matches(one); });
+        return std::ranges::any_of(options.ignored, [&](const Ignored& each) { return each.matches(one); });
     });
-    const bool hides = options_.hidesSecrets && !checked.findings.empty();
-    const HiddenText hidden = hides ? HiddenText(bytes, checked) : HiddenText();
-    writer_.document({.file = file, .number = number, .bytes = bytes, .checked = checked, .hidden = hidden});
-    code_ = worseOf(code_, codeOf(checked, options_.failOn));
+    const bool hides = options.hidesSecrets && !checked.findings.empty();
+    const HiddenText hidden = hides ? HiddenText(capture.text, checked) : HiddenText();
+    writer.document({.capture = capture,
+                     .message = checked.root,
+                     .isDamaged = !checked.isWhole,
+                     .findings = toldOf(checked.findings, capture, hidden),
+                     .omitted = checked.omitted,
+                     .hidden = hidden});
+    return codeOf(checked, options.failOn);
 }
 
-void Check::failed(std::string_view file, std::string_view reason, ExitCode code) {
-    std::cerr << "kvjxml: " << visible(reason) << '\n';
-    writer_.failed(file, reason);
-    code_ = worseOf(code_, code);
-}
-
-ExitCode check(const std::vector<Source>& sources, const CheckOptions& options, MakeWriter makeWriter) {
+ExitCode check(const Captures& captures, const CheckOptions& options, MakeWriter makeWriter) {
     const auto writer = makeWriter(std::cout);
-    Check check(options, *writer);
-    for (const Source& source : sources) {
-        try {
-            check.document(source.name(), 0, readBytes(source));
-        } catch (const Failure& failure) {
-            check.failed(source.name(), failure.what(), failure.code());
-        }
-        // What is not read by anybody need not be looked for.
-        if (!std::cout) break;
-    }
+    // What can be written nowhere need not be looked for.
+    const auto expectOutput = [] {
+        if (!std::cout) throw std::runtime_error("standard output: cannot be written");
+    };
+    const ExitCode code = forEachDocument(
+        captures,
+        [&](const Capture& capture) {
+            const ExitCode ofOne = check(capture, options, *writer);
+            expectOutput();
+            return ofOne;
+        },
+        [&](const Origin& origin, const Failure& failure) {
+            tellFailure(origin, failure);
+            writer->failed(origin, failure);
+        });
     writer->end();
-    return check.code();
+    return code;
 }
 
 }  // namespace kvj::tool

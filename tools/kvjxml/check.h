@@ -5,12 +5,11 @@
 
 #include <kvjxml_read.hpp>
 #include <string>
-#include <string_view>
 #include <vector>
 
+#include "captures.h"
 #include "exit_code.h"
 #include "finding_writers.h"
-#include "input.h"
 
 namespace kvj::tool {
 
@@ -28,27 +27,11 @@ struct CheckOptions {
     bool hidesSecrets = false;
 };
 
-/// Checks documents one by one.
-class Check {
-public:
-    /// Both outlive it.
-    Check(const CheckOptions& options, FindingWriter& writer) : options_(options), writer_(writer) {}
+/// Tells what is found in a document.
+ExitCode check(const Capture& capture, const CheckOptions& options, FindingWriter& writer);
 
-    void document(std::string_view file, std::size_t number, std::string_view bytes);
-    /// A document that could not be read.
-    void failed(std::string_view file, std::string_view reason, ExitCode code);
-
-    /// What stands for all of them.
-    [[nodiscard]] ExitCode code() const { return code_; }
-
-private:
-    const CheckOptions& options_;
-    FindingWriter& writer_;
-    ExitCode code_ = ExitCode::done;
-};
-
-/// Prints what is found in the documents of `sources`.
-ExitCode check(const std::vector<Source>& sources, const CheckOptions& options, MakeWriter makeWriter);
+/// Prints what is found in documents.
+ExitCode check(const Captures& captures, const CheckOptions& options, MakeWriter makeWriter);
 
 }  // namespace kvj::tool
 

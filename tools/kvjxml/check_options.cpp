@@ -1,10 +1,10 @@
 #include <map>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "check.h"
+#include "suggestion.h"
 #include "verb.h"
 #include "visible_text.h"
 
@@ -16,12 +16,10 @@ using kvjxml::finding_kind;
 using kvjxml::severity;
 
 struct Options {
-    std::vector<std::string> files;
-    std::uint64_t maxSize = Source{}.maxSize;
+    Captures captures;
     std::string format = "text";
     std::string failOn = "warning";
-    std::optional<bool> redacts;
-    CheckOptions check;
+    CheckOptions check{.hidesSecrets = writesToTerminal()};
 };
 
 std::map<std::string, finding_kind> kinds() {
@@ -32,6 +30,10 @@ std::map<std::string, finding_kind> kinds() {
     return all;
 }
 
+std::string unknownKind(const std::string& name) {
+    return unknown("kind of finding", name, kinds(), [](const auto& known) { return std::string_view(known.first); });
+}
+
 void addIgnore(CLI::App& verb, std::vector<Ignored>& ignored) {
     std::string names;
     for (const auto& [name, kind] : kinds()) names += (names.empty() ? "" : ", ") + name;
@@ -40,7 +42,7 @@ void addIgnore(CLI::App& verb, std::vector<Ignored>& ignored) {
             const std::size_t colon = text.find(':');
             const auto known = kinds();
             const auto kind = known.find(text.substr(0, colon));
-            if (kind == known.end()) throw CLI::ValidationError("--ignore", "\"" + text + "\" begins with no kind");
+            if (kind == known.end()) throw CLI::ValidationError("--ignore", unknownKind(text.substr(0, colon)));
             ignored.push_back({kind->second, colon == std::string::npos ? std::string() : text.substr(colon + 1)});
         }
     };
@@ -56,20 +58,16 @@ const std::map<std::string, severity> severities{
 const std::map<std::string, MakeWriter> formats{{"text", textWriter}, {"json", jsonWriter}, {"sarif", sarifWriter}};
 
 ExitCode run(const Options& options) {
-    std::vector<Source> sources;
-    for (const std::string& file : options.files) sources.push_back({file, options.maxSize});
-    if (sources.empty()) sources.push_back({.maxSize = options.maxSize});
     CheckOptions how = options.check;
     how.failOn = severities.at(options.failOn);
-    how.hidesSecrets = options.redacts.value_or(writesToTerminal());
-    return check(sources, how, formats.at(options.format));
+    return check(options.captures, how, formats.at(options.format));
 }
 
 }  // namespace
 
 Run addCheck(CLI::App& verb) {
     const auto options = std::make_shared<Options>();
-    verb.add_option("FILE", options->files, "Documents, in UTF-8; - for standard input, as without any");
+    addCaptures(verb, "The documents", options->captures);
     verb.add_option("--format", options->format,
                     "text, json (an object for each document, on one line) or sarif (SARIF 2.1.0); text unless told")
         ->option_text("FORMAT")
@@ -79,9 +77,8 @@ Run addCheck(CLI::App& verb) {
         ->option_text("SEVERITY")
         ->check(CLI::IsMember(&severities));
     addIgnore(verb, options->check.ignored);
-    verb.add_flag("--redact,!--no-redact", options->redacts,
+    verb.add_flag("--redact,!--no-redact", options->check.hidesSecrets,
                   "Mask keys and other secrets, or do not; unless told, they are masked on a terminal");
-    addMaxSize(verb, options->maxSize);
     return [options] { return run(*options); };
 }
 

@@ -7,8 +7,10 @@
 #include <utility>
 
 #include "face/nearest.h"
-#include "foundation/document.h"
+#include "face/utf8_reply.h"
+#include "failure.h"
 #include "foundation/element.h"
+#include "merged_rows.h"
 #include "reading.h"
 
 namespace kvj::tool {
@@ -19,24 +21,11 @@ using kvjxml::finding;
 using kvjxml::finding_kind;
 
 std::vector<std::string> rootsIn(std::string_view bytes) {
-    const std::string_view content = bytes.substr(0, bytes.find('\0'));
-    Text text(content.size());
-    std::ranges::copy(content, text.bytes());
-    const Document document(std::move(text), Manner::ofUtf8);
+    const Utf8Reply document(bytes);
+    if (!document.top() && !bytes.empty()) throw Failure(ExitCode::inputOutput, "is too large to be read");
     std::vector<std::string> roots;
-    if (!document.top()) return roots;
     for (const Element root : document.top().children()) roots.emplace_back(root.name());
     return roots;
-}
-
-std::vector<const Message*> readersOf(std::string_view root) {
-    std::vector<const Message*> readers;
-    for (const Message& message : messages()) {
-        if (message.root == root || (!message.otherRoot.empty() && message.otherRoot == root)) {
-            readers.push_back(&message);
-        }
-    }
-    return readers;
 }
 
 /// Adds what one reader found. Several readers may read the same element, each into a field of its own: a fault in it
@@ -67,7 +56,7 @@ CheckedDocument unknownDocument(std::string_view bytes, const std::vector<std::s
     const std::string first = roots.empty() ? std::string() : roots.front();
     const auto nearestRoot = nearest(first, messages(), [](const Message& message) { return message.root; });
     const bool isNear = !nearestRoot.empty();
-    const Message& meant = isNear ? *readersOf(nearestRoot).front() : messages().front();
+    const Message& meant = isNear ? *messagesWithRoot(nearestRoot).front() : messages().front();
     Reading reading = readMessage(meant, bytes, Diagnosing::yes);
     if (!isNear) {
         for (finding& one : reading.findings) {
@@ -83,9 +72,10 @@ CheckedDocument unknownDocument(std::string_view bytes, const std::vector<std::s
 
 CheckedDocument checkDocument(std::string_view bytes) {
     const auto roots = rootsIn(bytes);
-    const auto root = std::ranges::find_if(roots, [](const std::string& name) { return !readersOf(name).empty(); });
+    const auto root =
+        std::ranges::find_if(roots, [](const std::string& name) { return !messagesWithRoot(name).empty(); });
     if (root == roots.end()) return unknownDocument(bytes, roots);
-    CheckedDocument checked{.root = *root, .readers = readersOf(*root)};
+    CheckedDocument checked{.root = *root, .readers = messagesWithRoot(*root)};
     for (const Message* const reader : checked.readers) {
         Reading reading = readMessage(*reader, bytes, Diagnosing::yes);
         checked.isWhole = reading.isWhole;

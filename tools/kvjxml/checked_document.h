@@ -22,6 +22,7 @@ struct CheckedDocument {
 };
 
 /// Reads a document with all readers of the first element at its top level that is a known message's.
+/// @throws Failure when it is too large.
 CheckedDocument checkDocument(std::string_view bytes);
 
 }  // namespace kvj::tool

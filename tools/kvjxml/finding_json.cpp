@@ -33,25 +33,27 @@ public:
     explicit JsonWriter(std::ostream& out) : out_(&out) {}
 
     void document(const ToldDocument& document) override {
-        Json object = begun(document.file);
-        if (document.number != 0) object["number"] = document.number;
-        object["message"] = textOf(document.checked.root);
-        object["damaged"] = !document.checked.isWhole;
+        Json object = begun(document.capture.origin);
+        object["message"] = textOf(document.message);
+        object["damaged"] = document.isDamaged;
         Json& findings = object["findings"] = Json::array();
-        for (const finding& one : document.checked.findings) findings.push_back(objectOf(document.hidden.shown(one)));
-        if (document.checked.omitted != 0) object["omitted"] = document.checked.omitted;
+        for (const ToldFinding& one : document.findings) findings.push_back(objectOf(one.finding));
+        if (document.omitted != 0) object["omitted"] = document.omitted;
+        if (!document.capture.notes.empty()) object["notes"] = document.capture.notes;
         print(object);
     }
-    void failed(std::string_view file, std::string_view reason) override {
-        Json object = begun(file);
-        object["error"] = reason;
+    void failed(const Origin& origin, const Failure& failure) override {
+        Json object = begun(origin);
+        object["error"] = {{"code", static_cast<int>(failure.code())}, {"text", failure.what()}};
         print(object);
     }
     void end() override {}
 
 private:
-    static Json begun(std::string_view file) {
-        return {{"schema", 1}, {"tool", "kvjxml " KVJXML_VERSION}, {"file", file}};
+    static Json begun(const Origin& origin) {
+        Json object{{"schema", 1}, {"tool", "kvjxml " KVJXML_VERSION}, {"file", origin.file}};
+        if (!origin.isOnlyOne) object["number"] = origin.number;
+        return object;
     }
     void print(const Json& object) { *out_ << object.dump(-1, ' ', true, Json::error_handler_t::replace) << '\n'; }
 

@@ -68,7 +68,7 @@ std::string uriOf(std::string_view file) {
     return uri;
 }
 
-Json resultOf(const finding& one, const ToldDocument& document) {
+Json resultOf(const finding& one, const Origin& origin) {
     Json region{
         {"startLine", one.line}, {"startColumn", one.column}, {"byteOffset", one.offset}, {"byteLength", one.length}};
     Json result{{"ruleId", to_string(one.kind)},
@@ -76,13 +76,13 @@ Json resultOf(const finding& one, const ToldDocument& document) {
                 {"level", to_string(one.level)},
                 {"message", {{"text", told(one)}}}};
     Json location{
-        {"physicalLocation", {{"artifactLocation", {{"uri", uriOf(document.file)}}}, {"region", std::move(region)}}}};
+        {"physicalLocation", {{"artifactLocation", {{"uri", uriOf(origin.file)}}}, {"region", std::move(region)}}}};
     const bool isAttribute = one.path.find("/@") != std::string::npos;
     location["logicalLocations"] =
         Json::array({{{"fullyQualifiedName", one.path}, {"kind", isAttribute ? "attribute" : "element"}}});
     result["locations"] = Json::array({std::move(location)});
     // Places are those in the document: in a stream of several it is known by its number.
-    if (document.number != 0) result["properties"] = {{"document", document.number}};
+    if (!origin.isOnlyOne) result["properties"] = {{"document", origin.number}};
     return result;
 }
 
@@ -96,16 +96,18 @@ public:
     }
 
     void document(const ToldDocument& document) override {
-        for (const finding& one : document.checked.findings) {
-            *out_ << std::exchange(separator_, ",\n") << textOf(resultOf(document.hidden.shown(one), document));
+        const Origin& origin = document.capture.origin;
+        for (const ToldFinding& one : document.findings) {
+            *out_ << std::exchange(separator_, ",\n") << textOf(resultOf(one.finding, origin));
         }
-        if (document.checked.omitted != 0) {
-            notify("note", document.file, std::to_string(document.checked.omitted) + " findings more are not listed");
+        for (const std::string& note : document.capture.notes) notify("note", origin, note);
+        if (document.omitted != 0) {
+            notify("note", origin, std::to_string(document.omitted) + " findings more are not listed");
         }
     }
-    void failed(std::string_view file, std::string_view reason) override {
+    void failed(const Origin& origin, const Failure& failure) override {
         isComplete_ = false;
-        notify("error", file, reason);
+        notify("error", origin, failure.what());
     }
     void end() override {
         const Json invocation{{"executionSuccessful", isComplete_},
@@ -114,11 +116,12 @@ public:
     }
 
 private:
-    void notify(std::string_view level, std::string_view file, std::string_view text) {
+    void notify(std::string_view level, const Origin& origin, std::string_view text) {
         notifications_.push_back(
             {{"level", level},
              {"message", {{"text", text}}},
-             {"locations", Json::array({{{"physicalLocation", {{"artifactLocation", {{"uri", uriOf(file)}}}}}}})}});
+             {"locations",
+              Json::array({{{"physicalLocation", {{"artifactLocation", {{"uri", uriOf(origin.file)}}}}}}})}});
     }
 
     std::ostream* out_;

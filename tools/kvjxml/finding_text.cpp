@@ -30,19 +30,20 @@ public:
     explicit TextWriter(std::ostream& out) : out_(&out) {}
 
     void document(const ToldDocument& document) override {
-        std::string name = visible(document.file);
-        if (document.number != 0) name += "#" + std::to_string(document.number);
-        for (const finding& one : document.checked.findings) {
-            const SourceLine line = sourceLine(document.bytes, one.offset, document.hidden);
+        const Origin& origin = document.capture.origin;
+        const std::string name = origin.name();
+        for (const std::string& note : document.capture.notes) tell(origin, note);
+        for (const auto& [one, offset] : document.findings) {
+            const SourceLine line = sourceLine(document.capture.text, offset, document.hidden);
             *out_ << name << ':' << one.line << ':' << one.column << ": " << to_string(one.kind) << ": "
-                  << visible(told(document.hidden.shown(one))) << '\n';
+                  << visible(told(one)) << '\n';
             if (!line.text.empty()) *out_ << "    " << line.text << "\n    " << line.caret << '\n';
         }
-        if (document.checked.omitted != 0) {
-            *out_ << name << ": " << document.checked.omitted << " findings more are not listed\n";
+        if (document.omitted != 0) {
+            *out_ << name << ": " << document.omitted << " findings more are not listed\n";
         }
     }
-    void failed(std::string_view /*file*/, std::string_view /*reason*/) override {}
+    void failed(const Origin& /*origin*/, const Failure& /*failure*/) override {}
     void end() override {}
 
 private:

@@ -4,22 +4,31 @@
 #define KVJXML_TOOL_FINDING_WRITERS_H
 
 #include <cstddef>
+#include <kvjxml_read.hpp>
 #include <memory>
 #include <ostream>
-#include <string>
 #include <string_view>
+#include <vector>
 
-#include "checked_document.h"
+#include "captures.h"
+#include "failure.h"
 #include "hidden_text.h"
 
 namespace kvj::tool {
 
+/// A finding as it is told: its place is that in the capture, and what is hidden is masked.
+struct ToldFinding {
+    kvjxml::finding finding;
+    std::size_t offset;  ///< in the document's text, in bytes
+};
+
 /// A document whose findings are told.
 struct ToldDocument {
-    std::string_view file;  ///< where it came from
-    std::size_t number;     ///< from 1, in a stream of several; 0 for none
-    std::string_view bytes;
-    const CheckedDocument& checked;
+    const Capture& capture;
+    std::string_view message;  ///< the name of its root; empty when no message is known
+    bool isDamaged;
+    const std::vector<ToldFinding>& findings;
+    std::size_t omitted;  ///< how many more there were at least
     const HiddenText& hidden;
 };
 
@@ -32,7 +41,7 @@ public:
 
     virtual void document(const ToldDocument& document) = 0;
     /// A document that there is none of, and why.
-    virtual void failed(std::string_view file, std::string_view reason) = 0;
+    virtual void failed(const Origin& origin, const Failure& failure) = 0;
     virtual void end() = 0;
 };
 

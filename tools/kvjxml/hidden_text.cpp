@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "face/markup.h"
+#include "face/utf8_reply.h"
 #include "foundation/document.h"
 #include "foundation/element.h"
 #include "secrets.h"
@@ -44,6 +45,7 @@ public:
         : readers_(checked.readers),
           isSafe_(!checked.readers.empty() && std::ranges::none_of(checked.readers, hasSecretsOf)) {
         shown_.resize(document.size() + 1);
+        nameless_.resize(document.size() + 1);
         const Element root = checked.root.empty() ? Element() : document.root(checked.root.c_str());
         if (!root) return;
         if (isSafe_) {
@@ -55,10 +57,13 @@ public:
         for (const Message* const reader : readers_) tables.push_back(reader->table);
         const bool isText = std::ranges::all_of(tables, [](const auto& table) { return table.empty(); });
         shown_[root.number()] = isText && std::ranges::none_of(readers_, isSecretTextOf);
+        if (std::ranges::any_of(readers_, isSecretTextOf)) hideNamesIn(document, root.number());
         look(document, root.number(), tables);
     }
 
     [[nodiscard]] bool operator[](std::size_t node) const { return shown_[node]; }
+    /// Whether an element's own name may be shown: in the place of a value it is read as one.
+    [[nodiscard]] bool isNameShown(std::size_t node) const { return !nameless_[node]; }
     /// Whether the message is known to have no secrets.
     [[nodiscard]] bool isSafe() const { return isSafe_; }
 
@@ -74,6 +79,10 @@ private:
         Tables inside;
     };
 
+    void hideNamesIn(const Document& document, std::size_t node) {
+        for (std::size_t inside = node + 1; inside < document.endOf(node); ++inside) nameless_[inside] = true;
+    }
+
     void look(const Document& document, std::size_t root, const Tables& tables) {
         std::vector<Open> open{{document.endOf(root), tables}};
         for (std::size_t node = root + 1; node < document.endOf(root);) {
@@ -88,6 +97,7 @@ private:
             });
             Tables inside;
             for (const DescribedRow* const row : rows) {
+                if (isSecretRow(*row)) hideNamesIn(document, node);
                 if (!row->description.group.empty()) inside.push_back(row->description.group);
             }
             // What is in an element without rows stays hidden.
@@ -103,6 +113,7 @@ private:
     std::span<const Message* const> readers_;
     bool isSafe_;
     std::vector<bool> shown_;
+    std::vector<bool> nameless_;
 };
 
 /// How much of the place where a document breaks is shown: an end tag, and of a message without secrets what looks like
@@ -117,10 +128,7 @@ std::size_t shownOfRest(std::string_view rest, bool isSafe) {
 }  // namespace
 
 HiddenText::HiddenText(std::string_view bytes, const CheckedDocument& checked) {
-    const std::string_view content = bytes.substr(0, bytes.find('\0'));
-    Text text(content.size());
-    std::ranges::copy(content, text.bytes());
-    const Document document(std::move(text), Manner::ofUtf8);
+    const Utf8Reply document(bytes);
     if (!document.top()) return;
     const ShownElements isShown(document, checked);
     const auto parents = parentsIn(document);
@@ -131,10 +139,11 @@ HiddenText::HiddenText(std::string_view bytes, const CheckedDocument& checked) {
             case Piece::Kind::startTag:
                 if (isShown[piece.node]) continue;
                 elements_.push_back(piece.offset);
-                skipped = document[piece.node].name().size() + 1;
+                if (isShown.isNameShown(piece.node)) skipped = document[piece.node].name().size() + 1;
                 break;
             case Piece::Kind::endTag:
-                continue;
+                if (isShown.isNameShown(piece.node)) continue;
+                break;
             case Piece::Kind::instruction:
                 if (piece.node == 0 || isShown[piece.node]) continue;
                 break;
@@ -147,11 +156,17 @@ HiddenText::HiddenText(std::string_view bytes, const CheckedDocument& checked) {
                 break;
         }
         std::size_t last = piece.offset + piece.length;
-        if (piece.kind == Piece::Kind::startTag && bytes[last - 1] == '>') {
+        if (piece.kind == Piece::Kind::startTag && skipped != 0 && bytes[last - 1] == '>') {
             --last;
             if (bytes[last - 1] == '/') --last;
         }
-        if (piece.offset + skipped < last) ranges_.push_back({piece.offset + skipped, last});
+        const std::size_t first = piece.offset + skipped;
+        if (first >= last) continue;
+        if (!ranges_.empty() && ranges_.back().last == first) {
+            ranges_.back().last = last;
+        } else {
+            ranges_.push_back({first, last});
+        }
     }
 }
 
