@@ -1,11 +1,9 @@
 #include <algorithm>
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
 #include "decode.h"
-#include "messages/message.h"
 #include "verb.h"
 #include "visible_text.h"
 
@@ -34,15 +32,10 @@ Run addDecode(CLI::App& verb) {
         View view;
     };
     const auto options = std::make_shared<Options>();
-    std::set<std::string> roots;
-    for (const auto& known : messages()) {
-        roots.emplace(known.root);
-        if (!known.otherRoot.empty()) roots.emplace(known.otherRoot);
-    }
     addCaptures(verb, "The replies", options->captures);
     verb.add_option("--message", options->message, "Read it as this message, whatever its root element")
         ->option_text("NAME")
-        ->check(CLI::IsMember(roots));
+        ->check(knownRoot());
     std::vector<std::string> names;
     std::string help;
     for (const Format& format : formats()) {

@@ -73,7 +73,7 @@ void Sent::keep(const Read& read) {
     }
 
     if (setting != nullptr) return add(setting, "value", std::move(value));
-    if (row.kind == Kind::wordOrNext && read.again) return add(read.record, row.otherField.name, std::move(value));
+    if (read.toOther) return add(read.record, row.otherField.name, std::move(value));
     if (row.kind == Kind::textAndCode) {
         const bool isCut = value.isChanged && change->kind == finding_kind::text_cut;
         add(read.record, row.otherField.name, value);
