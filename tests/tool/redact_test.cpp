@@ -86,7 +86,7 @@ const std::string hostileReply = "<get_job_status><uuid>" + hostile + "</uuid></
 TEST(Controls, ReachNoTerminalAsTheyAre) {
     const TemporaryFolder folder;
     write(folder / "reply.xml", hostileReply);
-    for (const std::string options : {"", "--words ", "--format text "}) {
+    for (const std::string options : {"", "--words ", "--format text ", "--format jsonl "}) {
         const auto outcome = runOnTerminal("decode " + options + (folder / "reply.xml").string(), "NO_COLOR=1");
         EXPECT_EQ(outcome.code, 0) << options;
         EXPECT_THAT(outcome.out, HasSubstr("2Jb")) << options;
@@ -99,10 +99,14 @@ TEST(Controls, ReachNoTerminalAsTheyAre) {
 
 TEST(Controls, AreTheSameInJson) { EXPECT_EQ(json::parse(runTool("decode", hostileReply).out).at("uuid"), hostile); }
 
+TEST(Controls, InAFilesNameReachNoTerminalAsTheyAre) {
+    EXPECT_THAT(runOnTerminal("decode \"$(printf '/nowhere/\\033[2J')\"").out, Not(HasSubstr("\x1B")));
+}
+
 // ---- Where output goes ----
 
 TEST(FullDisk, IsCode1AndSaysSo) {
-    for (const std::string options : {"", "--words ", "--format text "}) {
+    for (const std::string options : {"", "--words ", "--format text ", "--format jsonl "}) {
         const auto outcome = runTool("decode " + options + sample("configuration") + " >/dev/full");
         EXPECT_EQ(outcome.code, 1) << options;
         EXPECT_THAT(outcome.error, HasSubstr("standard output: cannot be written")) << options;

@@ -138,6 +138,17 @@ TEST(Text, EveryReaderOfAReplyHasItsBlock) {
               "    value  456\n");
 }
 
+TEST(Text, SaysWhereEachOfSeveralDocumentsIsFrom) {
+    const TemporaryFolder folder;
+    const std::string reply = "<get_free_ram><bytes_free>7</bytes_free></get_free_ram>";
+    const std::string one = (folder / "one.xml").string();
+    const std::string two = (folder / "two.xml").string();
+    write(one, reply);
+    write(two, reply);
+    EXPECT_EQ(runTool("decode --format text " + one + " " + two).out,
+              one + ": free_ram\n    bytesFree  7 bytes\n" + two + ": free_ram\n    bytesFree  7 bytes\n");
+}
+
 // ---- The samples ----
 
 /// Whether a text has a line of a field's name and its value.

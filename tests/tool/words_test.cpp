@@ -200,6 +200,22 @@ TEST(Words, ASettingBeyondItsRangeIsBesideWhatWasSent) {
               (json{{"min", 1}, {"max", {{"value", 9}, {"sent", "9x"}}}, {"value", {{"value", 9}, {"sent", "25"}}}}));
 }
 
+TEST(Words, ARecordThatIsCopiedKeepsThem) {
+    const json shown = decoded(
+        "<diffie_hellman><modulus>0x1fz</modulus><base>5</base>"
+        "<printer_interim_key>8191 seconds</printer_interim_key></diffie_hellman>");
+    EXPECT_EQ(shown.at("ParseHostDHKeyValues"),
+              (json{{"modulus", {{"value", 31}, {"sent", "0x1fz"}}}, {"base", 5}, {"host_interim_key", 0}}));
+    EXPECT_EQ(shown.at("ParsePrinterDHKeyValues"), (json{{"value", 8191}, {"sent", "8191 seconds"}}));
+}
+
+TEST(Words, ALineForEachDocumentHasThemToo) {
+    const json line = json::parse(
+        runTool("decode --words --format jsonl", generalStatus("<printer_state>prinitng</printer_state>")).out);
+    EXPECT_EQ(line.at("record").at("printerState"), (json{{"code", 38}, {"sent", "prinitng"}}));
+    EXPECT_EQ(line.at("findings"), 1);
+}
+
 TEST(Words, TheLastOfTwoElementsCounts) {
     const std::string unknown = "<printer_state>prinitng</printer_state>";
     const std::string known = "<printer_state>printing</printer_state>";
@@ -231,6 +247,11 @@ TEST(Words, AListThatGrowsKeepsThem) {
     EXPECT_EQ(cards.at(0).at("coercivity"), (json{{"code", 1}, {"word", "low"}}));
     EXPECT_EQ(cards.at(3).at("coercivity"), (json{{"code", 0}, {"sent", "hihg"}}));
     EXPECT_EQ(cards.at(49).at("coercivity"), (json{{"code", 1}, {"word", "low"}}));
+}
+
+TEST(Words, TheCountOfAListIsTheSame) {
+    const std::string reply = "<AccessPoints><AccessPoint><SSID>a</SSID></AccessPoint><Note/></AccessPoints>";
+    EXPECT_EQ(decoded(reply).at("count"), json::parse(runTool("decode", reply).out).at("count"));
 }
 
 TEST(Words, OfAListThatStandsTwiceTheLast) {

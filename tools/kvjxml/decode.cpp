@@ -32,7 +32,7 @@ void printJson(const Capture& capture, const DecodedDocument& document, const Vi
 
 void printForEyes(const Capture& capture, const DecodedDocument& document, const View& view) {
     tellRemarks(capture, document);
-    printText(std::cout, document, view);
+    printText(std::cout, view.sources ? capture.origin.name() + ": " : std::string(), document, view);
 }
 
 /// A line about a document, of which `content` prints what is special.
@@ -101,12 +101,14 @@ void checkOutput() {
 std::span<const Format> formats() { return all; }
 
 ExitCode decode(const Captures& captures, const std::string& message, const Format& format, const View& view) {
+    View shown = view;
+    shown.sources = captures.paths.size() > 1 || captures.isRecursive || captures.separator != Separator::none;
     const Keeping keeping = view.words ? Keeping::yes : format.keeping;
     return forEachDocument(
         captures,
         [&](const Capture& capture) {
             const DecodedDocument document(capture.text, message, format.counting, keeping);
-            format.print(capture, document, view);
+            format.print(capture, document, shown);
             checkOutput();
             return document.isWhole() ? ExitCode::done : ExitCode::damaged;
         },

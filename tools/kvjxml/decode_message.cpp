@@ -188,14 +188,14 @@ void printDocument(JsonPrinter& json, const DecodedDocument& document, const Vie
     });
 }
 
-void printText(std::ostream& out, const DecodedDocument& document, const View& view) {
+void printText(std::ostream& out, const std::string& source, const DecodedDocument& document, const View& view) {
     for (const DecodedMessage& reader : document.readers()) {
         TextPrinter text(out, {view.redacts, reader.sent.get()}, view.colours);
         const auto viewOfList = [](const GrownList& list) {
             return ListView{list.field().entries->entry, list.count(),
                             [&list](std::size_t index) { return list.at(index); }};
         };
-        text.begin(reader.message->name);
+        text.begin(source + std::string(reader.message->name));
         if (!document.isWhole()) text.warn("damaged: read as far as it goes");
         const Field& field = reader.message->record;
         if (field.type == FieldType::list) {

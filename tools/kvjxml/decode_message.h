@@ -4,6 +4,7 @@
 #define KVJXML_TOOL_DECODE_MESSAGE_H
 
 #include <ostream>
+#include <string>
 
 #include "decoded_document.h"
 #include "json_printer.h"
@@ -16,7 +17,8 @@ namespace kvj::tool {
 void printDocument(JsonPrinter& json, const DecodedDocument& document, const View& view);
 
 /// Prints the same for eyes, a block for each reader. What was sent has to be kept.
-void printText(std::ostream& out, const DecodedDocument& document, const View& view);
+/// @param source  stands in front of each heading.
+void printText(std::ostream& out, const std::string& source, const DecodedDocument& document, const View& view);
 
 }  // namespace kvj::tool
 

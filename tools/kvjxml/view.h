@@ -9,6 +9,7 @@ struct View {
     bool words = false;    ///< codes have their words beside them, and changed values what was sent
     bool redacts = false;  ///< secrets are masked
     bool colours = false;  ///< of a text
+    bool sources = false;  ///< a text says where each document is from: there can be several
 };
 
 }  // namespace kvj::tool
