@@ -36,6 +36,7 @@ constexpr Verb all[] = {
     {"explain", "Say what a message, field, element, code or word is", addExplain},
     {"messages", "Print every known message element by element, as Markdown", addMessages},
     {"sample", "Print a document of a message in which every element has a value", addSample},
+    {"schema", "Print the JSON Schema of what decode prints, or the vocabulary of the replies", addSchema},
 };
 
 }  // namespace
