@@ -5,15 +5,20 @@
 #include <memory>
 #include <vector>
 
-#include "foundation/reply.h"
 #include "json_record.h"
-#include "messages/zeroed_record.h"
 
 namespace kvj::tool {
 
 namespace {
 
-// ---- Lists: an entry can take 4 KiB, so one is read, printed and forgotten before the next ----
+void printEntries(JsonPrinter& json, const GrownList& list) {
+    for (std::size_t i = 0; i < list.count(); ++i) {
+        json.entry();
+        print(json, *list.field().entries->entry, list.at(i));
+    }
+}
+
+// ---- Lists of the root: an entry can take 4 KiB, so one is read, printed and forgotten before the next ----
 
 /// One element with entries of a list, and how far these have been read.
 class Section {
@@ -62,19 +67,17 @@ public:
         : list_(&list), sections_(sectionsOf(root, list)), entry_(std::make_unique<char[]>(field().size)) {}
 
     void print(JsonPrinter& json) {
-        json.list([&] {
-            std::size_t unwritten = 0;
-            for (; !sections_.empty(); goOn()) {
-                if (!isWritten()) {
-                    ++unwritten;
-                    continue;
-                }
-                fill(0);
-                for (; unwritten > 0; --unwritten) printEntry(json);
-                read();
-                printEntry(json);
+        std::size_t unwritten = 0;
+        for (; !sections_.empty(); goOn()) {
+            if (!isWritten()) {
+                ++unwritten;
+                continue;
             }
-        });
+            fill(0);
+            for (; unwritten > 0; --unwritten) printEntry(json);
+            read();
+            printEntry(json);
+        }
     }
 
 private:
@@ -112,29 +115,70 @@ private:
     std::unique_ptr<char[]> entry_;
 };
 
-void printValue(JsonPrinter& json, const Field& field, const void* value) {
-    if (field.name.empty()) return print(json, field, value);
-    json.object([&] {
-        json.field(field.name);
-        print(json, field, value);
-    });
+// ---- Records ----
+
+void printListOf(JsonPrinter& json, const DecodedMessage& decoded, const Field& field) {
+    const auto list = std::ranges::find(decoded.message->lists, &field, &HostList::field);
+    if (list != decoded.message->lists.end()) {
+        Entries entries(decoded.root, *list);
+        return printList(json, field, countChildren(decoded.root), [&] { entries.print(json); });
+    }
+    const auto grown =
+        std::ranges::find_if(decoded.lists, [&](const GrownList& each) { return &each.field() == &field; });
+    printList(json, field, grown->count(), [&] { printEntries(json, *grown); });
+}
+
+/// A value that has no name prints as it is, everything else as the fields of an object.
+bool hasName(const Field& field) { return field.type == FieldType::record || !field.name.empty(); }
+
+void printNamed(JsonPrinter& json, const DecodedMessage& decoded) {
+    const Field& field = decoded.message->record;
+    if (field.type == FieldType::record) {
+        return printFields(json, *field.record, decoded.record.data(),
+                           [&](const Field& list) { printListOf(json, decoded, list); });
+    }
+    json.field(field.name);
+    print(json, field, decoded.record.data());
+}
+
+void printNameless(JsonPrinter& json, const DecodedMessage& decoded) {
+    const Field& field = decoded.message->record;
+    if (field.type != FieldType::list) return print(json, field, decoded.record.data());
+    json.list([&] { printEntries(json, decoded.lists.front()); });
 }
 
 }  // namespace
 
-void decodeMessage(const Message& message, const Input& input, JsonPrinter& json) {
-    const ZeroedRecord record(message, message.record.size);
-    message.read({input.bytes.c_str(), input.text.c_str(), input.text.size()}, record.get());
-    const Reply reply(input.bytes.c_str());
-    const Element root = reply.root(message.root.data(), message.otherRoot.data());
-    if (message.lists.empty()) {
-        printValue(json, message.record, record.get());
-    } else {
-        printRecord(json, *message.record.record, record.get(), [&](const Field& list) {
-            Entries entries(root, *std::ranges::find(message.lists, &list, &HostList::field));
-            entries.print(json);
+void printDocument(JsonPrinter& json, const DecodedDocument& document) {
+    const auto& readers = document.readers();
+    const auto tellDamage = [&] {
+        if (document.isWhole()) return;
+        json.field("damaged");
+        json.value(true);
+    };
+    if (readers.size() > 1) {
+        return json.object([&] {
+            tellDamage();
+            for (const DecodedMessage& reader : readers) {
+                json.field(reader.message->operation);
+                hasName(reader.message->record) ? json.object([&] { printNamed(json, reader); })
+                                                : printNameless(json, reader);
+            }
         });
     }
+    const DecodedMessage& only = readers.front();
+    if (hasName(only.message->record)) {
+        return json.object([&] {
+            tellDamage();
+            printNamed(json, only);
+        });
+    }
+    if (document.isWhole()) return printNameless(json, only);
+    json.object([&] {
+        tellDamage();
+        json.field("value");
+        printNameless(json, only);
+    });
 }
 
 }  // namespace kvj::tool

@@ -10,8 +10,13 @@ void JsonPrinter::field(std::string_view name) {
 }
 
 void JsonPrinter::entry() {
-    if (!std::exchange(isEmpty_, false)) *out_ << ',';
-    beginLine();
+    const bool isFirst = std::exchange(isEmpty_, false);
+    if (!isFirst) *out_ << ',';
+    if (!isInLine_) {
+        beginLine();
+    } else if (!isFirst) {
+        *out_ << ' ';
+    }
 }
 
 void JsonPrinter::value(const nlohmann::json& value) {

@@ -28,6 +28,13 @@ public:
     void list(Content content) {
         enclose('[', ']', content);
     }
+    /// Prints what `content` prints in one line.
+    template <class Content>
+    void line(Content content) {
+        const bool before = std::exchange(isInLine_, true);
+        content();
+        isInLine_ = before;
+    }
     // NOLINTEND(misc-no-recursion)
 
     /// Begins the next field of an object, whose name is that of a member; its value is printed next.
@@ -56,13 +63,14 @@ private:
         ++depth_;
         content();
         --depth_;
-        if (!std::exchange(isEmpty_, false)) beginLine();
+        if (!std::exchange(isEmpty_, false) && !isInLine_) beginLine();
         *out_ << close;
     }
     void beginLine();
 
     std::ostream* out_;
     std::size_t depth_ = 0;
+    bool isInLine_ = false;
     bool isEmpty_ = true;  ///< whether what is being printed has nothing in it so far
 };
 

@@ -33,13 +33,11 @@ void printNumber(JsonPrinter& json, const Field& field, const void* record) {
 // NOLINTBEGIN(misc-no-recursion)
 
 void printEntries(JsonPrinter& json, const Entries& entries, const void* record) {
-    json.list([&] {
-        const std::size_t count = countOf(entries, record);
-        for (std::size_t i = 0; i < count; ++i) {
-            json.entry();
-            print(json, *entries.entry, entries.at(record, i));
-        }
-    });
+    const std::size_t count = countOf(entries, record);
+    for (std::size_t i = 0; i < count; ++i) {
+        json.entry();
+        print(json, *entries.entry, entries.at(record, i));
+    }
 }
 
 }  // namespace
@@ -64,11 +62,15 @@ void print(JsonPrinter& json, const Field& field, const void* record) {
             return json.value(valueOf<const char*>(field, record));
         case FieldType::record: {
             const void* const inner = field.at(record);
-            return printRecord(json, *field.record, inner,
-                               [&](const Field& list) { printEntries(json, *list.entries, inner); });
+            return json.object([&] {
+                printFields(json, *field.record, inner, [&](const Field& list) {
+                    printList(json, list, countOf(*list.entries, inner),
+                              [&] { printEntries(json, *list.entries, inner); });
+                });
+            });
         }
         case FieldType::list:
-            return printEntries(json, *field.entries, record);
+            return json.list([&] { printEntries(json, *field.entries, record); });
     }
 }
 

@@ -31,9 +31,11 @@ std::string asBytes(std::string& text) {
 
 constexpr Verb all[] = {
     {"decode", "Print the record that a captured reply fills, as JSON", addDecode},
+    {"check", "Say what would be ignored, changed or lost of documents", addCheck},
     {"diff", "Say what differs between two replies of one message", addDiff},
     {"encode", "Compose a request from JSON; keys are read from it, never from options", addEncode},
     {"explain", "Say what a message, field, element, code or word is", addExplain},
+    {"completion", "Print what a shell needs to complete the command line of kvjxml", addCompletion},
     {"messages", "Print every known message element by element, as Markdown", addMessages},
     {"sample", "Print a document of a message in which every element has a value", addSample},
     {"schema", "Print the JSON Schema of what decode prints, or the vocabulary of the replies", addSchema},
@@ -54,15 +56,18 @@ void addMaxSize(CLI::App& verb, std::uint64_t& maxSize) {
 }
 
 CLI::Validator knownRoot() {
-    return {[](const std::string& name) {
-                std::set<std::string_view> roots;
-                for (const Message& message : messages()) {
-                    roots.insert(message.root);
-                    if (!message.otherRoot.empty()) roots.insert(message.otherRoot);
-                }
+    std::set<std::string> roots;
+    for (const Message& message : messages()) {
+        roots.emplace(message.root);
+        if (!message.otherRoot.empty()) roots.emplace(message.otherRoot);
+    }
+    // In this form CLI11 and the completion know a choice.
+    std::string choice;
+    for (const std::string& root : roots) choice.append(choice.empty() ? "{" : ",").append(root);
+    return {[roots](const std::string& name) {
                 return roots.contains(name) ? std::string() : unknown("message", name, roots);
             },
-            ""};
+            choice + "}"};
 }
 
 void addSource(CLI::App& verb, const std::string& content, Source& source) {
