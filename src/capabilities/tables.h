@@ -81,7 +81,10 @@ inline constexpr WriteRule<_Capabilities> requestedPrintSystem{
 /// The word for the laminator. In the whole description the printer expects it in the elements of the magnetic encoder
 /// as well; it takes a head type only in a request of its own.
 inline constexpr WriteRule<_Capabilities> laminatorWord{
-    {.kind = Kind::laminatorWord, .words = named<laminatorTypesWritten>, .otherWord = "notpresent"},
+    {.kind = Kind::laminatorWord,
+     .words = named<laminatorTypesWritten>,
+     .otherWord = "notpresent",
+     .otherField = fieldOf<&_Capabilities::laminatorType>},
     [](Parent parent, const char* name, const _Capabilities& caps, const Selection&) {
         return caps.laminator ? addWord(parent, name, laminatorTypesWritten, caps.laminatorType, "", "/laminatorType")
                               : addTag(parent, name, "notpresent");

@@ -83,7 +83,7 @@ bool writePrinterId(Parent root, const Kavrin::KVPrinterInfo& info, const Choice
 WrittenFields capabilitiesWritten(const Choices& choices) {
     switch (choices.mode) {
         case magEncoderAlone:
-            return {.alone = "magHeadType"};
+            return {.rows = described<capabilities::magEncoderAlone>};
         case encoderAlone:
             return {.alone = "internalEncoder"};
         default:
@@ -91,14 +91,31 @@ WrittenFields capabilitiesWritten(const Choices& choices) {
     }
 }
 
+/// The sections of the configuration that are written for one card alone: they stand together.
+constexpr std::span<const DescribedRow> cardSections = [] {
+    const auto& all = configuration::documentSections;
+    const auto isOfCards = [](const auto& section) { return section.ofCards; };
+    const auto first = std::ranges::find_if(all, isOfCards);
+    const auto last = std::ranges::find_if_not(first, all.end(), isOfCards);
+    return std::span(described<configuration::documentSections>)
+        .subspan(static_cast<std::size_t>(first - all.begin()), static_cast<std::size_t>(last - first));
+}();
+
 WrittenFields configurationWritten(const Choices& choices) {
     WrittenFields fields{.rows = described<configuration::documentSections>};
+    if (choices.card != 0) fields.rows = cardSections;
     if (choices.card == 1) fields.without = "customCard2";
     if (choices.card == 2) fields.without = "customCard1";
     return fields;
 }
 
-WrittenFields mediaWritten(const Choices& /*choices*/) { return {.alone = "cards"}; }
+constexpr DescribedRow cardList[] = {{"cards",
+                                      {.field = fieldOf<&Kavrin::_KVMediaInfo::cards>,
+                                       .kind = Kind::list,
+                                       .word = "card",
+                                       .group = described<media::cardTags>}}};
+
+WrittenFields mediaWritten(const Choices& /*choices*/) { return {.rows = cardList}; }
 
 WrittenFields printerIdWritten(const Choices& choices) {
     if (choices.full) return {.rows = described<identity::printerTags>};

@@ -52,7 +52,7 @@ TEST(Decode, WrongUseIsCode2) {
 TEST(Decode, AnUnknownMessageNameIsCode2AndNamesTheKnownOnes) {
     const Outcome outcome = runTool("decode --message get_weather", "<get_weather/>");
     EXPECT_EQ(outcome.code, 2);
-    EXPECT_THAT(outcome.error, HasSubstr("get_weather not in"));
+    EXPECT_THAT(outcome.error, HasSubstr("there is no message \"get_weather\"; there are "));
     EXPECT_THAT(outcome.error, HasSubstr("get_general_status"));
 }
 

@@ -53,8 +53,8 @@ TEST(Encode, AMissingFieldIsRefused) {
 
 TEST(Encode, AFieldOfTheWrongTypeIsRefused) {
     expectRefused("nonce", "{\"nonce\": 5}", "\"/nonce\" has to be a text");
-    expectRefused("motor", R"({"state":"on","direction":0,"speed":4,"motor":1})",
-                  "\"/state\" has to be a whole number");
+    expectRefused("motor", R"({"state":1,"direction":0,"speed":"slow","motor":1})",
+                  "\"/speed\" has to be a whole number");
     expectRefused("motor", R"({"state":1.5,"direction":0,"speed":4,"motor":1})", "\"/state\" has to be a whole number");
     expectRefused("calibrate", R"({"calibration":1,"torque":"1","rpm":2})", "\"/torque\" has to be a number");
     expectRefused("other", R"({"device":"fan","on":"yes"})", "\"/on\" has to be true or false");
@@ -69,7 +69,8 @@ TEST(Encode, ANumberThatDoesNotFitIsRefused) {
 }
 
 TEST(Encode, AnUnknownFieldIsRefused) {
-    expectRefused("nonce", R"({"nonce":"5F","nounce":"5F"})", "\"/nounce\" is not a field of this request");
+    expectRefused("nonce", R"({"nonce":"5F","nounce":"5F"})",
+                  "\"/nounce\" is not a field of this request; did you mean \"nonce\"?");
     expectRefused("nonce", R"({"nonce":"5F","a/b":1})", "\"/a~1b\" is not a field of this request");
 }
 
@@ -98,13 +99,23 @@ TEST(Encode, HalfOfASurrogatePairIsRefused) {
 }
 
 TEST(Encode, EveryOtherCharacterIsWritten) {
-    const std::string edges = "\x7F\xC2\x80\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBD\xF0\x90\x80\x80\xF4\x8F\xBF\xBF";
+    const std::string edges = "~\xC2\xA0\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBD\xF0\x90\x80\x80\xF4\x8F\xBF\xBF";
     EXPECT_EQ(runTool("encode nonce", "{\"nonce\":\"" + edges + "\"}").out,
               declaration + "<nonce>" + edges + "</nonce>\n");
+}
+
+TEST(Encode, AControlCharacterIsWrittenIfThatIsAccepted) {
+    for (const char* character : {"\\t", "\\n", "\\r", "\x7F", "\xC2\x80"}) {
+        const std::string json = std::string("{\"nonce\":\"a") + character + "b\"}";
+        const Outcome outcome = runTool("encode nonce", json);
+        EXPECT_EQ(outcome.code, 8) << json;
+        EXPECT_EQ(outcome.out, "") << json;
+        EXPECT_THAT(outcome.error, HasSubstr("\"/nonce\": ")) << json;
+    }
     // As references, which a parser does not take for blanks to be left out.
-    EXPECT_EQ(runTool("encode nonce", R"({"nonce":"a\tb\nc\rd"})").out,
+    EXPECT_EQ(runTool("encode nonce --accept-changes", R"({"nonce":"a\tb\nc\rd"})").out,
               declaration + "<nonce>a&#x09;b&#x0A;c&#x0D;d</nonce>\n");
-    EXPECT_THAT(runTool("encode cam", R"({"cam":"x","state":"a\tb\nc\rd"})").out,
+    EXPECT_THAT(runTool("encode cam --accept-changes", R"({"cam":"x","state":"a\tb\nc\rd"})").out,
                 HasSubstr("state=\"a&#x09;b&#x0A;c&#x0D;d\""));
 }
 

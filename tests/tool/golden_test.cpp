@@ -1,6 +1,7 @@
 // Every sample reply has the record that it fills, examples/replies/X.xml and tests/golden/X.json, and every sample
-// request the document that it becomes, examples/requests/X.json and tests/golden/X.xml; the line in
-// tests/golden/X.options is what encoding is told besides.
+// request the document that it becomes, examples/requests/X.json and tests/golden/X.xml. Where there is more to it, the
+// line X.options is what encoding is told, and X.changes what it says of a request that the printer gets otherwise than
+// asked.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -45,10 +46,10 @@ class GoldenRequest : public testing::TestWithParam<std::string> {};
 
 TEST_P(GoldenRequest, EncodesToItsDocument) {
     const std::string options = contentIfAny(golden / (GetParam() + ".options"));
-    const auto outcome = runTool("encode " + GetParam() + " " + (requests / (GetParam() + ".json")).string() + " " +
-                                 options.substr(0, options.find('\n')));
+    const auto outcome = runTool("encode " + GetParam() + " " + options.substr(0, options.find('\n')),
+                                 contentOf(requests / (GetParam() + ".json")));
     EXPECT_EQ(outcome.code, 0);
-    EXPECT_EQ(outcome.error, "");
+    EXPECT_EQ(outcome.error, contentIfAny(golden / (GetParam() + ".changes")));
     EXPECT_EQ(outcome.out, contentOf(golden / (GetParam() + ".xml")));
 }
 

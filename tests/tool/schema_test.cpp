@@ -128,6 +128,11 @@ TEST(Schema, OfAFieldGoesByTheElementsThatAreReadThere) {
     EXPECT_FALSE(propertyOf("get_media_status", "/properties/topLaminate/properties/code").contains("oneOf"));
 }
 
+TEST(Schema, HasTheMarkOfADamagedReply) {
+    EXPECT_EQ(propertyOf("get_count", "/properties/damaged/const"), true);
+    EXPECT_EQ(propertyOf("get_log_cleaning_history", "/anyOf/1/properties/damaged/const"), true);
+}
+
 TEST(Schema, HasEachReaderOfADocumentThatSeveralRead) {
     EXPECT_EQ(schema("get_count")["required"], Json({"ParseCardCount", "ParseCleanLogCount"}));
 }

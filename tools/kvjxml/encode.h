@@ -4,6 +4,7 @@
 #define KVJXML_TOOL_ENCODE_H
 
 #include <string>
+#include <vector>
 
 #include "exit_code.h"
 #include "input.h"
@@ -11,14 +12,21 @@
 
 namespace kvj::tool {
 
-/// The request that the library composes from JSON, which came from `source`.
+/// What a user says besides the choices of a request.
+struct EncodeOptions {
+    std::vector<std::string> edits{};  ///< made in the JSON first, each as "/lcdContrast/value=15"
+    bool acceptsChanges = false;       ///< what the printer would get otherwise than the JSON asks is sent so
+};
+
+/// The request that the library composes from JSON, which came from `source`. What is accepted is said on standard
+/// error.
 /// @throws Failure
-std::string composed(const Request& request, const Choices& choices, const std::string& json,
-                     const std::string& source);
+std::string composed(const Request& request, const Choices& choices, const std::string& json, const std::string& source,
+                     const EncodeOptions& options = {});
 
 /// Prints the request that the library composes from JSON.
 /// @throws Failure
-ExitCode encode(const Request& request, const Choices& choices, const Source& source);
+ExitCode encode(const Request& request, const Choices& choices, const Source& source, const EncodeOptions& options);
 
 }  // namespace kvj::tool
 

@@ -18,6 +18,7 @@ namespace {
 struct Options {
     Source source;
     Choices choices;
+    EncodeOptions encode;
     std::vector<long> sections;  ///< their bits one by one
     bool listSections = false;   ///< instead of composing
 };
@@ -124,6 +125,11 @@ std::string contentOf(const Request& request) {
 
 void addOptions(CLI::App& verb, const Request& request, Options& options) {
     addSource(verb, "The JSON", options.source);
+    verb.add_option("--set", options.encode.edits, "Change a value of the JSON on the way, as /lcdContrast/value=15")
+        ->option_text("POINTER=VALUE")
+        ->allow_extra_args(false);
+    verb.add_flag("--accept-changes", options.encode.acceptsChanges,
+                  "Send what the printer gets otherwise than the JSON asks, instead of ending with 8");
     const auto* const own = std::ranges::find(ownOptions, request.name, &OwnOptions::request);
     if (own != std::end(ownOptions)) own->add(verb, options.choices);
     if (request.hasSections()) addSectionOptions(verb, request, options);
@@ -144,7 +150,7 @@ Run addEncode(CLI::App& verb) {
             *std::ranges::find(requests(), verb.get_subcommands().front()->get_name(), &Request::name);
         if (options->listSections) return listSections(request.table);
         for (const long bit : options->sections) options->choices.sections |= bit;
-        return encode(request, options->choices, options->source);
+        return encode(request, options->choices, options->source, options->encode);
     };
 }
 

@@ -1,17 +1,10 @@
 /// @file json_record.h
-/// Records as JSON, both ways, by the lists of their fields. The names in JSON are the members' own.
+/// Records as JSON, by the lists of their fields. The names in JSON are the members' own.
 #ifndef KVJXML_TOOL_JSON_RECORD_H
 #define KVJXML_TOOL_JSON_RECORD_H
 
-#include <cstddef>
-#include <deque>
-#include <memory>
-#include <set>
-#include <string_view>
-
 #include "fields/field.h"
 #include "json_printer.h"
-#include "place.h"
 
 namespace kvj::tool {
 
@@ -44,15 +37,6 @@ void printList(JsonPrinter& json, const Field& list, std::size_t count, PrintEnt
 }
 
 // NOLINTEND(misc-no-recursion)
-
-/// The names of fields.
-using Names = std::set<std::string_view>;
-
-/// Keeps the arrays that a record's lists point to.
-using Arrays = std::deque<std::shared_ptr<std::byte[]>>;
-
-/// Reads the fields of a record. One that is not there is refused when it is `needed`, else it stays as it was.
-void readRecord(const Place& place, const RecordType& type, void* record, const Names& needed, Arrays& arrays);
 
 }  // namespace kvj::tool
 

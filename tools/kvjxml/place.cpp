@@ -5,12 +5,13 @@
 #include <limits>
 
 #include "failure.h"
+#include "visible_text.h"
 #include "xml_text.h"
 
 namespace kvj::tool {
 
 void refuse(const std::string& source, const nlohmann::json::json_pointer& place, const std::string& reason) {
-    throw Failure(ExitCode::badJson, source + ": \"" + place.to_string() + "\" " + reason);
+    throw Failure(ExitCode::badJson, visible(source) + ": \"" + visible(place.to_string()) + "\" " + reason);
 }
 
 void Place::refuse(const std::string& reason) const { tool::refuse(*source_, pointer_, reason); }

@@ -28,6 +28,7 @@ public:
     [[noreturn]] void refuse(std::string_view field, const std::string& reason) const;
 
     [[nodiscard]] const nlohmann::json& value() const { return *value_; }
+    [[nodiscard]] std::string pointer() const { return pointer_.to_string(); }
     /// A field that has to be there.
     [[nodiscard]] Place at(std::string_view field) const;
     [[nodiscard]] Place at(std::size_t index) const;

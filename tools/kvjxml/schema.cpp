@@ -226,12 +226,26 @@ Json schemaOfRoot(std::string_view root) {
     return {{"type", "object"}, {"properties", properties}, {"required", required}, {"additionalProperties", false}};
 }
 
+/// What is printed of a damaged reply says so: in the object, or around what is none.
+Json orDamaged(Json schema) {
+    const Json damaged{{"description", "the reply is cut or broken, and this is what could be read"}, {"const", true}};
+    if (schema["type"] == "object") {
+        schema["properties"]["damaged"] = damaged;
+        return schema;
+    }
+    const Json around{{"type", "object"},
+                      {"properties", {{"damaged", damaged}, {"value", schema}}},
+                      {"required", {"damaged", "value"}},
+                      {"additionalProperties", false}};
+    return {{"anyOf", {std::move(schema), around}}};
+}
+
 }  // namespace
 
 Json schemaOf(std::string_view root) {
     Json schema{{"$schema", "https://json-schema.org/draft/2020-12/schema"}};
     if (!root.empty()) {
-        schema.update(schemaOfRoot(root));
+        schema.update(orDamaged(schemaOfRoot(root)));
         return schema;
     }
     Json any = Json::array();
@@ -239,7 +253,7 @@ Json schemaOf(std::string_view root) {
     for (const Message& message : messages()) {
         const std::string name(message.root);
         if (all.contains(name)) continue;
-        all[name] = schemaOfRoot(name);
+        all[name] = orDamaged(schemaOfRoot(name));
         any.push_back({{"$ref", "#/$defs/" + name}});
     }
     schema["anyOf"] = any;

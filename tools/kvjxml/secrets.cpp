@@ -17,6 +17,10 @@ constexpr Secret secrets[] = {
     {"_tagSecKeys"},
     {"_tagSecSetKeys"},
     {"__GETTRACK"},
+    // Those of requests.
+    {"Passkey"},
+    {"PasskeyChange"},
+    {"KeyChange"},
 };
 
 }  // namespace

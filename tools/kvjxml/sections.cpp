@@ -34,20 +34,6 @@ std::vector<NamedSection> sectionsOf(std::span<const DescribedRow> rows) {
     return sections;
 }
 
-// Groups nest as deep as the tables are written, so the recursion ends. NOLINTNEXTLINE(misc-no-recursion)
-Names fieldsWritten(std::span<const DescribedRow> rows, long mask) {
-    Names names;
-    for (const auto& row : rows) {
-        if (row.section != 0 && (row.section & mask) == 0) continue;
-        if (row.description.field.empty()) {
-            names.merge(fieldsWritten(row.description.group));
-        } else {
-            names.insert(row.description.field.name);
-        }
-    }
-    return names;
-}
-
 ExitCode listSections(std::span<const DescribedRow> rows) {
     for (const auto& section : sectionsOf(rows)) {
         std::cout << std::left << std::setw(24) << section.name << " 0x" << std::setw(7) << std::hex << section.bit

@@ -9,7 +9,6 @@
 
 #include "exit_code.h"
 #include "foundation/rows.h"
-#include "json_record.h"
 
 namespace kvj::tool {
 
@@ -21,9 +20,6 @@ struct NamedSection {
 
 /// In the order in which they are written.
 std::vector<NamedSection> sectionsOf(std::span<const DescribedRow> rows);
-
-/// The fields of the record that are written for the sections of a mask, and those of rows that are not sections.
-Names fieldsWritten(std::span<const DescribedRow> rows, long mask = 0);
 
 ExitCode listSections(std::span<const DescribedRow> rows);
 

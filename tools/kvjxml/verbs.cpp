@@ -35,10 +35,10 @@ constexpr Verb all[] = {
     {"diff", "Say what differs between two replies of one message", addDiff},
     {"encode", "Compose a request from JSON; keys are read from it, never from options", addEncode},
     {"explain", "Say what a message, field, element, code or word is", addExplain},
-    {"completion", "Print what a shell needs to complete the command line of kvjxml", addCompletion},
-    {"messages", "Print every known message element by element, as Markdown", addMessages},
     {"sample", "Print a document of a message in which every element has a value", addSample},
     {"schema", "Print the JSON Schema of what decode prints, or the vocabulary of the replies", addSchema},
+    {"messages", "Print every known message element by element, as Markdown", addMessages},
+    {"completion", "Print what a shell needs to complete the command line of kvjxml", addCompletion},
 };
 
 }  // namespace
@@ -61,13 +61,15 @@ CLI::Validator knownRoot() {
         roots.emplace(message.root);
         if (!message.otherRoot.empty()) roots.emplace(message.otherRoot);
     }
+    std::string all;
+    for (const std::string& root : roots) all.append(all.empty() ? "" : ",").append(root);
+    const auto check = [roots, all](const std::string& name) {
+        if (roots.contains(name)) return std::string();
+        const std::string wrong = unknown("message", name, roots);
+        return wrong.ends_with('?') ? wrong : wrong + "; there are " + all;
+    };
     // In this form CLI11 and the completion know a choice.
-    std::string choice;
-    for (const std::string& root : roots) choice.append(choice.empty() ? "{" : ",").append(root);
-    return {[roots](const std::string& name) {
-                return roots.contains(name) ? std::string() : unknown("message", name, roots);
-            },
-            choice + "}"};
+    return {check, "{" + all + "}"};
 }
 
 void addSource(CLI::App& verb, const std::string& content, Source& source) {

@@ -1,0 +1,71 @@
+#include "request_json.h"
+
+#include "checked_json.h"
+#include "failure.h"
+#include "field_at.h"
+#include "place.h"
+#include "visible_text.h"
+
+namespace kvj::tool {
+
+namespace {
+
+using nlohmann::json;
+
+/// A value that has come through the command line: JSON, or else the text as it stands.
+json valueOf(const std::string& text, const std::string& source) {
+    return checkedJson(json::accept(text) ? text : json(text).dump(-1, ' ', false, json::error_handler_t::strict),
+                       source);
+}
+
+/// Makes `/lcdContrast/value=15` true.
+void edit(json& fields, const std::string& change, const RecordType& record) {
+    const std::string option = "--set " + visible(change);
+    const auto refuse = [&](const std::string& reason) { throw Failure(ExitCode::usage, option + ": " + reason); };
+    const std::size_t equals = change.find('=');
+    const std::string pointer = change.substr(0, equals);
+    if (equals == std::string::npos || !pointer.starts_with('/')) refuse("is not like /lcdContrast/value=15");
+    try {
+        // Everybody can see the command lines of all processes.
+        if (isSecretAt(record, pointer)) {
+            throw Failure(ExitCode::usage, "--set " + visible(pointer) + ": a key is read from the JSON alone");
+        }
+        const json::json_pointer place(pointer);
+        json* owner = &fields;
+        for (const std::string& part : partsOf(place.parent_pointer().to_string())) {
+            const bool isNew = owner->is_object() && !owner->contains(part);
+            owner = isNew ? &((*owner)[part] = json::object()) : &owner->at(json::json_pointer() / part);
+        }
+        json& target = owner->is_array() ? owner->at(json::json_pointer() / place.back()) : (*owner)[place.back()];
+        target = valueOf(change.substr(equals + 1), option);
+    } catch (const json::exception&) {
+        refuse("there is no such place");
+    }
+}
+
+// What a host sends nests only so deep. NOLINTNEXTLINE(misc-no-recursion)
+void dropHelp(json& value) {
+    if (value.is_object()) value.erase(helpKey);
+    for (json& inner : value) {
+        if (inner.is_structured()) dropHelp(inner);
+    }
+}
+
+}  // namespace
+
+json requestJson(const std::string& text, const std::string& source, const std::vector<std::string>& edits,
+                 const RecordType& record) {
+    json fields = checkedJson(text, source);
+    if (fields.is_object() && fields.contains("damaged")) {
+        if (fields["damaged"] != false) {
+            refuse(source, json::json_pointer("/damaged"),
+                   "says that the reply was damaged: what it did not say would be sent as zeros");
+        }
+        fields.erase("damaged");
+    }
+    if (fields.is_structured()) dropHelp(fields);
+    for (const std::string& change : edits) edit(fields, change, record);
+    return fields;
+}
+
+}  // namespace kvj::tool
