@@ -44,8 +44,9 @@ private:
 
     // Groups nest as deep as the tables are written, so the recursion ends. NOLINTBEGIN(misc-no-recursion)
     void write(std::span<const DescribedRow> table) {
-        for (const auto& [name, row, condition, section] : table) {
-            Attributes attributes{{"name", std::string(name)}};
+        for (const DescribedRow& described : table) {
+            const Description& row = described.description;
+            Attributes attributes{{"name", std::string(described.name)}};
             if (!row.field.empty()) attributes.emplace_back("field", row.field.name);
             std::string read = inWords(row, Direction::read);
             std::ranges::replace(read, '`', '\'');
