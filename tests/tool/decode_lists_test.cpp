@@ -145,7 +145,7 @@ TEST(DecodeLists, WhatIsPrintedPieceByPieceIsLaidOutAsAWhole) {
     for (const char* reply :
          {"<capabilities/>", "<media><cards><card/><card/></cards><films/></media>", "<AccessPoints/>",
           "<get_count><total_cards_done>3</total_cards_done></get_count>", "<get_log_cleaning_history/>",
-          "<get_job_list><job><uuid>&quot;\\/&#9;\x7F</uuid></job></get_job_list>",
+          "<get_job_list><job><uuid>&quot;\\/&#9;</uuid></job></get_job_list>",
           "<get_free_ram><bytes_free>7</bytes_free></get_free_ram>"}) {
         const Outcome outcome = runTool("decode", reply);
         EXPECT_EQ(outcome.out, nlohmann::ordered_json::parse(outcome.out).dump(4) + "\n");

@@ -19,11 +19,20 @@ std::vector<std::string> remarksOn(const Capture& capture, const DecodedDocument
     return remarks;
 }
 
-void printJson(const Capture& capture, const DecodedDocument& document) {
+void tellRemarks(const Capture& capture, const DecodedDocument& document) {
     for (const std::string& remark : remarksOn(capture, document)) tell(capture.origin, remark);
+}
+
+void printJson(const Capture& capture, const DecodedDocument& document, const View& view) {
+    tellRemarks(capture, document);
     JsonPrinter json(std::cout);
-    printDocument(json, document);
+    printDocument(json, document, view);
     std::cout << '\n';
+}
+
+void printForEyes(const Capture& capture, const DecodedDocument& document, const View& view) {
+    tellRemarks(capture, document);
+    printText(std::cout, document, view);
 }
 
 /// A line about a document, of which `content` prints what is special.
@@ -47,7 +56,7 @@ void printLine(const Origin& origin, Content content) {
     std::cout << '\n';
 }
 
-void printDocumentLine(const Capture& capture, const DecodedDocument& document) {
+void printDocumentLine(const Capture& capture, const DecodedDocument& document, const View& view) {
     printLine(capture.origin, [&](JsonPrinter& json) {
         json.field("message");
         json.value(nlohmann::json(document.root()));
@@ -60,7 +69,7 @@ void printDocumentLine(const Capture& capture, const DecodedDocument& document) 
             json.value(nlohmann::json(remarks));
         }
         json.field("record");
-        printDocument(json, document);
+        printDocument(json, document, view);
     });
 }
 
@@ -77,9 +86,10 @@ void printFailureLine(const Origin& origin, const Failure& failure) {
 }
 
 const Format all[] = {
-    {"json", "one document of JSON behind the other", Counting::no, printJson, tellFailure},
+    {"json", "one document of JSON behind the other", Counting::no, Keeping::no, printJson, tellFailure},
     {"jsonl", "one line of JSON for each, with its source; what cannot be read is an error in its place", Counting::yes,
-     printDocumentLine, printFailureLine},
+     Keeping::no, printDocumentLine, printFailureLine},
+    {"text", "for eyes, with words, units and what was sent", Counting::no, Keeping::yes, printForEyes, tellFailure},
 };
 
 void checkOutput() {
@@ -90,12 +100,13 @@ void checkOutput() {
 
 std::span<const Format> formats() { return all; }
 
-ExitCode decode(const Captures& captures, const std::string& message, const Format& format) {
+ExitCode decode(const Captures& captures, const std::string& message, const Format& format, const View& view) {
+    const Keeping keeping = view.words ? Keeping::yes : format.keeping;
     return forEachDocument(
         captures,
         [&](const Capture& capture) {
-            const DecodedDocument document(capture.text, message, format.counting);
-            format.print(capture, document);
+            const DecodedDocument document(capture.text, message, format.counting, keeping);
+            format.print(capture, document, view);
             checkOutput();
             return document.isWhole() ? ExitCode::done : ExitCode::damaged;
         },

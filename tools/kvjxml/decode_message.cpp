@@ -6,16 +6,21 @@
 #include <vector>
 
 #include "json_record.h"
+#include "text_printer.h"
 
 namespace kvj::tool {
 
 namespace {
 
-void printEntries(JsonPrinter& json, const GrownList& list) {
+void printEntries(JsonPrinter& json, const GrownList& list, const Showing& showing) {
     for (std::size_t i = 0; i < list.count(); ++i) {
         json.entry();
-        print(json, *list.field().entries->entry, list.at(i));
+        print(json, nullptr, *list.field().entries->entry, list.at(i), showing);
     }
+}
+
+const GrownList& listIn(const DecodedMessage& decoded, const Field& field) {
+    return *std::ranges::find_if(decoded.lists, [&](const GrownList& each) { return &each.field() == &field; });
 }
 
 // ---- Lists of the root: an entry can take 4 KiB, so one is read, printed and forgotten before the next ----
@@ -66,7 +71,7 @@ public:
     Entries(Element root, const HostList& list)
         : list_(&list), sections_(sectionsOf(root, list)), entry_(std::make_unique<char[]>(field().size)) {}
 
-    void print(JsonPrinter& json) {
+    void print(JsonPrinter& json, const Showing& showing) {
         std::size_t unwritten = 0;
         for (; !sections_.empty(); goOn()) {
             if (!isWritten()) {
@@ -74,18 +79,18 @@ public:
                 continue;
             }
             fill(0);
-            for (; unwritten > 0; --unwritten) printEntry(json);
+            for (; unwritten > 0; --unwritten) printEntry(json, showing);
             read();
-            printEntry(json);
+            printEntry(json, showing);
         }
     }
 
 private:
     [[nodiscard]] const Field& field() const { return *list_->field->entries->entry; }
     void fill(char byte) { std::memset(entry_.get(), byte, field().size); }
-    void printEntry(JsonPrinter& json) {
+    void printEntry(JsonPrinter& json, const Showing& showing) {
         json.entry();
-        tool::print(json, field(), entry_.get());
+        tool::print(json, nullptr, field(), entry_.get(), showing);
     }
 
     void read() {
@@ -117,40 +122,42 @@ private:
 
 // ---- Records ----
 
-void printListOf(JsonPrinter& json, const DecodedMessage& decoded, const Field& field) {
+void printListOf(JsonPrinter& json, const DecodedMessage& decoded, const Field& field, const Showing& showing) {
     const auto list = std::ranges::find(decoded.message->lists, &field, &HostList::field);
-    if (list != decoded.message->lists.end()) {
+    const bool isOfHost = list != decoded.message->lists.end();
+    if (isOfHost && showing.sent == nullptr) {
         Entries entries(decoded.root, *list);
-        return printList(json, field, countChildren(decoded.root), [&] { entries.print(json); });
+        return printList(json, field, countChildren(decoded.root), [&] { entries.print(json, showing); });
     }
-    const auto grown =
-        std::ranges::find_if(decoded.lists, [&](const GrownList& each) { return &each.field() == &field; });
-    printList(json, field, grown->count(), [&] { printEntries(json, *grown); });
+    const GrownList& grown = listIn(decoded, field);
+    printList(json, field, isOfHost ? countChildren(decoded.root) : grown.count(),
+              [&] { printEntries(json, grown, showing); });
 }
 
 /// A value that has no name prints as it is, everything else as the fields of an object.
 bool hasName(const Field& field) { return field.type == FieldType::record || !field.name.empty(); }
 
-void printNamed(JsonPrinter& json, const DecodedMessage& decoded) {
+void printNamed(JsonPrinter& json, const DecodedMessage& decoded, const Showing& showing) {
     const Field& field = decoded.message->record;
     if (field.type == FieldType::record) {
-        return printFields(json, *field.record, decoded.record.data(),
-                           [&](const Field& list) { printListOf(json, decoded, list); });
+        return printFields(json, *field.record, decoded.record.data(), showing,
+                           [&](const Field& list) { printListOf(json, decoded, list, showing); });
     }
     json.field(field.name);
-    print(json, field, decoded.record.data());
+    print(json, nullptr, field, decoded.record.data(), showing);
 }
 
-void printNameless(JsonPrinter& json, const DecodedMessage& decoded) {
+void printNameless(JsonPrinter& json, const DecodedMessage& decoded, const Showing& showing) {
     const Field& field = decoded.message->record;
-    if (field.type != FieldType::list) return print(json, field, decoded.record.data());
-    json.list([&] { printEntries(json, decoded.lists.front()); });
+    if (field.type != FieldType::list) return print(json, nullptr, field, decoded.record.data(), showing);
+    json.list([&] { printEntries(json, decoded.lists.front(), showing); });
 }
 
 }  // namespace
 
-void printDocument(JsonPrinter& json, const DecodedDocument& document) {
+void printDocument(JsonPrinter& json, const DecodedDocument& document, const View& view) {
     const auto& readers = document.readers();
+    const auto showing = [&](const DecodedMessage& reader) { return Showing{view.redacts, reader.sent.get()}; };
     const auto tellDamage = [&] {
         if (document.isWhole()) return;
         json.field("damaged");
@@ -161,8 +168,8 @@ void printDocument(JsonPrinter& json, const DecodedDocument& document) {
             tellDamage();
             for (const DecodedMessage& reader : readers) {
                 json.field(reader.message->operation);
-                hasName(reader.message->record) ? json.object([&] { printNamed(json, reader); })
-                                                : printNameless(json, reader);
+                hasName(reader.message->record) ? json.object([&] { printNamed(json, reader, showing(reader)); })
+                                                : printNameless(json, reader, showing(reader));
             }
         });
     }
@@ -170,15 +177,37 @@ void printDocument(JsonPrinter& json, const DecodedDocument& document) {
     if (hasName(only.message->record)) {
         return json.object([&] {
             tellDamage();
-            printNamed(json, only);
+            printNamed(json, only, showing(only));
         });
     }
-    if (document.isWhole()) return printNameless(json, only);
+    if (document.isWhole()) return printNameless(json, only, showing(only));
     json.object([&] {
         tellDamage();
         json.field("value");
-        printNameless(json, only);
+        printNameless(json, only, showing(only));
     });
+}
+
+void printText(std::ostream& out, const DecodedDocument& document, const View& view) {
+    for (const DecodedMessage& reader : document.readers()) {
+        TextPrinter text(out, {view.redacts, reader.sent.get()}, view.colours);
+        const auto viewOfList = [](const GrownList& list) {
+            return ListView{list.field().entries->entry, list.count(),
+                            [&list](std::size_t index) { return list.at(index); }};
+        };
+        text.begin(reader.message->name);
+        if (!document.isWhole()) text.warn("damaged: read as far as it goes");
+        const Field& field = reader.message->record;
+        if (field.type == FieldType::list) {
+            text.list({}, viewOfList(reader.lists.front()));
+        } else if (field.type == FieldType::record) {
+            text.record(*field.record, reader.record.data(),
+                        [&](const Field& list) { return viewOfList(listIn(reader, list)); });
+        } else {
+            text.value(field.name.empty() ? "value" : field.name, field, reader.record.data());
+        }
+        text.end();
+    }
 }
 
 }  // namespace kvj::tool

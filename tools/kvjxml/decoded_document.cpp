@@ -1,6 +1,7 @@
 #include "decoded_document.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <optional>
 
@@ -18,16 +19,17 @@ bool hasRoot(const Message& message, std::string_view name) {
     return message.root == name || (!message.otherRoot.empty() && message.otherRoot == name);
 }
 
-/// The lists of the record, but for those that are read entry by entry; a record that is a list itself has that.
-std::vector<GrownList> listsOf(const Message& message, Counting counting) {
+/// The lists of the record, those that can be read entry by entry only where they are needed; a record that is a list
+/// itself has that.
+std::vector<GrownList> listsOf(const Message& message, bool areNeeded, Sent* sent) {
     std::vector<GrownList> lists;
     const Field& record = message.record;
-    if (record.type == FieldType::list) lists.emplace_back(record);
+    if (record.type == FieldType::list) lists.emplace_back(record, sent);
     if (record.record == nullptr) return lists;
     for (const Field& field : record.record->fields) {
         if (field.type != FieldType::list) continue;
         const bool isReadByEntry = std::ranges::find(message.lists, &field, &HostList::field) != message.lists.end();
-        if (counting == Counting::yes || !isReadByEntry) lists.emplace_back(field);
+        if (areNeeded || !isReadByEntry) lists.emplace_back(field, sent);
     }
     return lists;
 }
@@ -48,11 +50,16 @@ std::string reasonIn(const Document& document, std::string_view text) {
 void* GrownList::resize(std::size_t count) noexcept {
     if (count > capacity_) {
         const std::size_t capacity = std::max(count, capacity_ + capacity_ / 2);
+        const auto before = reinterpret_cast<std::uintptr_t>(bytes_.get());
         auto* const more = static_cast<std::byte*>(std::realloc(bytes_.get(), capacity * entrySize()));
         if (more == nullptr) return nullptr;
         static_cast<void>(bytes_.release());
         bytes_.reset(more);
         capacity_ = capacity;
+        if (sent_ != nullptr) sent_->move(before, count_ * entrySize(), more);
+    }
+    if (count < count_ && sent_ != nullptr) {
+        sent_->forget(bytes_.get() + count * entrySize(), (count_ - count) * entrySize());
     }
     if (count > count_) std::memset(bytes_.get() + count_ * entrySize(), 0, (count - count_) * entrySize());
     count_ = count;
@@ -67,10 +74,11 @@ kvjxml_v1_list GrownList::asTarget() {
 
 // ---- Documents ----
 
-DecodedDocument::DecodedDocument(std::string_view text, std::string_view root, Counting counting) : document_(text) {
+DecodedDocument::DecodedDocument(std::string_view text, std::string_view root, Counting counting, Keeping keeping)
+    : document_(text) {
     if (!document_.top() && !text.empty()) throw Failure(ExitCode::inputOutput, "is too large to be read");
     findReaders(text, root);
-    for (DecodedMessage& reader : readers_) read(reader, text, counting);
+    for (DecodedMessage& reader : readers_) read(reader, text, counting, keeping);
 }
 
 void DecodedDocument::findReaders(std::string_view text, std::string_view root) {
@@ -93,22 +101,29 @@ void DecodedDocument::findReaders(std::string_view text, std::string_view root) 
                   root.empty() ? reasonIn(document_, text) : "there is no \"" + std::string(root) + "\" in it");
 }
 
-void DecodedDocument::read(DecodedMessage& reader, std::string_view text, Counting counting) {
+void DecodedDocument::read(DecodedMessage& reader, std::string_view text, Counting counting, Keeping keeping) {
     const Message& message = *reader.message;
     reader.record.resize(message.record.size);
-    reader.lists = listsOf(message, counting);
+    if (keeping == Keeping::yes) reader.sent = std::make_unique<Sent>(message, reader.record.data());
+    reader.lists = listsOf(message, counting == Counting::yes || keeping == Keeping::yes, reader.sent.get());
     std::vector<kvjxml_v1_list> lists;
     for (GrownList& list : reader.lists) lists.push_back(list.asTarget());
     std::vector<Room> rooms(lists.begin(), lists.end());
     Findings findings;
     std::optional<Diagnosis> diagnosis;
     if (counting == Counting::yes) diagnosis.emplace(document_, text, isWhole(), reader.root, message, findings);
+    Watch::Diagnosis* told = diagnosis ? &*diagnosis : nullptr;
+    if (reader.sent != nullptr) {
+        reader.sent->passOnTo(told);
+        told = reader.sent.get();
+    }
     // Always watched: where nobody looks on, a configuration writes to the standard error stream.
     std::vector<unsigned char> carried((reader.record.size() + 7) / 8);
-    Watch watch(reader.record.data(), reader.record.size(), carried.data(), diagnosis ? &*diagnosis : nullptr);
+    Watch watch(reader.record.data(), reader.record.size(), carried.data(), told);
     document_.watchWith(&watch);
     message.readRoot(reader.root, reader.record.data(), rooms);
     document_.watchWith(nullptr);
+    if (reader.sent != nullptr) reader.sent->passOnTo(nullptr);
     if (!diagnosis) return;
     diagnosis->finish();
     for (const kvjxml::finding& each : findings.all) {

@@ -18,13 +18,15 @@
 
 #include "face/utf8_reply.h"
 #include "messages/message.h"
+#include "sent.h"
 
 namespace kvj::tool {
 
 /// The entries of a list, as many as the reply has.
 class GrownList {
 public:
-    explicit GrownList(const Field& field) : field_(&field), name_(field.name) {}
+    /// @param sent  is told where the entries are; null for nobody.
+    GrownList(const Field& field, Sent* sent) : field_(&field), name_(field.name), sent_(sent) {}
 
     /// The list of the record that they stand for.
     [[nodiscard]] const Field& field() const { return *field_; }
@@ -43,6 +45,7 @@ private:
     };
     const Field* field_;
     std::string name_;
+    Sent* sent_;
     std::unique_ptr<std::byte, Free> bytes_;
     std::size_t count_ = 0;
     std::size_t capacity_ = 0;
@@ -53,18 +56,23 @@ struct DecodedMessage {
     const Message* message;
     Element root{};
     std::vector<std::byte> record{};
-    /// The lists of the record; those of `Message::lists` only for counting, as they can be read entry by entry.
+    /// What was sent for its fields; null when that is not kept.
+    std::unique_ptr<Sent> sent{};
+    /// The lists of the record; those of `Message::lists`, which can be read entry by entry, only when they are needed
+    /// to count or to keep what was sent.
     std::vector<GrownList> lists{};
 };
 
 /// Whether it is counted what was ignored, changed or lost. Then all lists are in memory.
 enum class Counting : bool { no, yes };
+/// Whether it is kept what was sent for each field. Likewise.
+enum class Keeping : bool { no, yes };
 
 class DecodedDocument {
 public:
     /// @param root  the name of the message's element; empty for the first that is known.
     /// @throws Failure when there is no such message in it.
-    DecodedDocument(std::string_view text, std::string_view root, Counting counting);
+    DecodedDocument(std::string_view text, std::string_view root, Counting counting, Keeping keeping = Keeping::no);
 
     /// The name of the message's element.
     [[nodiscard]] std::string_view root() const { return readers_.front().root.name(); }
@@ -77,7 +85,7 @@ public:
 
 private:
     void findReaders(std::string_view text, std::string_view root);
-    void read(DecodedMessage& reader, std::string_view text, Counting counting);
+    void read(DecodedMessage& reader, std::string_view text, Counting counting, Keeping keeping);
 
     Utf8Reply document_;
     std::vector<DecodedMessage> readers_;

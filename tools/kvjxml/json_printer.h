@@ -41,7 +41,8 @@ public:
     void field(std::string_view name);
     /// Begins the next entry of a list; it is printed next.
     void entry();
-    /// A text, a number, true, false or null. Of a text, bytes that are not UTF-8 become U+FFFD.
+    /// A text, a number, true, false, null, or a list of them. Of a text, bytes that are not UTF-8 become U+FFFD, and
+    /// what a terminal would obey is escaped.
     void value(const nlohmann::json& value);
     /// The same, for a value that a catalogue can have a million of.
     template <std::integral Integer>

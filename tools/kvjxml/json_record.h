@@ -5,22 +5,24 @@
 
 #include "fields/field.h"
 #include "json_printer.h"
+#include "shown.h"
 
 namespace kvj::tool {
 
-/// Prints the value of a field.
-void print(JsonPrinter& json, const Field& field, const void* record);
+/// Prints the value of a field of a record; without a type the value stands for itself.
+void print(JsonPrinter& json, const RecordType* type, const Field& field, const void* record, const Showing& showing);
 
 // Records nest as deep as they are declared, so the recursion ends. NOLINTBEGIN(misc-no-recursion)
 /// Prints the fields of a record into an object, of which `printList(field)` prints the lists.
 template <class PrintList>
-void printFields(JsonPrinter& json, const RecordType& type, const void* record, PrintList printList) {
+void printFields(JsonPrinter& json, const RecordType& type, const void* record, const Showing& showing,
+                 PrintList printList) {
     for (const Field& field : type.fields) {
         if (field.type == FieldType::list) {
             printList(field);
         } else {
             json.field(field.name);
-            print(json, field, record);
+            print(json, &type, field, record, showing);
         }
     }
 }

@@ -1,10 +1,8 @@
 #include "shown_value.h"
 
-#include <sstream>
-
 #include "code_words.h"
-#include "json_record.h"
 #include "secrets.h"
+#include "shown.h"
 #include "visible_text.h"
 
 namespace kvj::tool {
@@ -12,13 +10,6 @@ namespace kvj::tool {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-Json simpleValue(const Field& field, const void* record) {
-    std::ostringstream text;
-    JsonPrinter printer(text);
-    print(printer, field, record);
-    return Json::parse(text.str());
-}
 
 // What records and JSON nest as deep as they are declared, so the recursion ends.
 // NOLINTBEGIN(misc-no-recursion)
@@ -43,15 +34,15 @@ Json shownValue(const ShownField& shown, const void* record, bool isMasked) {
         return object;
     }
     if (field.type == FieldType::list) return entries(*field.entries, record, isMasked);
-    if (shown.around == nullptr) return simpleValue(field, record);
+    if (shown.around == nullptr) return valueIn(field, record);
     // That there is no key is no secret.
     const bool isText = field.type == FieldType::text && !textOf(field, record).empty();
     if (isMasked && isText && isSecret(shown.around->name, field.name)) return masked;
     const auto table = field.type == FieldType::number ? codeTable(shown.around->name, field.name) : std::nullopt;
-    if (!table) return simpleValue(field, record);
+    if (!table) return valueIn(field, record);
     const std::string words = wordsOf(*table, wholeNumberOf(field, record));
-    if (words.empty()) return simpleValue(field, record);
-    return {{"code", simpleValue(field, record)}, {"word", words}};
+    if (words.empty()) return valueIn(field, record);
+    return {{"code", valueIn(field, record)}, {"word", words}};
 }
 
 std::string inText(const Json& value) {
