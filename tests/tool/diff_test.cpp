@@ -236,7 +236,13 @@ TEST_F(Diff, MasksSecretsOnATerminalAndWhenToldTo) {
         EXPECT_THAT(outcome.out, Not(HasSubstr("second")));
     }
     EXPECT_THAT(runOnTerminal(words("--no-redact")).out, HasSubstr("\"first\" -> \"second\""));
-    EXPECT_EQ(runTool(words("--redact --no-redact")).code, 2);
+}
+
+TEST_F(Diff, ShowsThatThereIsNoSecret) {
+    give(twoKeys[0], "<configuration><wireless><ssid>a</ssid></wireless></configuration>");
+    EXPECT_THAT(runTool(words("--redact")).out, HasSubstr("/wireless/key: ******** -> not in the reply\n"));
+    give(twoKeys[0], "<configuration><wireless><ssid>a</ssid><key/></wireless></configuration>");
+    EXPECT_THAT(runTool(words("--redact --format json")).out, Not(HasSubstr("first")));
 }
 
 TEST_F(Diff, GivesATerminalNothingThatItWouldObey) {

@@ -1,6 +1,5 @@
 #include <map>
 #include <memory>
-#include <optional>
 #include <string>
 
 #include "diff.h"
@@ -15,8 +14,7 @@ Run addDiff(CLI::App& verb) {
         Source before;
         Source after;
         DiffFormat format = DiffFormat::text;
-        bool redact = false;
-        bool noRedact = false;
+        bool redacts = false;
     };
     const auto options = std::make_shared<Options>();
     verb.add_option("BEFORE", options->before.path, "A reply, in UTF-8; - for standard input")->required();
@@ -25,17 +23,16 @@ Run addDiff(CLI::App& verb) {
         ->option_text("text|json")
         ->transform(CLI::CheckedTransformer(
             std::map<std::string, DiffFormat>{{"text", DiffFormat::text}, {"json", DiffFormat::json}}));
-    CLI::Option* const redact =
-        verb.add_flag("--redact", options->redact, "Mask keys and magnetic tracks, as on a terminal");
-    verb.add_flag("--no-redact", options->noRedact, "Mask nothing")->excludes(redact);
+    options->redacts = writesToTerminal();
+    verb.add_flag("--redact,!--no-redact", options->redacts,
+                  "Mask keys, passkeys and magnetic tracks; so it is on a terminal unless told otherwise");
     addMaxSize(verb, options->before.maxSize);
     return [options] {
         if (options->before.path == "-" && options->after.path == "-") {
             throw Failure(ExitCode::usage, "only one of the two can be standard input");
         }
         options->after.maxSize = options->before.maxSize;
-        const bool isMasked = options->redact || (writesToTerminal() && !options->noRedact);
-        return diff(options->before, options->after, {options->format, isMasked});
+        return diff(options->before, options->after, {options->format, options->redacts});
     };
 }
 

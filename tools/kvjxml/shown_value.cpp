@@ -35,7 +35,9 @@ Json shownValue(const ShownField& shown, const void* record, bool isMasked) {
     }
     if (field.type == FieldType::list) return entries(*field.entries, record, isMasked);
     if (shown.around == nullptr) return valueIn(field, record);
-    if (isMasked && isSecret(shown.around->name, field.name)) return masked;
+    // That there is no key is no secret.
+    const bool isText = field.type == FieldType::text && !textOf(field, record).empty();
+    if (isMasked && isText && isSecret(shown.around->name, field.name)) return masked;
     const auto table = field.type == FieldType::number ? codeTable(shown.around->name, field.name) : std::nullopt;
     if (!table) return valueIn(field, record);
     const std::string words = wordsOf(*table, wholeNumberOf(field, record));

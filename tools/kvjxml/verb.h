@@ -36,6 +36,7 @@ Run addCompletion(CLI::App& verb);
 Run addExplain(CLI::App& verb);
 Run addMessages(CLI::App& verb);
 Run addSample(CLI::App& verb);
+Run addSchema(CLI::App& verb);
 
 /// The option of every verb that limits its input.
 void addMaxSize(CLI::App& verb, std::uint64_t& maxSize);

@@ -36,6 +36,7 @@ constexpr Verb all[] = {
     {"encode", "Compose a request from JSON; keys are read from it, never from options", addEncode},
     {"explain", "Say what a message, field, element, code or word is", addExplain},
     {"sample", "Print a document of a message in which every element has a value", addSample},
+    {"schema", "Print the JSON Schema of what decode prints, or the vocabulary of the replies", addSchema},
     {"messages", "Print every known message element by element, as Markdown", addMessages},
     {"completion", "Print what a shell needs to complete the command line of kvjxml", addCompletion},
 };
