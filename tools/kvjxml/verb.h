@@ -30,6 +30,7 @@ std::span<const Verb> verbs();
 Run addDecode(CLI::App& verb);
 Run addEncode(CLI::App& verb);
 Run addMessages(CLI::App& verb);
+Run addTemplate(CLI::App& verb);
 
 /// The option of every verb that limits its input.
 void addMaxSize(CLI::App& verb, std::uint64_t& maxSize);

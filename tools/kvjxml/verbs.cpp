@@ -29,6 +29,7 @@ std::string asBytes(std::string& text) {
 constexpr Verb all[] = {
     {"decode", "Print the record that a captured reply fills, as JSON", addDecode},
     {"encode", "Compose a request from JSON; keys are read from it, never from options", addEncode},
+    {"template", "Print the JSON of a request to be filled in, with what each field takes", addTemplate},
     {"messages", "Print every known message element by element, as Markdown", addMessages},
 };
 
