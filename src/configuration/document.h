@@ -46,8 +46,10 @@ inline constexpr ReadRule<_InternalEncoderInfo> contactlessEncoder{
      .otherField = fieldOf<&_InternalEncoderInfo::contactlessEncoder2>},
     [](Element element, _InternalEncoderInfo& info) {
         using Info = _InternalEncoderInfo;
-        return info.contactlessEncoder == 0 ? word<&Info::contactlessEncoder, contactlessEncoders>.read(element, info)
-                                            : word<&Info::contactlessEncoder2, contactlessEncoders>.read(element, info);
+        if (info.contactlessEncoder == 0)
+            return word<&Info::contactlessEncoder, contactlessEncoders>.read(element, info);
+        if (Watch* const watch = element.watch()) watch->goToOther();
+        return word<&Info::contactlessEncoder2, contactlessEncoders>.read(element, info);
     }};
 
 inline constexpr Condition<_KVConfiguration> withLaminate{

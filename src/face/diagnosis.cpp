@@ -10,6 +10,7 @@
 #include "face/joined.h"
 #include "face/markup.h"
 #include "face/nearest.h"
+#include "face/severity.h"
 #include "face/value_check.h"
 #include "foundation/characters.h"
 #include "foundation/references.h"
@@ -21,22 +22,6 @@ namespace {
 
 using kvjxml::finding;
 using kvjxml::finding_kind;
-using kvjxml::severity;
-
-severity severityOf(finding_kind kind) {
-    switch (kind) {
-        case finding_kind::unknown_element:
-            return severity::note;
-        case finding_kind::no_text:
-        case finding_kind::attribute:
-        case finding_kind::repeated:
-        case finding_kind::beyond_capacity:
-        case finding_kind::ignored:
-            return severity::warning;
-        default:
-            return severity::error;
-    }
-}
 
 Role roleOf(const Description& row) {
     if (row.kind == Kind::attribute || row.kind == Kind::givenAttributes) return Role::bare;
@@ -76,18 +61,6 @@ constexpr struct {
 
 // ---- Where things are ----
 
-/// The element around each.
-std::vector<std::uint32_t> parentsIn(const Document& document) {
-    std::vector<std::uint32_t> parents(document.size() + 1);
-    std::vector<std::size_t> open{0};
-    for (std::size_t node = 1; node < document.size(); ++node) {
-        while (node >= document.endOf(open.back())) open.pop_back();
-        parents[node] = static_cast<std::uint32_t>(open.back());
-        open.push_back(node);
-    }
-    return parents;
-}
-
 /// Finds out where candidates are, in one pass from the first to the last.
 class Places {
 public:
@@ -108,7 +81,9 @@ public:
         move(found);
         found.path = pathOf(candidate.node);
         if (!candidate.name.empty()) found.path += "/@" + std::string(candidate.name);
-        if (candidate.row != nullptr) found.field = nameOf(candidate.row->field);
+        if (candidate.row != nullptr) {
+            found.field = nameOf(candidate.toOther ? candidate.row->otherField : candidate.row->field);
+        }
         found.text = std::move(candidate.text);
         found.became = std::move(candidate.became);
         found.detail = std::move(candidate.detail);
@@ -337,8 +312,9 @@ private:
         const std::string_view text = textOf(piece);
         const std::size_t blanks = blanksIn(text);
         if (blanks == text.size()) return;
-        if (piece.node != 0 && role != Role::around && role != Role::value) return;
-        add(finding_kind::ignored, piece.node, piece.offset + blanks, piece.length - blanks, "a text beside elements");
+        if (piece.node != 0 && role != Role::around && role != Role::value && role != Role::bare) return;
+        add(finding_kind::ignored, piece.node, piece.offset + blanks, piece.length - blanks,
+            role == Role::bare ? "a text where only attributes are read" : "a text beside elements");
     }
 
     void cdata(const Piece& piece) {

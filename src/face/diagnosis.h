@@ -25,6 +25,7 @@ struct Candidate {
     std::size_t node;                  ///< of the element, or of the innermost one that is open
     std::string_view name{};           ///< of the attribute that it is about
     const Description* row = nullptr;  ///< of the field that it is about; null for none
+    bool toOther = false;              ///< whether it is about the other field of the row
     std::string text{};
     std::string became{};
     std::string detail{};

@@ -57,6 +57,17 @@ std::size_t endOfDeclaration(std::string_view bytes, std::size_t from) {
 
 }  // namespace
 
+std::vector<std::uint32_t> parentsIn(const Document& document) {
+    std::vector<std::uint32_t> parents(document.size() + 1);
+    std::vector<std::size_t> open{0};
+    for (std::size_t node = 1; node < document.size(); ++node) {
+        while (node >= document.endOf(open.back())) open.pop_back();
+        parents[node] = static_cast<std::uint32_t>(open.back());
+        open.push_back(node);
+    }
+    return parents;
+}
+
 std::size_t blanksIn(std::string_view text) {
     std::size_t at = 0;
     while (at < text.size()) {

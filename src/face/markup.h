@@ -35,6 +35,9 @@ struct Piece {
     bool isCut = false;         ///< its end is not there
 };
 
+/// The number of the element around each of a document's.
+std::vector<std::uint32_t> parentsIn(const Document& document);
+
 /// Goes through a text.
 class Markup {
 public:

@@ -9,22 +9,16 @@
 
 #include "face/diagnosis.h"
 #include "face/findings.h"
+#include "face/utf8_reply.h"
 #include "foundation/document.h"
 #include "foundation/element.h"
 #include "foundation/rooms.h"
-#include "foundation/utf8.h"
 #include "foundation/watch.h"
 #include "messages/message.h"
 
 namespace kvj {
 
 namespace {
-
-Text copyOf(std::string_view bytes) {
-    Text copy(bytes.size());
-    std::ranges::copy(bytes, copy.bytes());
-    return copy;
-}
 
 void tellRoot(const Document& document, const kvjxml_v1_target& target) {
     std::string_view name;
@@ -36,10 +30,8 @@ void tellRoot(const Document& document, const kvjxml_v1_target& target) {
 }
 
 int read(const Message& message, std::string_view bytes, const kvjxml_v1_target& target, Findings* findings) {
-    const std::string_view text = bytes.substr(0, bytes.find('\0'));
-    Document document(copyOf(text), Manner::ofUtf8);
-    const bool isWhole = document.isWhole() && text.size() == bytes.size() &&
-                         (document.isAscii() || firstOutsideUtf8(bytes) == bytes.size());
+    Utf8Reply document(bytes);
+    const bool isWhole = document.isWholeReply();
     const Element root = document.root(message.root.data(), message.otherRoot.data());
     if (root) {
         std::optional<Diagnosis> diagnosis;

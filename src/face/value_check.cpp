@@ -209,7 +209,7 @@ public:
             case Kind::combinedCodes:
                 return withText([&] { word(row_.field); });
             case Kind::wordOrNext:
-                return withText([&] { word(read_.again ? row_.otherField : row_.field); });
+                return withText([&] { word(read_.toOther ? row_.otherField : row_.field); });
             case Kind::wordOfPanels:
                 return panels();
             case Kind::flag:
@@ -242,7 +242,6 @@ private:
     static bool lastCounts(Kind kind) {
         switch (kind) {
             case Kind::appendedText:
-            case Kind::wordOrNext:
             case Kind::bits:
             case Kind::combinedCodes:
             case Kind::entry:
@@ -258,6 +257,7 @@ private:
         return candidates_.add({.kind = kind,
                                 .node = read_.element.number(),
                                 .row = &row_,
+                                .toOther = read_.toOther,
                                 .text = std::string(text_.value_or("")),
                                 .became = std::move(became),
                                 .detail = std::move(detail)});

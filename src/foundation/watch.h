@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <utility>
 
 #include "foundation/element.h"
 #include "foundation/kinds.h"
@@ -17,6 +18,7 @@ struct Read {
     const Description& row;
     const void* record;  ///< whose fields the row names; null for none
     bool again;          ///< whether the row has read another child of the same parent before
+    bool toOther;        ///< whether the value went to the row's other field
 };
 
 /// Marks which fields of a record a reply carried, and tells a diagnosis the rest.
@@ -39,12 +41,14 @@ public:
     Watch(const void* record, std::size_t size, unsigned char* carried, Diagnosis* diagnosis) noexcept
         : record_(record), size_(size), carried_(carried), diagnosis_(diagnosis) {}
 
-    void read(const Read& read) {
-        const Kind kind = read.row.kind;
-        if (read.record != nullptr && hasOwnValue(kind)) {
+    void read(const Element& element, const Description& row, const void* record, bool again) {
+        Read read{element, row, record, again, std::exchange(toOther_, false)};
+        const Kind kind = row.kind;
+        if (kind == Kind::wordOrNext) read.again = read.toOther && isMarked(row.otherField.at(record));
+        if (record != nullptr && hasOwnValue(kind)) {
             if (kind == Kind::attribute) {
-                if (read.element.attribute(read.row.word.data()) != nullptr) mark(read.row.field, read.record);
-            } else if (kind != Kind::setting && kind != Kind::decimalSetting && read.element.text() != nullptr) {
+                if (element.attribute(row.word.data()) != nullptr) mark(row.field, record);
+            } else if (kind != Kind::setting && kind != Kind::decimalSetting && element.text() != nullptr) {
                 markText(read);
             }
         }
@@ -61,15 +65,22 @@ public:
         carried_[at / 8] = static_cast<unsigned char>(carried_[at / 8] | 1U << at % 8);
     }
 
+    /// Of two fields, the value that is being read goes to the other one.
+    void goToOther() noexcept { toOther_ = true; }
+
     /// From here on the fields of another record are marked, one that is copied to the first later.
     void follow(const void* record) noexcept { record_ = record; }
 
 private:
-    /// A text may be a code as well; the second of two words goes to the other field.
+    /// A text may be a code as well.
     void markText(const Read& read) noexcept {
-        const bool toOther = read.row.kind == Kind::wordOrNext && read.again;
-        if (!toOther) mark(read.row.field, read.record);
-        if (toOther || read.row.kind == Kind::textAndCode) mark(read.row.otherField, read.record);
+        if (!read.toOther) mark(read.row.field, read.record);
+        if (read.toOther || read.row.kind == Kind::textAndCode) mark(read.row.otherField, read.record);
+    }
+
+    [[nodiscard]] bool isMarked(const void* field) const noexcept {
+        const auto at = reinterpret_cast<std::uintptr_t>(field) - reinterpret_cast<std::uintptr_t>(record_);
+        return at < size_ && (carried_[at / 8] >> at % 8 & 1U) != 0;
     }
 
     /// A row without a field is for a record that is a single value.
@@ -84,6 +95,7 @@ private:
     std::size_t size_;
     unsigned char* carried_;
     Diagnosis* diagnosis_;
+    bool toOther_ = false;
 };
 
 /// While it lives nobody is told what is read from an element.

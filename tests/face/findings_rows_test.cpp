@@ -14,6 +14,7 @@
 #include <string_view>
 #include <vector>
 
+#include "face/findings_in.h"
 #include "fields/records.h"
 #include "messages/message.h"
 #include "support/readings.h"
@@ -57,6 +58,7 @@ void addRows(Place& place, std::span<const DescribedRow> rows, std::vector<Place
 std::vector<Place> allPlaces() {
     std::vector<Place> all;
     for (const Message& message : messages()) {
+        if (!tellsOfOneRecord(message)) continue;
         Place place{&message, {}};
         addRows(place, message.table, all);
     }
@@ -213,19 +215,19 @@ Expected inside(Found kind, const Place& place, std::size_t offset) {
 }
 
 void expectFindings(const Place& place, const std::string& text, const std::vector<Expected>& expected) {
-    const AnyReading reading = readAny(*place.message, text, kvjxml::diagnose);
+    const auto findings = findingsIn(*place.message, text);
     std::vector<Expected> found;
-    for (const auto& one : reading.findings) {
+    for (const auto& one : findings) {
         found.push_back({one.kind, one.line, one.column, one.path, one.field});
         EXPECT_EQ(one.level, severityOf(one.kind));
     }
-    EXPECT_THAT(found, ElementsAreArray(expected)) << text << testing::PrintToString(toldOf(reading.findings));
+    EXPECT_THAT(found, ElementsAreArray(expected)) << text << testing::PrintToString(toldOf(findings));
 }
 
 /// The only finding's detail.
 std::string detailOf(const Place& place, const std::string& text) {
-    const AnyReading reading = readAny(*place.message, text, kvjxml::diagnose);
-    return reading.findings.size() == 1 ? reading.findings.front().detail : "not one finding";
+    const auto findings = findingsIn(*place.message, text);
+    return findings.size() == 1 ? findings.front().detail : "not one finding";
 }
 
 // ---- What is right ----
@@ -569,11 +571,11 @@ TEST(EveryElement, ThatDoesNotEndIsFoundWhereTheReplyEnds) {
         SCOPED_TRACE(testing::PrintToString(place));
         const std::string right = rightElement(place);
         const std::string cut = before(place) + right.substr(0, right.rfind("</"));
-        const AnyReading reading = readAny(*place.message, cut, kvjxml::diagnose);
-        ASSERT_FALSE(reading.findings.empty());
-        EXPECT_EQ(reading.findings.back().kind, Found::malformed);
-        EXPECT_EQ(reading.findings.back().offset, cut.size());
-        EXPECT_EQ(std::ranges::count(reading.findings, Found::malformed, &kvjxml::finding::kind), 1);
+        const auto findings = findingsIn(*place.message, cut);
+        ASSERT_FALSE(findings.empty());
+        EXPECT_EQ(findings.back().kind, Found::malformed);
+        EXPECT_EQ(findings.back().offset, cut.size());
+        EXPECT_EQ(std::ranges::count(findings, Found::malformed, &kvjxml::finding::kind), 1);
     }
 }
 
@@ -583,9 +585,9 @@ TEST(EveryElement, WithAnotherEndTagIsFoundWithBothNames) {
         const std::string right = rightElement(place);
         const std::string opened = right.substr(0, right.rfind("</"));
         const std::string text = reply(place, opened + "</other>");
-        const AnyReading reading = readAny(*place.message, text, kvjxml::diagnose);
-        ASSERT_FALSE(reading.findings.empty());
-        const auto& last = reading.findings.back();
+        const auto findings = findingsIn(*place.message, text);
+        ASSERT_FALSE(findings.empty());
+        const auto& last = findings.back();
         EXPECT_EQ(last.kind, Found::malformed);
         EXPECT_EQ(last.line, lineOf(place));
         EXPECT_EQ(last.column, column + opened.size());

@@ -57,6 +57,14 @@ TEST(FindingsAtTheRoot, SayThatItHoldsElementsBesideItsText) {
                     "warning ignored 1:12 /nonce \"a\" (a text beside elements)"));
 }
 
+TEST(FindingsBesideRows, SayThatATextStandsWhereOnlyAttributesAreRead) {
+    EXPECT_THAT(found("sensor_info",
+                      "<get_sensor_status><input_output><input_feeder reading='8'>874</input_feeder></input_output>"
+                      "</get_sensor_status>"),
+                ElementsAre("warning ignored 1:60 /get_sensor_status/input_output/input_feeder \"874\" (a text where "
+                            "only attributes are read)"));
+}
+
 TEST(FindingsAtTheRoot, OfADirectiveAreOfItsAction) {
     EXPECT_THAT(found("secure_directive", "<action>lock_printer<printer/></action>"), IsEmpty());
     const auto findings = findingsIn("secure_directive", "<action><printer/>lock_printer</action>");

@@ -333,6 +333,35 @@ TEST(ReadFields, OfASecondEncoderTheSecond) {
     EXPECT_TRUE((both.has<encoder, &Kavrin::_InternalEncoderInfo::contactlessEncoder2>()));
 }
 
+TEST(ReadFields, OfAnEncoderBehindAnUnknownOneTheFirst) {
+    const auto encoders = read<messages::configuration>(
+        "<configuration><internal_encoder><contactless_encoder>mifair</contactless_encoder>"
+        "<contactless_encoder>hf</contactless_encoder></internal_encoder></configuration>",
+        kvjxml::diagnose);
+    using Info = Kavrin::_InternalEncoderInfo;
+    constexpr auto encoder = &Kavrin::_KVConfiguration::internalEncoder;
+    EXPECT_NE(encoders->internalEncoder.contactlessEncoder, 0);
+    EXPECT_FALSE((encoders.has<encoder, &Info::contactlessEncoder2>()));
+    ASSERT_EQ(encoders.findings().size(), 1U);
+    EXPECT_EQ(encoders.findings()[0].text, "mifair");
+    EXPECT_EQ(encoders.findings()[0].field, "Kavrin::_InternalEncoderInfo::contactlessEncoder");
+}
+
+TEST(ReadFields, OfAThirdEncoderTheSecondWhichIsRepeated) {
+    const auto encoders = read<messages::configuration>(
+        "<configuration><internal_encoder><contactless_encoder>mifare</contactless_encoder>"
+        "<contactless_encoder>mifare</contactless_encoder><contactless_encoder>hff</contactless_encoder>"
+        "</internal_encoder></configuration>",
+        kvjxml::diagnose);
+    std::vector<finding_kind> kinds;
+    for (const auto& finding : encoders.findings()) {
+        kinds.push_back(finding.kind);
+        EXPECT_EQ(finding.path, "/configuration/internal_encoder/contactless_encoder[3]");
+        EXPECT_EQ(finding.field, "Kavrin::_InternalEncoderInfo::contactlessEncoder2");
+    }
+    EXPECT_THAT(kinds, testing::UnorderedElementsAre(finding_kind::repeated, finding_kind::unknown_word));
+}
+
 TEST(ReadFields, OfTheCustomCardThatTheyWentTo) {
     const auto cards = read<messages::configuration>(
         "<configuration><cards><card><information><type>1</type><description>Custom "

@@ -31,11 +31,11 @@ void expectNumbered(const json& list, const std::string& field, int count) {
     }
 }
 
-TEST(DecodeLists, OfALongJobListTheFirst64JobsArePrinted) {
+TEST(DecodeLists, EveryJobIsPrinted) {
     const Outcome outcome = runTool("decode", listReply("get_job_list", "job", "action_id", 70));
     EXPECT_EQ(outcome.code, 0);
-    EXPECT_EQ(recordOf(outcome).at("count"), 64);
-    expectNumbered(recordOf(outcome).at("jobs"), "actionId", 64);
+    EXPECT_EQ(recordOf(outcome).at("count"), 70);
+    expectNumbered(recordOf(outcome).at("jobs"), "actionId", 70);
 }
 
 TEST(DecodeLists, AJobListWithoutJobsIsEmptyAndAnAnswer) {
@@ -58,24 +58,22 @@ TEST(DecodeLists, EveryEntryOfTheServiceHistoryIsPrinted) {
     expectNumbered(recordOf(outcome).at("entries"), "number", 70);
 }
 
-TEST(DecodeLists, OfTheCleaningHistoryOnlyEntriesThatWereFilledArePrinted) {
-    for (const int count : {1, 5, 32}) {
+TEST(DecodeLists, EveryEntryOfTheCleaningHistoryIsPrinted) {
+    for (const int count : {1, 5, 32, 40}) {
         const Outcome outcome = runTool("decode", listReply("get_log_cleaning_history", "cleaning", "number", count));
         EXPECT_EQ(outcome.code, 0);
         expectNumbered(recordOf(outcome), "number", count);
     }
-    const Outcome full = runTool("decode", listReply("get_log_cleaning_history", "cleaning", "number", 40));
-    EXPECT_EQ(full.code, 0);
-    expectNumbered(recordOf(full), "number", 32);
 }
 
-TEST(DecodeLists, AnEmptyEntryOfTheCleaningHistoryBetweenOthersIsPrinted) {
-    const Outcome outcome = runTool("decode",
-                                    "<get_log_cleaning_history><cleaning/><cleaning><type>2</type></cleaning>"
-                                    "</get_log_cleaning_history>");
+TEST(DecodeLists, AnEmptyEntryOfTheCleaningHistoryIsPrinted) {
+    const Outcome outcome =
+        runTool("decode",
+                "<get_log_cleaning_history><cleaning/><cleaning><type>2</type></cleaning><cleaning/>"
+                "</get_log_cleaning_history>");
     EXPECT_EQ(outcome.code, 0);
-    EXPECT_EQ(recordOf(outcome),
-              (json{{{"number", 0}, {"cards", 0}, {"type", 0}}, {{"number", 0}, {"cards", 0}, {"type", 2}}}));
+    const json empty = {{"number", 0}, {"cards", 0}, {"type", 0}};
+    EXPECT_EQ(recordOf(outcome), (json{empty, {{"number", 0}, {"cards", 0}, {"type", 2}}, empty}));
 }
 
 TEST(DecodeLists, ACleaningHistoryWithoutEntriesIsAnEmptyListAndAnAnswer) {
@@ -147,7 +145,7 @@ TEST(DecodeLists, WhatIsPrintedPieceByPieceIsLaidOutAsAWhole) {
     for (const char* reply :
          {"<capabilities/>", "<media><cards><card/><card/></cards><films/></media>", "<AccessPoints/>",
           "<get_count><total_cards_done>3</total_cards_done></get_count>", "<get_log_cleaning_history/>",
-          "<get_job_list><job><uuid>&quot;\\/&#9;\x7F</uuid></job></get_job_list>",
+          "<get_job_list><job><uuid>&quot;\\/&#9;</uuid></job></get_job_list>",
           "<get_free_ram><bytes_free>7</bytes_free></get_free_ram>"}) {
         const Outcome outcome = runTool("decode", reply);
         EXPECT_EQ(outcome.out, nlohmann::ordered_json::parse(outcome.out).dump(4) + "\n");

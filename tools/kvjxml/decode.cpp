@@ -1,97 +1,119 @@
 #include "decode.h"
 
-#include <algorithm>
 #include <iostream>
-#include <kvjxml.hpp>
+#include <nlohmann/json.hpp>
+#include <stdexcept>
 #include <vector>
 
 #include "decode_message.h"
-#include "failure.h"
-#include "foundation/reply.h"
+#include "json_printer.h"
 
 namespace kvj::tool {
 
 namespace {
 
-std::vector<Message> messagesOf(std::string_view root) {
-    std::vector<Message> found;
-    std::ranges::copy_if(messages(), std::back_inserter(found), [&](const Message& m) {
-        return m.root == root || (!m.otherRoot.empty() && m.otherRoot == root);
+/// What has to be said of a document besides what is in it.
+std::vector<std::string> remarksOn(const Capture& capture, const DecodedDocument& document) {
+    std::vector<std::string> remarks = capture.notes;
+    if (!document.isWhole()) remarks.push_back("read as far as it goes: " + damageIn(capture.text, capture.line));
+    return remarks;
+}
+
+void tellRemarks(const Capture& capture, const DecodedDocument& document) {
+    for (const std::string& remark : remarksOn(capture, document)) tell(capture.origin, remark);
+}
+
+void printJson(const Capture& capture, const DecodedDocument& document, const View& view) {
+    tellRemarks(capture, document);
+    JsonPrinter json(std::cout);
+    printDocument(json, document, view);
+    std::cout << '\n';
+}
+
+void printForEyes(const Capture& capture, const DecodedDocument& document, const View& view) {
+    tellRemarks(capture, document);
+    printText(std::cout, document, view);
+}
+
+/// A line about a document, of which `content` prints what is special.
+template <class Content>
+void printLine(const Origin& origin, Content content) {
+    JsonPrinter json(std::cout);
+    json.line([&] {
+        json.object([&] {
+            json.field("schema");
+            json.value(1);
+            json.field("source");
+            json.object([&] {
+                json.field("file");
+                json.value(nlohmann::json(origin.file));
+                json.field("number");
+                json.value(origin.number);
+            });
+            content(json);
+        });
     });
-    return found;
+    std::cout << '\n';
 }
 
-/// A place in a text, for people: the line, and the character in that line.
-std::string placeOf(std::string_view text, std::size_t offset) {
-    const std::string_view before = text.substr(0, offset);
-    if (before.size() == text.size()) return "at its end";
-    const auto line = std::ranges::count(before, '\n') + 1;
-    const std::string_view inLine = before.substr(before.find_last_of('\n') + 1);
-    const auto isContinuation = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; };
-    const auto column = std::ssize(inLine) - std::ranges::count_if(inLine, isContinuation) + 1;
-    return "line " + std::to_string(line) + ", column " + std::to_string(column);
-}
-
-/// What is wrong with a reply, and where; empty when nothing is.
-std::string faultIn(const Document& reply, std::string_view text) {
-    if (!reply.fault()) return {};
-    TiXmlDocument words;
-    tellFault(reply, words);
-    return placeOf(text, reply.fault().offset) + ": " + words.ErrorDesc();
-}
-
-/// The readers of the first element at the top level that is a known message's root.
-std::vector<Message> messagesIn(const Document& reply, const Input& input) {
-    std::string reason = faultIn(reply, input.bytes);
-    if (reason.empty()) reason = "there is no XML element in it";
-    bool isFirst = true;
-    for (const Element root : reply.top().children()) {
-        if (auto found = messagesOf(root.name()); !found.empty()) return found;
-        if (isFirst) {
-            reason = "the root element \"" + std::string(root.name()) + "\" is not that of a known message";
+void printDocumentLine(const Capture& capture, const DecodedDocument& document, const View& view) {
+    printLine(capture.origin, [&](JsonPrinter& json) {
+        json.field("message");
+        json.value(nlohmann::json(document.root()));
+        json.field("damaged");
+        json.value(!document.isWhole());
+        json.field("findings");
+        json.value(document.findings());
+        if (const auto remarks = remarksOn(capture, document); !remarks.empty()) {
+            json.field("notes");
+            json.value(nlohmann::json(remarks));
         }
-        isFirst = false;
-    }
-    throw Failure(ExitCode::unknownMessage, input.name + ": " + reason);
+        json.field("record");
+        printDocument(json, document, view);
+    });
 }
 
-/// The readers of a reply: those of `message`, or when that is empty those of its root. Reports what is wrong with the
-/// reply.
-std::vector<Message> readersOf(const Input& input, const std::string& message) {
-    const Reply reply(input.bytes.c_str());
-    auto readers = message.empty() ? messagesIn(reply, input) : messagesOf(message);
-    const Message& first = readers.front();
-    if (!reply.root(first.root.data(), first.otherRoot.data())) {
-        throw Failure(ExitCode::unknownMessage, input.name + ": there is no \"" + message + "\" in it");
-    }
-    if (const auto error = faultIn(reply, input.bytes); !error.empty()) {
-        std::cerr << "kvjxml: " << input.name << ": read as far as it goes: " << error << '\n';
-    }
-    return readers;
+void printFailureLine(const Origin& origin, const Failure& failure) {
+    printLine(origin, [&](JsonPrinter& json) {
+        json.field("error");
+        json.object([&] {
+            json.field("code");
+            json.value(static_cast<int>(failure.code()));
+            json.field("text");
+            json.value(nlohmann::json(failure.what()));
+        });
+    });
 }
 
-/// Whether a reply is whole, as kvjxml.hpp says. That is the same whatever message is looked for.
-bool isWhole(std::string_view bytes) { return kvjxml::read<kvjxml::messages::nonce>(bytes).whole(); }
+const Format all[] = {
+    {"json", "one document of JSON behind the other", Counting::no, Keeping::no, printJson, tellFailure},
+    {"jsonl", "one line of JSON for each, with its source; what cannot be read is an error in its place", Counting::yes,
+     Keeping::no, printDocumentLine, printFailureLine},
+    {"text", "for eyes, with words, units and what was sent", Counting::no, Keeping::yes, printForEyes, tellFailure},
+};
+
+void checkOutput() {
+    if (!std::cout) throw std::runtime_error("standard output: cannot be written");
+}
 
 }  // namespace
 
-ExitCode decode(const Source& source, const std::string& message) {
-    const Input input = readInput(source);
-    const auto readers = readersOf(input, message);
-    JsonPrinter json(std::cout);
-    if (readers.size() == 1) {
-        decodeMessage(readers.front(), input, json);
-    } else {
-        // Several readers may each take a part of one reply.
-        json.object([&] {
-            for (const Message& reader : readers) {
-                json.field(reader.operation);
-                decodeMessage(reader, input, json);
-            }
+std::span<const Format> formats() { return all; }
+
+ExitCode decode(const Captures& captures, const std::string& message, const Format& format, const View& view) {
+    const Keeping keeping = view.words ? Keeping::yes : format.keeping;
+    return forEachDocument(
+        captures,
+        [&](const Capture& capture) {
+            const DecodedDocument document(capture.text, message, format.counting, keeping);
+            format.print(capture, document, view);
+            checkOutput();
+            return document.isWhole() ? ExitCode::done : ExitCode::damaged;
+        },
+        [&](const Origin& origin, const Failure& failure) {
+            format.fail(origin, failure);
+            checkOutput();
         });
-    }
-    std::cout << '\n';
-    return isWhole(input.bytes) ? ExitCode::done : ExitCode::damaged;
 }
 
 }  // namespace kvj::tool

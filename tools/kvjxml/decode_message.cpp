@@ -5,15 +5,25 @@
 #include <memory>
 #include <vector>
 
-#include "foundation/reply.h"
 #include "json_record.h"
-#include "messages/zeroed_record.h"
+#include "text_printer.h"
 
 namespace kvj::tool {
 
 namespace {
 
-// ---- Lists: an entry can take 4 KiB, so one is read, printed and forgotten before the next ----
+void printEntries(JsonPrinter& json, const GrownList& list, const Showing& showing) {
+    for (std::size_t i = 0; i < list.count(); ++i) {
+        json.entry();
+        print(json, nullptr, *list.field().entries->entry, list.at(i), showing);
+    }
+}
+
+const GrownList& listIn(const DecodedMessage& decoded, const Field& field) {
+    return *std::ranges::find_if(decoded.lists, [&](const GrownList& each) { return &each.field() == &field; });
+}
+
+// ---- Lists of the root: an entry can take 4 KiB, so one is read, printed and forgotten before the next ----
 
 /// One element with entries of a list, and how far these have been read.
 class Section {
@@ -61,28 +71,26 @@ public:
     Entries(Element root, const HostList& list)
         : list_(&list), sections_(sectionsOf(root, list)), entry_(std::make_unique<char[]>(field().size)) {}
 
-    void print(JsonPrinter& json) {
-        json.list([&] {
-            std::size_t unwritten = 0;
-            for (; !sections_.empty(); goOn()) {
-                if (!isWritten()) {
-                    ++unwritten;
-                    continue;
-                }
-                fill(0);
-                for (; unwritten > 0; --unwritten) printEntry(json);
-                read();
-                printEntry(json);
+    void print(JsonPrinter& json, const Showing& showing) {
+        std::size_t unwritten = 0;
+        for (; !sections_.empty(); goOn()) {
+            if (!isWritten()) {
+                ++unwritten;
+                continue;
             }
-        });
+            fill(0);
+            for (; unwritten > 0; --unwritten) printEntry(json, showing);
+            read();
+            printEntry(json, showing);
+        }
     }
 
 private:
     [[nodiscard]] const Field& field() const { return *list_->field->entries->entry; }
     void fill(char byte) { std::memset(entry_.get(), byte, field().size); }
-    void printEntry(JsonPrinter& json) {
+    void printEntry(JsonPrinter& json, const Showing& showing) {
         json.entry();
-        tool::print(json, field(), entry_.get());
+        tool::print(json, nullptr, field(), entry_.get(), showing);
     }
 
     void read() {
@@ -112,28 +120,93 @@ private:
     std::unique_ptr<char[]> entry_;
 };
 
-void printValue(JsonPrinter& json, const Field& field, const void* value) {
-    if (field.name.empty()) return print(json, field, value);
-    json.object([&] {
-        json.field(field.name);
-        print(json, field, value);
-    });
+// ---- Records ----
+
+void printListOf(JsonPrinter& json, const DecodedMessage& decoded, const Field& field, const Showing& showing) {
+    const auto list = std::ranges::find(decoded.message->lists, &field, &HostList::field);
+    const bool isOfHost = list != decoded.message->lists.end();
+    if (isOfHost && showing.sent == nullptr) {
+        Entries entries(decoded.root, *list);
+        return printList(json, field, countChildren(decoded.root), [&] { entries.print(json, showing); });
+    }
+    const GrownList& grown = listIn(decoded, field);
+    printList(json, field, isOfHost ? countChildren(decoded.root) : grown.count(),
+              [&] { printEntries(json, grown, showing); });
+}
+
+/// A value that has no name prints as it is, everything else as the fields of an object.
+bool hasName(const Field& field) { return field.type == FieldType::record || !field.name.empty(); }
+
+void printNamed(JsonPrinter& json, const DecodedMessage& decoded, const Showing& showing) {
+    const Field& field = decoded.message->record;
+    if (field.type == FieldType::record) {
+        return printFields(json, *field.record, decoded.record.data(), showing,
+                           [&](const Field& list) { printListOf(json, decoded, list, showing); });
+    }
+    json.field(field.name);
+    print(json, nullptr, field, decoded.record.data(), showing);
+}
+
+void printNameless(JsonPrinter& json, const DecodedMessage& decoded, const Showing& showing) {
+    const Field& field = decoded.message->record;
+    if (field.type != FieldType::list) return print(json, nullptr, field, decoded.record.data(), showing);
+    json.list([&] { printEntries(json, decoded.lists.front(), showing); });
 }
 
 }  // namespace
 
-void decodeMessage(const Message& message, const Input& input, JsonPrinter& json) {
-    const ZeroedRecord record(message, message.record.size);
-    message.read({input.bytes.c_str(), input.text.c_str(), input.text.size()}, record.get());
-    const Reply reply(input.bytes.c_str());
-    const Element root = reply.root(message.root.data(), message.otherRoot.data());
-    if (message.lists.empty()) {
-        printValue(json, message.record, record.get());
-    } else {
-        printRecord(json, *message.record.record, record.get(), [&](const Field& list) {
-            Entries entries(root, *std::ranges::find(message.lists, &list, &HostList::field));
-            entries.print(json);
+void printDocument(JsonPrinter& json, const DecodedDocument& document, const View& view) {
+    const auto& readers = document.readers();
+    const auto showing = [&](const DecodedMessage& reader) { return Showing{view.redacts, reader.sent.get()}; };
+    const auto tellDamage = [&] {
+        if (document.isWhole()) return;
+        json.field("damaged");
+        json.value(true);
+    };
+    if (readers.size() > 1) {
+        return json.object([&] {
+            tellDamage();
+            for (const DecodedMessage& reader : readers) {
+                json.field(reader.message->operation);
+                hasName(reader.message->record) ? json.object([&] { printNamed(json, reader, showing(reader)); })
+                                                : printNameless(json, reader, showing(reader));
+            }
         });
+    }
+    const DecodedMessage& only = readers.front();
+    if (hasName(only.message->record)) {
+        return json.object([&] {
+            tellDamage();
+            printNamed(json, only, showing(only));
+        });
+    }
+    if (document.isWhole()) return printNameless(json, only, showing(only));
+    json.object([&] {
+        tellDamage();
+        json.field("value");
+        printNameless(json, only, showing(only));
+    });
+}
+
+void printText(std::ostream& out, const DecodedDocument& document, const View& view) {
+    for (const DecodedMessage& reader : document.readers()) {
+        TextPrinter text(out, {view.redacts, reader.sent.get()}, view.colours);
+        const auto viewOfList = [](const GrownList& list) {
+            return ListView{list.field().entries->entry, list.count(),
+                            [&list](std::size_t index) { return list.at(index); }};
+        };
+        text.begin(reader.message->name);
+        if (!document.isWhole()) text.warn("damaged: read as far as it goes");
+        const Field& field = reader.message->record;
+        if (field.type == FieldType::list) {
+            text.list({}, viewOfList(reader.lists.front()));
+        } else if (field.type == FieldType::record) {
+            text.record(*field.record, reader.record.data(),
+                        [&](const Field& list) { return viewOfList(listIn(reader, list)); });
+        } else {
+            text.value(field.name.empty() ? "value" : field.name, field, reader.record.data());
+        }
+        text.end();
     }
 }
 

@@ -1,16 +1,22 @@
 /// @file decode_message.h
-/// What one reader makes of a reply, as JSON.
+/// What is made of a document, as JSON and for eyes.
 #ifndef KVJXML_TOOL_DECODE_MESSAGE_H
 #define KVJXML_TOOL_DECODE_MESSAGE_H
 
-#include "input.h"
+#include <ostream>
+
+#include "decoded_document.h"
 #include "json_printer.h"
-#include "messages/message.h"
+#include "view.h"
 
 namespace kvj::tool {
 
-/// Reads the reply and prints the record, a long list entry by entry.
-void decodeMessage(const Message& message, const Input& input, JsonPrinter& json);
+/// Prints the record of a document, a long list entry by entry; where there are several readers, an object that has the
+/// record of each under its name. What comes from a damaged document is an object that says so first.
+void printDocument(JsonPrinter& json, const DecodedDocument& document, const View& view);
+
+/// Prints the same for eyes, a block for each reader. What was sent has to be kept.
+void printText(std::ostream& out, const DecodedDocument& document, const View& view);
 
 }  // namespace kvj::tool
 

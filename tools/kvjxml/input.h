@@ -1,5 +1,5 @@
 /// @file input.h
-/// A captured reply, as the readers take it: as bytes and as wide text.
+/// A file that is read as a whole.
 #ifndef KVJXML_TOOL_INPUT_H
 #define KVJXML_TOOL_INPUT_H
 
@@ -7,14 +7,6 @@
 #include <string>
 
 namespace kvj::tool {
-
-struct Input {
-    std::string name;   ///< for messages: the file's name, or "standard input"
-    std::string bytes;  ///< as captured
-    /// The same text in wide characters, padded with zeros to as many as there are bytes: the readers take no more
-    /// bytes than they are given characters, and a reply that is not all ASCII must not lose any.
-    std::wstring text;
-};
 
 /// Where input comes from, and how much of it is taken: a pipe may never end.
 struct Source {
@@ -27,10 +19,6 @@ struct Source {
 /// All bytes of a source.
 /// @throws Failure when it cannot be read, or as soon as it turns out to be larger than it may be.
 std::string readBytes(const Source& source);
-
-/// Reads a reply.
-/// @throws Failure as readBytes does, and when it is not text in UTF-8.
-Input readInput(const Source& source);
 
 }  // namespace kvj::tool
 

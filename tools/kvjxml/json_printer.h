@@ -28,13 +28,21 @@ public:
     void list(Content content) {
         enclose('[', ']', content);
     }
+    /// Prints what `content` prints in one line.
+    template <class Content>
+    void line(Content content) {
+        const bool before = std::exchange(isInLine_, true);
+        content();
+        isInLine_ = before;
+    }
     // NOLINTEND(misc-no-recursion)
 
     /// Begins the next field of an object, whose name is that of a member; its value is printed next.
     void field(std::string_view name);
     /// Begins the next entry of a list; it is printed next.
     void entry();
-    /// A text, a number, true, false or null. Of a text, bytes that are not UTF-8 become U+FFFD.
+    /// A text, a number, true, false, null, or a list of them. Of a text, bytes that are not UTF-8 become U+FFFD, and
+    /// what a terminal would obey is escaped.
     void value(const nlohmann::json& value);
     /// The same, for a value that a catalogue can have a million of.
     template <std::integral Integer>
@@ -56,13 +64,14 @@ private:
         ++depth_;
         content();
         --depth_;
-        if (!std::exchange(isEmpty_, false)) beginLine();
+        if (!std::exchange(isEmpty_, false) && !isInLine_) beginLine();
         *out_ << close;
     }
     void beginLine();
 
     std::ostream* out_;
     std::size_t depth_ = 0;
+    bool isInLine_ = false;
     bool isEmpty_ = true;  ///< whether what is being printed has nothing in it so far
 };
 

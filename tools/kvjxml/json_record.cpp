@@ -1,24 +1,13 @@
 #include "json_record.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
-#include <cmath>
 #include <nlohmann/json.hpp>
 
-#include "foundation/convert.h"
+#include "shown.h"
 
 namespace kvj::tool {
 
 namespace {
-
-/// A float in as few digits as tell it from its neighbours, 24.35 and not 24.350000381469727.
-void printDecimal(JsonPrinter& json, float value) {
-    if (!std::isfinite(value)) return json.value(nullptr);  // JSON has no other number for it.
-    std::array<char, 64> digits{};
-    std::to_chars(digits.data(), digits.data() + digits.size() - 1, value);
-    json.value(nlohmann::json::parse(digits.data()));
-}
 
 void printNumber(JsonPrinter& json, const Field& field, const void* record) {
     const std::int64_t number = wholeNumberOf(field, record);
@@ -29,46 +18,63 @@ void printNumber(JsonPrinter& json, const Field& field, const void* record) {
     }
 }
 
+/// Beside the value its word, and what was sent in its place.
+void printShown(JsonPrinter& json, const Shown& shown) {
+    if (!shown.isCode && !shown.sent) return json.value(shown.value);
+    json.line([&] {
+        json.object([&] {
+            json.field(shown.isCode ? "code" : "value");
+            json.value(shown.value);
+            if (shown.hasBits) {
+                json.field("words");
+                json.list([&] {
+                    for (const std::string_view word : shown.words) {
+                        json.entry();
+                        json.value(word);
+                    }
+                });
+            } else if (!shown.words.empty()) {
+                json.field("word");
+                json.value(shown.words.front());
+            }
+            if (shown.sent) {
+                json.field("sent");
+                json.value(*shown.sent);
+            }
+        });
+    });
+}
+
 // Records nest as deep as they are declared, so the recursion ends.
 // NOLINTBEGIN(misc-no-recursion)
 
-void printEntries(JsonPrinter& json, const Entries& entries, const void* record) {
-    json.list([&] {
-        const std::size_t count = countOf(entries, record);
-        for (std::size_t i = 0; i < count; ++i) {
-            json.entry();
-            print(json, *entries.entry, entries.at(record, i));
-        }
-    });
+void printEntries(JsonPrinter& json, const Entries& entries, const void* record, const Showing& showing) {
+    const std::size_t count = countOf(entries, record);
+    for (std::size_t i = 0; i < count; ++i) {
+        json.entry();
+        print(json, nullptr, *entries.entry, entries.at(record, i), showing);
+    }
 }
 
 }  // namespace
 
-void print(JsonPrinter& json, const Field& field, const void* record) {
-    switch (field.type) {
-        case FieldType::flag:
-        case FieldType::bit:
-            return json.value(flagOf(field, record));
-        case FieldType::number:
-            return printNumber(json, field, record);
-        case FieldType::decimal:
-            return printDecimal(json, valueOf<float>(field, record));
-        case FieldType::text:
-            return json.value(textOf(field, record));
-        case FieldType::hardwareAddress:
-            return json.value(
-                convert::fromHardwareAddress(static_cast<const unsigned char*>(field.at(record))).c_str());
-        case FieldType::ipAddress:
-            return json.value(convert::fromIpAddress(valueOf<unsigned long>(field, record)).c_str());
-        case FieldType::hostText:
-            return json.value(valueOf<const char*>(field, record));
-        case FieldType::record: {
-            const void* const inner = field.at(record);
-            return printRecord(json, *field.record, inner,
-                               [&](const Field& list) { printEntries(json, *list.entries, inner); });
-        }
-        case FieldType::list:
-            return printEntries(json, *field.entries, record);
+void print(JsonPrinter& json, const RecordType* type, const Field& field, const void* record, const Showing& showing) {
+    if (field.type == FieldType::record) {
+        const void* const inner = field.at(record);
+        json.object([&] {
+            printFields(json, *field.record, inner, showing, [&](const Field& list) {
+                printList(json, list, countOf(*list.entries, inner),
+                          [&] { printEntries(json, *list.entries, inner, showing); });
+            });
+        });
+    } else if (field.type == FieldType::list) {
+        json.list([&] { printEntries(json, *field.entries, record, showing); });
+    } else if (showing.sent != nullptr || showing.redacts) {
+        printShown(json, shown(type, field, record, showing));
+    } else if (field.type == FieldType::number) {
+        printNumber(json, field, record);
+    } else {
+        json.value(valueIn(field, record));
     }
 }
 

@@ -5,31 +5,37 @@
 
 #include "fields/field.h"
 #include "json_printer.h"
+#include "shown.h"
 
 namespace kvj::tool {
 
-/// Prints the value of a field.
-void print(JsonPrinter& json, const Field& field, const void* record);
+/// Prints the value of a field of a record; without a type the value stands for itself.
+void print(JsonPrinter& json, const RecordType* type, const Field& field, const void* record, const Showing& showing);
 
 // Records nest as deep as they are declared, so the recursion ends. NOLINTBEGIN(misc-no-recursion)
-/// Prints a record, where `printList(field)` prints what is in a list.
+/// Prints the fields of a record into an object, of which `printList(field)` prints the lists.
 template <class PrintList>
-void printRecord(JsonPrinter& json, const RecordType& type, const void* record, PrintList printList) {
-    json.object([&] {
-        for (const Field& field : type.fields) {
-            if (field.type == FieldType::list) {
-                if (field.entries->showsCount) {
-                    json.field(field.entries->counter->name);
-                    json.value(countOf(*field.entries, record));
-                }
-                json.field(field.name);
-                printList(field);
-            } else {
-                json.field(field.name);
-                print(json, field, record);
-            }
+void printFields(JsonPrinter& json, const RecordType& type, const void* record, const Showing& showing,
+                 PrintList printList) {
+    for (const Field& field : type.fields) {
+        if (field.type == FieldType::list) {
+            printList(field);
+        } else {
+            json.field(field.name);
+            print(json, &type, field, record, showing);
         }
-    });
+    }
+}
+
+/// Prints a list of a record, whose entries `printEntries()` prints.
+template <class PrintEntries>
+void printList(JsonPrinter& json, const Field& list, std::size_t count, PrintEntries printEntries) {
+    if (list.entries->showsCount) {
+        json.field(list.entries->counter->name);
+        json.value(count);
+    }
+    json.field(list.name);
+    json.list(printEntries);
 }
 
 // NOLINTEND(misc-no-recursion)

@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+#include "captures.h"
 #include "exit_code.h"
 #include "input.h"
 
@@ -27,13 +28,23 @@ struct Verb {
 /// In the order of --help.
 std::span<const Verb> verbs();
 
+Run addCheck(CLI::App& verb);
 Run addDecode(CLI::App& verb);
+Run addDiff(CLI::App& verb);
 Run addEncode(CLI::App& verb);
+Run addCompletion(CLI::App& verb);
+Run addExplain(CLI::App& verb);
 Run addMessages(CLI::App& verb);
+Run addSample(CLI::App& verb);
 Run addTemplate(CLI::App& verb);
 
 /// The option of every verb that limits its input.
 void addMaxSize(CLI::App& verb, std::uint64_t& maxSize);
+/// The documents that a verb reads, see captures.h.
+/// @param captures  outlives the command line.
+void addCaptures(CLI::App& verb, const std::string& content, Captures& captures);
+/// Takes the root element of a known message, and says of another name which one it may be meant to be.
+CLI::Validator knownRoot();
 /// The file that a verb reads, and how much of it.
 void addSource(CLI::App& verb, const std::string& content, Source& source);
 

@@ -2,8 +2,11 @@
 #include <cstdint>
 #include <limits>
 #include <map>
+#include <set>
 
+#include "messages/message.h"
 #include "reference.h"
+#include "suggestion.h"
 #include "verb.h"
 
 namespace kvj::tool {
@@ -28,9 +31,14 @@ std::string asBytes(std::string& text) {
 
 constexpr Verb all[] = {
     {"decode", "Print the record that a captured reply fills, as JSON", addDecode},
+    {"check", "Say what would be ignored, changed or lost of documents", addCheck},
+    {"diff", "Say what differs between two replies of one message", addDiff},
     {"encode", "Compose a request from JSON; keys are read from it, never from options", addEncode},
     {"template", "Print the JSON of a request to be filled in, with what each field takes", addTemplate},
+    {"explain", "Say what a message, field, element, code or word is", addExplain},
+    {"sample", "Print a document of a message in which every element has a value", addSample},
     {"messages", "Print every known message element by element, as Markdown", addMessages},
+    {"completion", "Print what a shell needs to complete the command line of kvjxml", addCompletion},
 };
 
 }  // namespace
@@ -45,6 +53,18 @@ void addMaxSize(CLI::App& verb, std::uint64_t& maxSize) {
                     "told")
         ->option_text("SIZE")
         ->transform(CLI::Validator(asBytes, ""));
+}
+
+CLI::Validator knownRoot() {
+    return {[](const std::string& name) {
+                std::set<std::string_view> roots;
+                for (const Message& message : messages()) {
+                    roots.insert(message.root);
+                    if (!message.otherRoot.empty()) roots.insert(message.otherRoot);
+                }
+                return roots.contains(name) ? std::string() : unknown("message", name, roots);
+            },
+            ""};
 }
 
 void addSource(CLI::App& verb, const std::string& content, Source& source) {

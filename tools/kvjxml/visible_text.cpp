@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdio>
+#include <cstdlib>
 
 #include "foundation/utf8.h"
 
@@ -75,5 +76,10 @@ std::string visible(std::string_view text) {
 }
 
 bool writesToTerminal() { return isatty(STDOUT_FILENO) == 1; }
+
+bool writesInColour() {
+    const char* const refusal = std::getenv("NO_COLOR");
+    return writesToTerminal() && (refusal == nullptr || *refusal == '\0');
+}
 
 }  // namespace kvj::tool

@@ -16,6 +16,9 @@ std::string visible(std::string_view text);
 /// Whether standard output is a terminal.
 bool writesToTerminal();
 
+/// Whether what is printed may have colours: on a terminal, unless NO_COLOR is set.
+bool writesInColour();
+
 }  // namespace kvj::tool
 
 #endif

@@ -1,0 +1,88 @@
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "check.h"
+#include "verb.h"
+#include "visible_text.h"
+
+namespace kvj::tool {
+
+namespace {
+
+using kvjxml::finding_kind;
+using kvjxml::severity;
+
+struct Options {
+    std::vector<std::string> files;
+    std::uint64_t maxSize = Source{}.maxSize;
+    std::string format = "text";
+    std::string failOn = "warning";
+    std::optional<bool> redacts;
+    CheckOptions check;
+};
+
+std::map<std::string, finding_kind> kinds() {
+    std::map<std::string, finding_kind> all;
+    for (int kind = 0; !to_string(finding_kind{kind}).empty(); ++kind) {
+        all.emplace(to_string(finding_kind{kind}), finding_kind{kind});
+    }
+    return all;
+}
+
+void addIgnore(CLI::App& verb, std::vector<Ignored>& ignored) {
+    std::string names;
+    for (const auto& [name, kind] : kinds()) names += (names.empty() ? "" : ", ") + name;
+    const auto add = [&ignored](const std::vector<std::string>& texts) {
+        for (const std::string& text : texts) {
+            const std::size_t colon = text.find(':');
+            const auto known = kinds();
+            const auto kind = known.find(text.substr(0, colon));
+            if (kind == known.end()) throw CLI::ValidationError("--ignore", "\"" + text + "\" begins with no kind");
+            ignored.push_back({kind->second, colon == std::string::npos ? std::string() : text.substr(colon + 1)});
+        }
+    };
+    verb.add_option_function<std::vector<std::string>>(
+            "--ignore", add,
+            "Say nothing of findings of this kind, or of those at this path alone; can be given again. Kinds: " + names)
+        ->option_text("KIND[:PATH]")
+        ->allow_extra_args(false);
+}
+
+const std::map<std::string, severity> severities{
+    {"error", severity::error}, {"warning", severity::warning}, {"note", severity::note}};
+const std::map<std::string, MakeWriter> formats{{"text", textWriter}, {"json", jsonWriter}, {"sarif", sarifWriter}};
+
+ExitCode run(const Options& options) {
+    std::vector<Source> sources;
+    for (const std::string& file : options.files) sources.push_back({file, options.maxSize});
+    if (sources.empty()) sources.push_back({.maxSize = options.maxSize});
+    CheckOptions how = options.check;
+    how.failOn = severities.at(options.failOn);
+    how.hidesSecrets = options.redacts.value_or(writesToTerminal());
+    return check(sources, how, formats.at(options.format));
+}
+
+}  // namespace
+
+Run addCheck(CLI::App& verb) {
+    const auto options = std::make_shared<Options>();
+    verb.add_option("FILE", options->files, "Documents, in UTF-8; - for standard input, as without any");
+    verb.add_option("--format", options->format,
+                    "text, json (an object for each document, on one line) or sarif (SARIF 2.1.0); text unless told")
+        ->option_text("FORMAT")
+        ->check(CLI::IsMember(&formats));
+    verb.add_option("--fail-on", options->failOn,
+                    "The least severity that ends with code 6: error, warning or note; warning unless told")
+        ->option_text("SEVERITY")
+        ->check(CLI::IsMember(&severities));
+    addIgnore(verb, options->check.ignored);
+    verb.add_flag("--redact,!--no-redact", options->redacts,
+                  "Mask keys and other secrets, or do not; unless told, they are masked on a terminal");
+    addMaxSize(verb, options->maxSize);
+    return [options] { return run(*options); };
+}
+
+}  // namespace kvj::tool

@@ -1,0 +1,25 @@
+/// @file diff.h
+/// The verb that says what differs between two replies of one message.
+#ifndef KVJXML_TOOL_DIFF_H
+#define KVJXML_TOOL_DIFF_H
+
+#include "exit_code.h"
+#include "input.h"
+
+namespace kvj::tool {
+
+enum class DiffFormat { text, json };
+
+struct DiffOptions {
+    DiffFormat format = DiffFormat::text;
+    bool isMasked = false;  ///< whether secrets are
+};
+
+/// Prints each field that differs.
+/// @return `damaged` where one of them is, as far as it could be read; else `different` or `done`.
+/// @throws Failure
+ExitCode diff(const Source& before, const Source& after, const DiffOptions& options);
+
+}  // namespace kvj::tool
+
+#endif

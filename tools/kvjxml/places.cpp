@@ -1,0 +1,43 @@
+#include "places.h"
+
+#include <vector>
+
+#include "messages/message.h"
+#include "messages/request.h"
+
+namespace kvj::tool {
+
+namespace {
+
+using Places = std::vector<ElementPlace>;
+
+// Groups nest as deep as the tables are written, so the recursion ends. NOLINTNEXTLINE(misc-no-recursion)
+void collect(const ElementPlace& around, std::span<const DescribedRow> rows, Places& places) {
+    for (const DescribedRow& row : rows) {
+        const ElementPlace place{around.path + "/" + std::string(row.name), &row, around.direction, around.operation};
+        places.push_back(place);
+        collect(place, row.description.group, places);
+    }
+}
+
+Places all() {
+    Places places;
+    for (const Message& message : messages()) {
+        const ElementPlace root{"/" + std::string(message.root), nullptr, Direction::read, message.operation};
+        collect(root, message.table, places);
+    }
+    for (const Request& request : requests()) {
+        const ElementPlace root{"/" + std::string(request.root), nullptr, Direction::written, request.operation};
+        collect(root, request.table, places);
+    }
+    return places;
+}
+
+}  // namespace
+
+std::span<const ElementPlace> elementPlaces() {
+    static const Places places = all();
+    return places;
+}
+
+}  // namespace kvj::tool
