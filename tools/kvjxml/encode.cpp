@@ -2,6 +2,7 @@
 
 #include <iostream>
 #include <nlohmann/json.hpp>
+#include <utility>
 
 #include "asked.h"
 #include "asked_record.h"
@@ -17,8 +18,8 @@
 
 namespace kvj::tool {
 
-std::string composed(const Request& request, const Choices& choices, const std::string& json, const std::string& source,
-                     const EncodeOptions& options) {
+ComposedRequest composed(const Request& request, const Choices& choices, const std::string& json,
+                         const std::string& source, const EncodeOptions& options) {
     const nlohmann::json fields = requestJson(json, source, options.edits, *request.record);
     const Needed needed = neededFor(request, choices);
     Arrays arrays;
@@ -30,18 +31,19 @@ std::string composed(const Request& request, const Choices& choices, const std::
     std::string text = composeText(asked, changes);
     addLeftOut(asked, text, changes);
     addSeenOtherwise(asked, text, changes);
-    if (changes.empty()) return text;
+    if (changes.empty()) return {std::move(text), {}};
     const std::string lines = changes.lines(*request.record);
     if (!options.acceptsChanges) {
         throw Failure(ExitCode::wouldChange, visible(source) + ": the printer would get something else than is asked" +
                                                  lines + "\n--accept-changes sends it so");
     }
-    std::cerr << "kvjxml: " << visible(source) << ": sent otherwise than asked" << lines << '\n';
-    return text;
+    return {std::move(text), visible(source) + ": sent otherwise than asked" + lines};
 }
 
 ExitCode encode(const Request& request, const Choices& choices, const Source& source, const EncodeOptions& options) {
-    std::cout << composed(request, choices, readBytes(source), source.name(), options);
+    const ComposedRequest composed = tool::composed(request, choices, readBytes(source), source.name(), options);
+    if (!composed.accepted.empty()) std::cerr << "kvjxml: " << composed.accepted << '\n';
+    std::cout << composed.text;
     return ExitCode::done;
 }
 

@@ -18,13 +18,17 @@ struct EncodeOptions {
     bool acceptsChanges = false;       ///< what the printer would get otherwise than the JSON asks is sent so
 };
 
-/// The request that the library composes from JSON, which came from `source`. What is accepted is said on standard
-/// error.
-/// @throws Failure
-std::string composed(const Request& request, const Choices& choices, const std::string& json, const std::string& source,
-                     const EncodeOptions& options = {});
+struct ComposedRequest {
+    std::string text;
+    std::string accepted;  ///< what of it is sent otherwise than asked, for people; empty for nothing
+};
 
-/// Prints the request that the library composes from JSON.
+/// The request that the library composes from JSON, which came from `source`.
+/// @throws Failure
+ComposedRequest composed(const Request& request, const Choices& choices, const std::string& json,
+                         const std::string& source, const EncodeOptions& options = {});
+
+/// Prints the request that the library composes from JSON, and on standard error what was accepted.
 /// @throws Failure
 ExitCode encode(const Request& request, const Choices& choices, const Source& source, const EncodeOptions& options);
 

@@ -55,6 +55,7 @@ FieldCodes::FieldCodes(std::string_view record, std::string_view field) {
     isLeftAlone_ = std::ranges::any_of(tables_, [](const Words& words) { return !words.other; });
     const bool isRead = std::ranges::any_of(read, hasWords);
     for (const DescribedRow* row : written) {
+        if (hasWords(row)) written_.push_back(row->description.words.words);
         // An element that is read as another field has other words for the same code.
         if (!isRead || std::ranges::find(read, row->name, &DescribedRow::name) != read.end()) add(row);
     }
@@ -92,9 +93,12 @@ std::string FieldCodes::wordSentFor(std::int64_t code) const {
 std::string FieldCodes::listed() const {
     std::string text;
     std::set<int> seen;
+    const auto isSent = [&](int code) {
+        return std::ranges::all_of(written_, [&](const Words& table) { return kvj::wordOf(table, code) != nullptr; });
+    };
     for (const Words& table : tables_) {
         for (const auto& [word, code] : table.rows) {
-            if (!seen.insert(code).second) continue;
+            if (!seen.insert(code).second || !isSent(code)) continue;
             text.append(text.empty() ? "" : ", ").append(word).append(" ").append(std::to_string(code));
         }
     }

@@ -31,13 +31,15 @@ public:
     [[nodiscard]] std::string wordOf(std::int64_t code) const;
     /// The same, but the word that a command is sent with when its argument has none.
     [[nodiscard]] std::string wordSentFor(std::int64_t code) const;
-    /// The words with their codes, for people: "none 0, wep40 1". Of several words of a code the first.
+    /// The words that can be sent with their codes, for people: "none 0, wep40 1". Of several words of a code the
+    /// first.
     [[nodiscard]] std::string listed() const;
     /// The word that somebody may have meant; empty when none is near.
     [[nodiscard]] std::string nearest(std::string_view word) const;
 
 private:
     std::vector<Words> tables_;
+    std::vector<Words> written_;  ///< all that a code has to have a word in
     bool areBits_ = false;
     std::optional<int> sentOtherwise_;
     bool isLeftAlone_ = false;  ///< whether reading leaves the field alone when the word is not known

@@ -58,7 +58,8 @@ public:
         std::vector<kvjxml_v1_list> lists;
         for (const Field& field : message.record.record->fields) {
             if (field.type != FieldType::list || field.entries->storage == Storage::inRecord) continue;
-            Entries& entries = entries_.emplace_back(&field);
+            entries_.push_back({.list = &field});
+            Entries& entries = entries_.back();
             lists.push_back({entries.name.c_str(), &entries, Entries::resize});
         }
         char root[64];

@@ -29,14 +29,15 @@ struct Verb {
 std::span<const Verb> verbs();
 
 Run addCheck(CLI::App& verb);
+Run addCompletion(CLI::App& verb);
 Run addDecode(CLI::App& verb);
 Run addDiff(CLI::App& verb);
 Run addEncode(CLI::App& verb);
-Run addCompletion(CLI::App& verb);
 Run addExplain(CLI::App& verb);
 Run addMessages(CLI::App& verb);
 Run addSample(CLI::App& verb);
 Run addSchema(CLI::App& verb);
+Run addTemplate(CLI::App& verb);
 
 /// The option of every verb that limits its input.
 void addMaxSize(CLI::App& verb, std::uint64_t& maxSize);

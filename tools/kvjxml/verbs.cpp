@@ -34,6 +34,7 @@ constexpr Verb all[] = {
     {"check", "Say what would be ignored, changed or lost of documents", addCheck},
     {"diff", "Say what differs between two replies of one message", addDiff},
     {"encode", "Compose a request from JSON; keys are read from it, never from options", addEncode},
+    {"template", "Print the JSON of a request to be filled in, with what each field takes", addTemplate},
     {"explain", "Say what a message, field, element, code or word is", addExplain},
     {"sample", "Print a document of a message in which every element has a value", addSample},
     {"schema", "Print the JSON Schema of what decode prints, or the vocabulary of the replies", addSchema},
