@@ -8,7 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "json_record.h"
+#include "asked_record.h"
+#include "changes.h"
 #include "support/files.h"
 
 namespace kvj::tests {
@@ -159,7 +160,8 @@ Choices anyChoices(const Request& request, Random& random) {
 Choices readSample(const Request& request, void* record, Kept& kept) {
     const std::string source = std::string(KVJXML_REQUESTS "/").append(request.name).append(".json");
     const nlohmann::json json = nlohmann::json::parse(contentOf(source));
-    tool::readRecord(tool::Place(json, source), *request.record, record, {}, kept);
+    tool::Changes changes;
+    tool::readAsked(tool::Place(json, source), request, {}, record, kept, changes);
     return {.sections = 0xFF'FFFF, .allCards = true, .full = true};  // as tests/golden/*.options say
 }
 

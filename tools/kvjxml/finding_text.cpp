@@ -11,7 +11,7 @@ namespace {
 using kvjxml::finding;
 using kvjxml::finding_kind;
 
-std::string quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
+std::string inQuotes(std::string_view text) { return "\"" + std::string(text) + "\""; }
 
 /// What is not read has no value.
 bool isUnread(finding_kind kind) {
@@ -54,10 +54,10 @@ private:
 
 std::string told(const finding& one) {
     std::string text = one.path;
-    if (tellsText(one)) text += " " + quoted(one.text);
+    if (tellsText(one)) text += " " + inQuotes(one.text);
     std::string became;
     if (!one.became.empty()) {
-        became = "read as " + quoted(one.became);
+        became = "read as " + inQuotes(one.became);
     } else if (isUnread(one.kind)) {
         became = "not read";
     }
