@@ -152,7 +152,8 @@ private:
     template <class Step>
     void attempt(const Origin& origin, Step step) {
         try {
-            worst_ = worseOf(worst_, step());
+            const ExitCode code = step();  // It may attempt others, which count first.
+            worst_ = worseOf(worst_, code);
         } catch (const Failure& failure) {
             worst_ = worseOf(worst_, failure.code());
             onFailure_(origin, failure);

@@ -152,7 +152,7 @@ public:
         if (list != nullptr) return compare(*list, *after_.list(field), before.pointer);
         if (field.type == FieldType::record) {
             for (const Field& inner : field.record->fields) {
-                const std::string name = "/" + std::string(inner.name);
+                const std::string name = std::string("/").append(inner.name);
                 compare({field.record, &inner}, {before.pointer + name, field.at(before.record)},
                         {after.pointer + name, field.at(after.record)});
             }

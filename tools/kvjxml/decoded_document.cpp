@@ -51,9 +51,9 @@ void* GrownList::resize(std::size_t count) noexcept {
     if (count > capacity_) {
         const std::size_t capacity = std::max(count, capacity_ + capacity_ / 2);
         const auto before = reinterpret_cast<std::uintptr_t>(bytes_.get());
-        auto* const more = static_cast<std::byte*>(std::realloc(bytes_.get(), capacity * entrySize()));
+        auto* const more = static_cast<std::byte*>(std::malloc(capacity * entrySize()));
         if (more == nullptr) return nullptr;
-        static_cast<void>(bytes_.release());
+        if (count_ != 0) std::memcpy(more, bytes_.get(), count_ * entrySize());
         bytes_.reset(more);
         capacity_ = capacity;
         if (sent_ != nullptr) sent_->move(before, count_ * entrySize(), more);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "compared.h"
+#include "face/joined.h"
 #include "failure.h"
 #include "foundation/document.h"
 #include "foundation/reply.h"
@@ -166,7 +167,7 @@ ExitCode diff(const Source& before, const Source& after, const DiffOptions& opti
             const bool wasDamaged = isDamaged(one, was);
             isAnyDamaged = isDamaged(other, is) || wasDamaged;
         }
-        const std::string pointer = readers.size() == 1 ? "" : "/" + std::string(message->operation);
+        const std::string pointer = readers.size() == 1 ? std::string() : joined({"/", message->operation});
         compare(one, other, pointer, [&](const Difference& difference) { printer->print(difference); });
     }
     printer->end(isAnyDamaged);

@@ -1,5 +1,6 @@
 #include "field_help.h"
 
+#include "face/joined.h"
 #include "field_codes.h"
 #include "field_rows.h"
 #include "needed.h"
@@ -55,14 +56,14 @@ std::string valueOf(const RecordType& record, const Field& field) {
 std::string elementsOf(const RecordType& record, const Field& field) {
     std::string names;
     for (const DescribedRow* row : rowsFor(rowsOfRequests(), record.name, field.name)) {
-        const std::string name = "<" + std::string(row->name) + ">";
+        const std::string name = joined({"<", row->name, ">"});
         if (names.find(name) == std::string::npos) names.append(names.empty() ? "" : ", ").append(name);
     }
     return names.empty() ? names : names + ": ";
 }
 
 std::string helpOf(const RecordType& record, const Field& field) {
-    std::string help = elementsOf(record, field) + valueOf(record, field);
+    std::string help = joined({elementsOf(record, field), valueOf(record, field)});
     if (isSecret(record.name, field.name)) help += "; a secret";
     const bool isOfSetting = record.fields.front().name == "min" && field.name == "value";
     if (isOfSetting) help += " from min to max";

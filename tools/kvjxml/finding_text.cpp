@@ -1,5 +1,6 @@
 #include "finding_text.h"
 
+#include "face/joined.h"
 #include "finding_writers.h"
 #include "source_line.h"
 #include "visible_text.h"
@@ -11,7 +12,7 @@ namespace {
 using kvjxml::finding;
 using kvjxml::finding_kind;
 
-std::string inQuotes(std::string_view text) { return "\"" + std::string(text) + "\""; }
+std::string inQuotes(std::string_view text) { return joined({"\"", text, "\""}); }
 
 /// What is not read has no value.
 bool isUnread(finding_kind kind) {
@@ -54,10 +55,10 @@ private:
 
 std::string told(const finding& one) {
     std::string text = one.path;
-    if (tellsText(one)) text += " " + inQuotes(one.text);
+    if (tellsText(one)) text += joined({" ", inQuotes(one.text)});
     std::string became;
     if (!one.became.empty()) {
-        became = "read as " + inQuotes(one.became);
+        became = joined({"read as ", inQuotes(one.became)});
     } else if (isUnread(one.kind)) {
         became = "not read";
     }

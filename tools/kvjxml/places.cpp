@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "face/joined.h"
 #include "messages/message.h"
 #include "messages/request.h"
 
@@ -23,11 +24,11 @@ void collect(const ElementPlace& around, std::span<const DescribedRow> rows, Pla
 Places all() {
     Places places;
     for (const Message& message : messages()) {
-        const ElementPlace root{"/" + std::string(message.root), nullptr, Direction::read, message.operation};
+        const ElementPlace root{joined({"/", message.root}), nullptr, Direction::read, message.operation};
         collect(root, message.table, places);
     }
     for (const Request& request : requests()) {
-        const ElementPlace root{"/" + std::string(request.root), nullptr, Direction::written, request.operation};
+        const ElementPlace root{joined({"/", request.root}), nullptr, Direction::written, request.operation};
         collect(root, request.table, places);
     }
     return places;
