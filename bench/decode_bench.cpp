@@ -2,6 +2,8 @@
 // README.md.
 #include "decode.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -30,11 +32,12 @@ public:
         : path_((std::filesystem::temp_directory_path() / "kvjxml-bench-XXXXXX").string()) {
         const int file = mkstemp(path_.data());
         if (file < 0) throw std::runtime_error("no temporary file");
-        std::FILE* const stream = fdopen(file, "wb");
-        for (std::size_t i = 0; i < replies; ++i) std::fwrite(reply.c_str(), 1, reply.size() + 1, stream);
-        std::fclose(stream);
+        static_cast<void>(close(file));
+        std::ofstream stream(path_, std::ios::binary);
+        for (std::size_t i = 0; i < replies; ++i) stream << reply << '\0';
+        if (!stream.flush()) throw std::runtime_error("cannot write " + path_);
     }
-    ~Stream() { std::remove(path_.c_str()); }
+    ~Stream() { static_cast<void>(std::remove(path_.c_str())); }
     Stream(const Stream&) = delete;
     Stream& operator=(const Stream&) = delete;
 
@@ -43,7 +46,7 @@ public:
     bool decode(std::streambuf& out) const {
         std::streambuf* const before = std::cout.rdbuf(&out);
         const auto format = std::ranges::find(tool::formats(), "jsonl", &tool::Format::name);
-        const auto code = tool::decode({.paths = {path_}, .separator = tool::Separator::nul}, {}, *format);
+        const auto code = tool::decode({.paths = {path_}, .separator = tool::Separator::nul}, {}, *format, {});
         std::cout.rdbuf(before);
         return code == tool::ExitCode::done;
     }
@@ -66,8 +69,7 @@ std::vector<Task> tasks() {
         if (!stream->decode(out)) throw std::runtime_error("a reply is not whole");
         const std::string text = out.str();
         std::size_t lines = 0;
-        for (std::size_t at = 0; (at = text.find("\"record\": {\"printerState\": 5, ", at)) != std::string::npos;
-             ++at) {
+        for (std::size_t at = 0; (at = text.find(R"("record": {"printerState": 5, )", at)) != std::string::npos; ++at) {
             ++lines;
         }
         if (lines != replies) throw std::runtime_error(std::to_string(lines) + " lines");

@@ -5,9 +5,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -139,7 +141,7 @@ TEST(Captures, AFileThatIsNotThereFailsInItsPlaceAndTheNextFollows) {
     const std::string file = (folder / "a").string();
     const Seen seen = see({.paths = {file, "/nowhere", file}});
     EXPECT_EQ(seen.captures.size(), 2U);
-    EXPECT_THAT(seen.failures, ElementsAre(Pair(1, "cannot be read: No such file or directory")));
+    EXPECT_THAT(seen.failures, ElementsAre(Pair(1, "cannot be read: " + std::generic_category().message(ENOENT))));
     EXPECT_EQ(seen.code, ExitCode::inputOutput);
 }
 
@@ -152,7 +154,8 @@ TEST(Captures, AFolderStandsForItsFilesByNameWhenItIsAskedFor) {
     std::vector<std::string> contents;
     for (const Capture& each : see({.paths = {path}, .isRecursive = true}).captures) contents.push_back(each.text);
     EXPECT_THAT(contents, ElementsAre("a", "b/10", "b/2", "b/c/1", "z"));
-    EXPECT_THAT(see({.paths = {path}}).failures, ElementsAre(Pair(1, "cannot be read: Is a directory")));
+    EXPECT_THAT(see({.paths = {path}}).failures,
+                ElementsAre(Pair(1, "cannot be read: " + std::generic_category().message(EISDIR))));
 }
 
 // ---- What stands around a reply, and how it is encoded ----

@@ -197,7 +197,7 @@ private:
     }
 
     /// A network must not be opened because its printer's word was not known, nor a motor be stopped by a state 2.
-    void checkCode(const Place& place, const FieldOfRecord& name, std::int64_t code, Changes& changes) {
+    void checkCode(const Place& place, const FieldOfRecord& name, std::int64_t code, Changes& changes) const {
         if (code != 0 && !isOfArguments_) return;  // The library has a word for it, or says that there is none.
         const FieldCodes codes(name.record->name, name.field->name);
         const std::string word = codes.wordSentFor(code);

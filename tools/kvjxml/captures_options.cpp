@@ -13,6 +13,7 @@ template <class Value>
 CLI::Option* addChoice(CLI::App& verb, const std::string& name, std::map<std::string, Value> words,
                        const std::string& help, const std::string& shown, std::function<void(Value)> take) {
     std::vector<std::string> names;
+    names.reserve(words.size());
     for (const auto& [word, value] : words) names.push_back(word);
     return verb
         .add_option_function<std::string>(
