@@ -55,8 +55,7 @@ TEST(ExplainValue, OfAnUnknownWordIsTheCodeThatItBecomes) {
 
 TEST(ExplainValue, OfBitsIsAWordForEach) {
     EXPECT_EQ(said("imageSharpeningLevels 6"), "Kavrin::_Capabilities::imageSharpeningLevels 6: normal + high\n");
-    EXPECT_EQ(said("imageSharpeningLevels 18"),
-              "Kavrin::_Capabilities::imageSharpeningLevels 18: normal + 0x10\n");
+    EXPECT_EQ(said("imageSharpeningLevels 18"), "Kavrin::_Capabilities::imageSharpeningLevels 18: normal + 0x10\n");
 }
 
 TEST(ExplainValue, OfTheAlarmsIsTheirBitsAlone) {

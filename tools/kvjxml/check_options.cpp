@@ -53,14 +53,17 @@ void addIgnore(CLI::App& verb, std::vector<Ignored>& ignored) {
         ->allow_extra_args(false);
 }
 
-const std::map<std::string, severity> severities{
-    {"error", severity::error}, {"warning", severity::warning}, {"note", severity::note}};
-const std::map<std::string, MakeWriter> formats{{"text", textWriter}, {"json", jsonWriter}, {"sarif", sarifWriter}};
+std::map<std::string, severity> severities() {
+    return {{"error", severity::error}, {"warning", severity::warning}, {"note", severity::note}};
+}
+std::map<std::string, MakeWriter> formats() {
+    return {{"text", textWriter}, {"json", jsonWriter}, {"sarif", sarifWriter}};
+}
 
 ExitCode run(const Options& options) {
     CheckOptions how = options.check;
-    how.failOn = severities.at(options.failOn);
-    return check(options.captures, how, formats.at(options.format));
+    how.failOn = severities().at(options.failOn);
+    return check(options.captures, how, formats().at(options.format));
 }
 
 }  // namespace
@@ -71,11 +74,11 @@ Run addCheck(CLI::App& verb) {
     verb.add_option("--format", options->format,
                     "text, json (an object for each document, on one line) or sarif (SARIF 2.1.0); text unless told")
         ->option_text("FORMAT")
-        ->check(CLI::IsMember(&formats));
+        ->check(CLI::IsMember(formats()));
     verb.add_option("--fail-on", options->failOn,
                     "The least severity that ends with code 6: error, warning or note; warning unless told")
         ->option_text("SEVERITY")
-        ->check(CLI::IsMember(&severities));
+        ->check(CLI::IsMember(severities()));
     addIgnore(verb, options->check.ignored);
     verb.add_flag("--redact,!--no-redact", options->check.hidesSecrets,
                   "Mask keys and other secrets, or do not; unless told, they are masked on a terminal");

@@ -33,7 +33,7 @@ std::string firstLine(const std::string& text) { return text.substr(0, text.find
 /// Where only some values are taken, they are what the help has for the value, "full|mag", or what CLI11 makes of a
 /// choice, "TEXT:{a,b}".
 std::vector<std::string> valuesOf(const CLI::Option& option) {
-    const std::string text = option.get_option_text();
+    const std::string& text = option.get_option_text();
     if (text.find('|') != std::string::npos) return CLI::detail::split(text, '|');
     const std::string type = option.get_type_name();
     const auto open = type.find('{');

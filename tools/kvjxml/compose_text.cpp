@@ -78,7 +78,7 @@ std::string rangeOf(const Asked& asked, const std::string& field, Changes& chang
         changes.note(
             "a printer sends some settings, such as those of its catalogue, without their ranges: give \"min\" and "
             "\"max\"");
-        return "it has no range, its \"min\" and \"max\" are 0";
+        return R"(it has no range, its "min" and "max" are 0)";
     }
     return "its range is " + end("min").dump() + " to " + end("max").dump();
 }

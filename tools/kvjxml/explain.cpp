@@ -152,7 +152,7 @@ std::string joined(const std::vector<std::string>& parts, std::string_view betwe
 
 /// What a code stands for.
 std::string meaningOf(const CodeTable& table, std::int64_t code) {
-    const std::string words = wordsOf(table, code);
+    std::string words = wordsOf(table, code);
     if (!words.empty()) return words;
     return table.rows().other == code ? "any other word" : "no word has this code";
 }
