@@ -1,6 +1,7 @@
 #include "hidden_text.h"
 
 #include <algorithm>
+#include <optional>
 #include <span>
 #include <utility>
 
@@ -125,6 +126,28 @@ std::size_t shownOfRest(std::string_view rest, bool isSafe) {
     return isEndTag || isSafe ? end + 1 : 0;
 }
 
+/// How much at the beginning of a piece is shown; nothing for one that is shown as it is.
+std::optional<std::size_t> shownInFront(const Piece& piece, std::string_view text, const Document& document,
+                                        const ShownElements& isShown) {
+    const bool isNameShown = isShown.isNameShown(piece.node);
+    switch (piece.kind) {
+        case Piece::Kind::startTag:
+            if (isShown[piece.node]) return std::nullopt;
+            return isNameShown ? document[piece.node].name().size() + 1 : 0;
+        case Piece::Kind::endTag:
+            return isNameShown ? std::nullopt : std::optional<std::size_t>(0);
+        case Piece::Kind::instruction:
+            return piece.node == 0 || isShown[piece.node] ? std::nullopt : std::optional<std::size_t>(0);
+        case Piece::Kind::rest:
+            return shownOfRest(text, isShown.isSafe());
+        default:
+            return isShown[piece.node] ? std::nullopt : std::optional(blanksIn(text));
+    }
+}
+
+/// How much at the end of a start tag is shown with its name.
+std::size_t shownBehind(std::string_view tag) { return tag.ends_with("/>") ? 2 : tag.ends_with('>') ? 1 : 0; }
+
 }  // namespace
 
 HiddenText::HiddenText(std::string_view bytes, const CheckedDocument& checked) {
@@ -134,39 +157,21 @@ HiddenText::HiddenText(std::string_view bytes, const CheckedDocument& checked) {
     const auto parents = parentsIn(document);
     Markup markup(document, bytes, parents);
     for (Piece piece{}; markup.next(piece);) {
-        std::size_t skipped = 0;
-        switch (piece.kind) {
-            case Piece::Kind::startTag:
-                if (isShown[piece.node]) continue;
-                elements_.push_back(piece.offset);
-                if (isShown.isNameShown(piece.node)) skipped = document[piece.node].name().size() + 1;
-                break;
-            case Piece::Kind::endTag:
-                if (isShown.isNameShown(piece.node)) continue;
-                break;
-            case Piece::Kind::instruction:
-                if (piece.node == 0 || isShown[piece.node]) continue;
-                break;
-            case Piece::Kind::rest:
-                skipped = shownOfRest(bytes.substr(piece.offset, piece.length), isShown.isSafe());
-                break;
-            default:
-                if (isShown[piece.node]) continue;
-                skipped = blanksIn(bytes.substr(piece.offset, piece.length));
-                break;
-        }
-        std::size_t last = piece.offset + piece.length;
-        if (piece.kind == Piece::Kind::startTag && skipped != 0 && bytes[last - 1] == '>') {
-            --last;
-            if (bytes[last - 1] == '/') --last;
-        }
-        const std::size_t first = piece.offset + skipped;
-        if (first >= last) continue;
-        if (!ranges_.empty() && ranges_.back().last == first) {
-            ranges_.back().last = last;
-        } else {
-            ranges_.push_back({first, last});
-        }
+        const std::string_view text = bytes.substr(piece.offset, piece.length);
+        const auto inFront = shownInFront(piece, text, document, isShown);
+        if (!inFront) continue;
+        const bool isTag = piece.kind == Piece::Kind::startTag;
+        if (isTag) elements_.push_back(piece.offset);
+        hide(piece.offset + *inFront, piece.offset + piece.length - (isTag && *inFront != 0 ? shownBehind(text) : 0));
+    }
+}
+
+void HiddenText::hide(std::size_t first, std::size_t last) {
+    if (first >= last) return;
+    if (!ranges_.empty() && ranges_.back().last == first) {
+        ranges_.back().last = last;
+    } else {
+        ranges_.push_back({first, last});
     }
 }
 

@@ -33,6 +33,9 @@ private:
         std::size_t last;
     };
 
+    /// Hides these bytes, which stand behind all that are hidden so far.
+    void hide(std::size_t first, std::size_t last);
+
     std::vector<Range> ranges_;          ///< in order
     std::vector<std::size_t> elements_;  ///< where those begin whose value is hidden, in order
 };
