@@ -93,10 +93,10 @@ private:
     /// A value that every reader takes as it is: texts take what fits, so the others choose.
     std::string valueOf(const MergedRow& row, const MergedRow* around) {
         std::size_t room = longest;
-        const Description* chooses = nullptr;
+        const Description* chooses = row.descriptions.front();
         for (const Description* const each : row.descriptions) {
             if (each->capacity != 0) room = std::min(room, each->capacity);
-            if (chooses == nullptr || chooses->kind == Kind::text || chooses->kind == Kind::attribute) chooses = each;
+            if (chooses->kind == Kind::text || chooses->kind == Kind::attribute) chooses = each;
         }
         return valueOf(row.name, *chooses, room, around);
     }
