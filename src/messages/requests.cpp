@@ -95,8 +95,8 @@ WrittenFields capabilitiesWritten(const Choices& choices) {
 constexpr std::span<const DescribedRow> cardSections = [] {
     const auto& all = configuration::documentSections;
     const auto isOfCards = [](const auto& section) { return section.ofCards; };
-    const auto first = std::ranges::find_if(all, isOfCards);
-    const auto last = std::ranges::find_if_not(first, all.end(), isOfCards);
+    const auto* const first = std::ranges::find_if(all, isOfCards);
+    const auto* const last = std::ranges::find_if_not(first, all.end(), isOfCards);
     return std::span(described<configuration::documentSections>)
         .subspan(static_cast<std::size_t>(first - all.begin()), static_cast<std::size_t>(last - first));
 }();

@@ -99,7 +99,8 @@ Shown shown(const RecordType* type, const Field& field, const void* record, cons
     const SentValue* const sent = showing.sent == nullptr ? nullptr : showing.sent->find(record, field.name);
     shown.isCarried = sent != nullptr;
     if (showing.redacts && type != nullptr && isSecret(type->name, field.name)) {
-        if (shown.value != "") shown.value = masked;
+        const bool isEmpty = shown.value.is_string() && shown.value.get_ref<const std::string&>().empty();
+        if (!isEmpty) shown.value = masked;
         return shown;
     }
     shown.isCode = showing.sent != nullptr && type != nullptr && isCode(*type, field);

@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
@@ -12,28 +13,27 @@ namespace kvj::tool {
 
 namespace {
 
-/// Characters of UTF-8, from the first byte to the last of each range, that are not shown as they are.
+/// Characters from the first to the last of each range that are not shown as they are.
 struct Hidden {
-    std::string_view first;
-    std::string_view last;
+    unsigned first;
+    unsigned last;
 };
 constexpr Hidden hidden[] = {
-    {"\xC2\x80", "\xC2\x9F"},          // C1
-    {"\xD8\x9C", "\xD8\x9C"},          // U+061C, a mark of direction
-    {"\xE2\x80\x8E", "\xE2\x80\x8F"},  // U+200E and U+200F, likewise
-    {"\xE2\x80\xA8", "\xE2\x80\xAE"},  // separators of lines and paragraphs, embeddings and overrides
-    {"\xE2\x81\xA6", "\xE2\x81\xA9"},  // isolates
-    {"\xEF\xBB\xBF", "\xEF\xBB\xBF"},  // the byte-order mark
+    {0x00, 0x1F},      // C0
+    {0x7F, 0x9F},      // DEL and C1
+    {0x61C, 0x61C},    // a mark of direction
+    {0x200E, 0x200F},  // likewise
+    {0x2028, 0x202E},  // separators of lines and paragraphs, embeddings and overrides
+    {0x2066, 0x2069},  // isolates
+    {0xFEFF, 0xFEFF},  // the byte-order mark
 };
 
 /// The length of a character by its first byte.
 std::size_t lengthOf(unsigned char first) { return first < 0x80 ? 1U : first < 0xE0 ? 2U : first < 0xF0 ? 3U : 4U; }
 
-bool isHidden(std::string_view character) {
-    for (const auto& [first, last] : hidden) {
-        if (character.size() == first.size() && character >= first && character <= last) return true;
-    }
-    return false;
+bool isHidden(unsigned point) {
+    return std::ranges::any_of(hidden,
+                               [&](const Hidden& range) { return point >= range.first && point <= range.last; });
 }
 
 std::string number(const char* format, unsigned value) {
@@ -63,10 +63,9 @@ std::string visible(std::string_view text) {
             continue;
         }
         const std::string_view character = text.substr(at, lengthOf(byte));
-        if (byte < ' ' || byte == 0x7F) {
-            shown += number("\\x%02X", byte);
-        } else if (isHidden(character)) {
-            shown += number("\\u%04X", codePoint(character));
+        const unsigned point = codePoint(character);
+        if (isHidden(point)) {
+            shown += number(point < 0x80 ? "\\x%02X" : "\\u%04X", point);
         } else {
             shown += character;
         }
