@@ -111,6 +111,15 @@ TEST(DecodeLines, FindingsAreCountedAndThoseOfSeveralReadersOnce) {
     EXPECT_EQ(linesOf(list).at(0).at("findings"), 2);
 }
 
+TEST(DecodeLines, AsManyFindingsAreCountedAsCheckTells) {
+    // Two readers take this text, and their fields keep a different part of it.
+    const std::string reply = "<get_sensor_status><sensor_states><ribbon_takeup_encoder>" + std::string(40, 'x') +
+                              "</ribbon_takeup_encoder></sensor_states></get_sensor_status>";
+    const json told = json::parse(runTool("check --format json", reply).out).at("findings");
+    EXPECT_EQ(told.size(), 1U);
+    EXPECT_EQ(linesOf(runTool("decode --format jsonl", reply)).at(0).at("findings"), told.size());
+}
+
 TEST(DecodeLines, WhatStoodAroundAReplyIsNoted) {
     const Outcome outcome =
         runTool("decode --format jsonl", "HTTP/1.1 200 OK\r\nServer: printer\r\n\r\n\xEF\xBB\xBF" + job(7));

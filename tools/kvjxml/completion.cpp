@@ -144,7 +144,7 @@ complete -o filenames -F _kvjxml kvjxml
 )";
 }
 
-/// For descriptions in the specifications of zsh.
+/// For descriptions, as zsh takes them.
 std::string escapedForZsh(const std::string& text) {
     std::string result;
     for (const char c : text) {
@@ -188,13 +188,13 @@ void printZsh(const std::vector<Command>& commands) {
         std::cout << "        " << quoted(command.path, quote) << ") _arguments";
         for (const Flag& flag : command.flags) {
             for (const auto& word : wordsOf(flag)) {
-                std::string specification = word + "[" + escapedForZsh(flag.summary) + "]";
+                std::string argument = word + "[" + escapedForZsh(flag.summary) + "]";
                 if (!flag.values.empty()) {
-                    specification += ":value:(" + joined(flag.values) + ")";
+                    argument += ":value:(" + joined(flag.values) + ")";
                 } else if (flag.takesValue) {
-                    specification += ":value:_files";
+                    argument += ":value:_files";
                 }
-                std::cout << " \\\n            '*'" << quoted(specification, quote);
+                std::cout << " \\\n            '*'" << quoted(argument, quote);
             }
         }
         std::cout << " \\\n            '*:file:_files' ;;\n";

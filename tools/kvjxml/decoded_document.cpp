@@ -131,7 +131,7 @@ void DecodedDocument::read(DecodedMessage& reader, std::string_view text, Counti
     }
     diagnosis->finish();
     for (const kvjxml::finding& each : findings.all) {
-        findings_.emplace(each.offset, each.kind, each.path, each.text, each.became, each.detail);
+        findings_.emplace(each.offset, each.kind, each.path, each.text);
     }
     others_ = std::max(others_, findings.omitted);
 }

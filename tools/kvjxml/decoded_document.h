@@ -89,9 +89,9 @@ private:
 
     Utf8Reply document_;
     std::vector<DecodedMessage> readers_;
-    /// Of several readers, what tells a finding from others: two that read the same element may find the same.
-    std::set<std::tuple<std::size_t, kvjxml::finding_kind, std::string, std::string, std::string, std::string>>
-        findings_;
+    /// Of several readers, what tells a finding from others, as check does: two that read the same element may find the
+    /// same, each for a field of its own.
+    std::set<std::tuple<std::size_t, kvjxml::finding_kind, std::string, std::string>> findings_;
     std::size_t others_ = 0;  ///< how many there are beyond those
 };
 
