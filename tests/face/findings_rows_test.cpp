@@ -288,7 +288,7 @@ TEST(EveryRow, MarksItsOwnFieldAndNoOther) {
         }
         std::set<std::size_t> marked;
         for (std::size_t at = 0; at < reading.record.size(); ++at) {
-            if (reading.carries(at)) marked.insert(at);
+            if (reading.has(at)) marked.insert(at);
         }
         EXPECT_EQ(marked, expected);
     }

@@ -14,6 +14,7 @@
 
 namespace {
 
+using namespace kvj;
 using namespace kvj::tests;
 
 /// Lets each allocation of a reading fail. It throws std::bad_alloc and nothing is lost, or, where the library could do
@@ -55,7 +56,7 @@ void expectThrownOrRead(Read read) {
 /// What can be compared of a reading.
 auto contentOf(const AnyReading& reading) {
     std::vector<std::vector<std::byte>> lists;
-    for (const ReadList& list : reading.lists) lists.push_back(list.bytes);
+    for (const ReadList& list : reading.lists) lists.emplace_back(list.bytes().begin(), list.bytes().end());
     return std::make_tuple(reading.found, reading.whole, reading.record, reading.carried, lists,
                            toldOf(reading.findings), reading.omitted);
 }

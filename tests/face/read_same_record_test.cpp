@@ -71,7 +71,7 @@ public:
         record_ = begun();
         text.read(message, record_->get());
         std::vector<std::pair<const Field*, std::size_t>> needed;
-        for (const Field* const list : listsOf(message)) {
+        for (const Field* const list : listsOf(message.record)) {
             if (list->entries->storage != Storage::ofHost) continue;
             needed.emplace_back(list, static_cast<std::size_t>(list->entries->count(record_->get())));
         }
@@ -133,7 +133,7 @@ std::string_view sectionOf(const Message& message, const Field& list) {
 /// The entries that both have room for are the same. An array of a host's has the room that all children of its section
 /// need, also those that are no entries.
 std::string differencesOf(const ReadList& list, const void* record) {
-    const Entries& entries = *list.field->entries;
+    const Entries& entries = *list.field().entries;
     std::size_t count = countOf(entries, record);
     if (entries.storage == Storage::inRecord && entries.room != 0) count = std::min(entries.room, list.count());
     std::string text;
@@ -142,11 +142,11 @@ std::string differencesOf(const ReadList& list, const void* record) {
         const void* const expected = entries.at(record, i);
         if (i < list.count()) {
             text += differencesOf(*entries.entry, expected, list.entry(i));
-        } else if (!isZero(expected, list.entrySize())) {
+        } else if (!isZero(expected, entries.entry->size)) {
             text += "entry " + std::to_string(i) + " is missing\n";
         }
     }
-    return text.empty() ? text : std::string(list.field->name) + ": " + text;
+    return text.empty() ? text : std::string(list.field().name) + ": " + text;
 }
 
 /// What the face makes of a reply against what the named operation makes of it; empty when it is the same.
@@ -155,7 +155,7 @@ std::string differencesIn(const Message& message, std::string_view bytes) {
     const NamedRecord named(message, bytes);
     std::string text;
     for (const ReadList& list : reading.lists) {
-        const std::string_view section = sectionOf(message, *list.field);
+        const std::string_view section = sectionOf(message, list.field());
         if (!section.empty() && timesIn(bytes, message, section) > 1) continue;
         text += differencesOf(list, named.get());
     }

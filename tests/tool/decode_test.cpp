@@ -56,6 +56,14 @@ TEST(Decode, AnUnknownMessageNameIsCode2AndNamesTheKnownOnes) {
     EXPECT_THAT(outcome.error, HasSubstr("get_general_status"));
 }
 
+TEST(Decode, AsksWhichMessageWasMeantByANameThatIsNear) {
+    const Outcome outcome = runTool("decode", "<get_general_staus/>");
+    EXPECT_EQ(outcome.code, 3);
+    EXPECT_EQ(outcome.error,
+              "kvjxml: standard input: the root element \"get_general_staus\" is not that of a known message; did you "
+              "mean \"get_general_status\"?\n");
+}
+
 TEST(Decode, AnUnknownRootIsCode3AndSaysWhich) {
     const Outcome outcome = runTool("decode", "<get_weather><rain>yes</rain></get_weather>");
     EXPECT_EQ(outcome.code, 3);

@@ -215,6 +215,47 @@ TEST_F(Diff, TakesOneReplyFromAPipe) {
     EXPECT_EQ(runTool("diff - -").code, 2);
 }
 
+TEST_F(Diff, TakesWhatCapturesHaveAroundAReply) {
+    const std::string file = (folder_ / "after").string();
+    const auto headed = "HTTP/1.1 200 OK\r\nContent-Type: text/xml\r\n\r\n" + status("<error>2</error>");
+    give(status("<error>1</error>"), headed);
+    Outcome outcome = runTool(words());
+    EXPECT_EQ(outcome.code, 7);
+    EXPECT_THAT(outcome.out, HasSubstr("\n/error: 1 -> 2\n"));
+    EXPECT_EQ(outcome.error, "kvjxml: " + file + ": has header lines of HTTP in front\n");
+
+    std::string wide = "\xFF\xFE";
+    for (const char letter : status("<error>2</error>")) wide.append({letter, '\0'});
+    give(status("<error>1</error>"), wide);
+    outcome = runTool(words());
+    EXPECT_THAT(outcome.out, HasSubstr("\n/error: 1 -> 2\n"));
+    EXPECT_EQ(outcome.error, "kvjxml: " + file + ": is UTF-16, little-endian, by its byte order mark\n");
+}
+
+TEST_F(Diff, TakesTheEncodingThatItIsTold) {
+    const auto named = [](const std::string& name) {
+        return "<configuration><wireless><ssid>" + name + "</ssid></wireless></configuration>";
+    };
+    give(named("Caf\xE9"), named("B\xFCro"));
+    EXPECT_THAT(runTool(words("--encoding latin-1")).out,
+                HasSubstr("\n/wireless/ssid: \"Caf\u00E9\" -> \"B\u00FCro\"\n"));
+    EXPECT_EQ(runTool(words()).code, 4);
+}
+
+TEST_F(Diff, PlacesDamageInTheLinesOfTheCapture) {
+    give(status(""), "HTTP/1.1 200 OK\n\n<get_general_status>\n<error>1</error>");
+    const Outcome outcome = runTool(words());
+    EXPECT_EQ(outcome.code, 4);
+    EXPECT_THAT(outcome.error, HasSubstr("is damaged, compared as far as it goes: line 4, column "));
+}
+
+TEST_F(Diff, AsksWhichMessageWasMeant) {
+    give("<get_general_staus/>", status(""));
+    const Outcome outcome = runTool(words());
+    EXPECT_EQ(outcome.code, 3);
+    EXPECT_THAT(outcome.error, HasSubstr("did you mean \"get_general_status\"?"));
+}
+
 // ---- Where it is printed ----
 
 const std::string twoKeys[] = {"<configuration><wireless><ssid>a</ssid><key>first</key></wireless></configuration>",

@@ -10,8 +10,8 @@
 
 #include "foundation/document.h"
 #include "foundation/reply.h"
+#include "messages/any_reading.h"
 #include "messages/message.h"
-#include "reading.h"
 #include "sample.h"
 #include "tool/tool.h"
 
@@ -42,8 +42,8 @@ TEST(SampleOfEveryMessage, HasNothingThatIsIgnoredOrChanged) {
     for (const Message& message : messages()) {
         for (const std::string_view root : {message.root, message.otherRoot}) {
             if (root.empty()) continue;
-            const Reading reading = readMessage(message, sampleOf(root), Diagnosing::yes);
-            EXPECT_TRUE(reading.isFound && reading.isWhole) << message.name;
+            const AnyReading reading = readAny(message, sampleOf(root), kvjxml::diagnose);
+            EXPECT_TRUE(reading.found && reading.whole) << message.name;
             for (const auto& finding : reading.findings) {
                 ADD_FAILURE() << message.name << ": " << to_string(finding.kind) << ' ' << finding.path << " \""
                               << finding.text << "\" " << finding.detail;
@@ -115,7 +115,7 @@ TEST(SampleOfEveryMessage, HasEachNumberOnce) {
 
 TEST(Sample, HasTwoEntriesOfAList) {
     const std::string text = sampleOf("get_job_list");
-    EXPECT_EQ(readMessage(*std::ranges::find(messages(), "job_list", &Message::name), text).lists.front().count(), 2U);
+    EXPECT_EQ(readAny(*std::ranges::find(messages(), "job_list", &Message::name), text).lists.front().count(), 2U);
 }
 
 TEST(Sample, HasBothCustomCards) {

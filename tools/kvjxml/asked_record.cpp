@@ -3,19 +3,15 @@
 #include <algorithm>
 #include <string>
 
-#include "face/nearest.h"
 #include "field_at.h"
 #include "field_codes.h"
 #include "secrets.h"
+#include "suggestion.h"
 #include "visible_text.h"
 
 namespace kvj::tool {
 
 namespace {
-
-std::string inQuotes(std::string_view text) { return '"' + visible(text) + '"'; }
-
-std::string meant(std::string_view name) { return name.empty() ? "" : "; did you mean " + inQuotes(name) + "?"; }
 
 // Records nest as deep as they are declared, so the recursion ends.
 // NOLINTBEGIN(misc-no-recursion)
@@ -183,7 +179,7 @@ private:
         const std::string word = place.text();
         const auto code = codes.codeOf(word);
         if (!code) {
-            place.refuse("is no word for this field: " + inQuotes(word) + " is none of " + codes.listed() +
+            place.refuse("is no word for this field: \"" + visible(word) + "\" is none of " + codes.listed() +
                          meant(codes.nearest(word)));
         }
         return *code;

@@ -210,6 +210,17 @@ std::string Origin::name() const {
     return name;
 }
 
+Capture readCapture(const std::string& path, const Captures& how) {
+    Capture capture{.origin = {path}, .text = {}, .notes = {}};
+    try {
+        Pieces(path, how.maxSize).next({}, capture.text);
+    } catch (const Failure& failure) {
+        throw Failure(failure.code(), capture.origin.name() + ": " + failure.what());
+    }
+    unwrap(capture, how.encoding);
+    return capture;
+}
+
 void tell(const Origin& origin, std::string_view text) {
     clearProgress();
     std::cerr << "kvjxml: " << origin.name() << ": " << visible(text) << '\n';

@@ -69,6 +69,10 @@ using OnFailure = std::function<void(const Origin& origin, const Failure& failur
 /// Says what failed.
 void tellFailure(const Origin& origin, const Failure& failure);
 
+/// The whole of an input, which is one document.
+/// @throws Failure
+Capture readCapture(const std::string& path, const Captures& how);
+
 /// Gives one document after the other to `action`, in the order of the command line; folders are sorted by name. A
 /// Failure of one of them, thrown while it is read or by `action`, goes to `onFailure`, and the next one follows. All
 /// other exceptions end it.

@@ -6,12 +6,12 @@
 #include <tuple>
 #include <utility>
 
-#include "face/nearest.h"
 #include "face/utf8_reply.h"
 #include "failure.h"
 #include "foundation/element.h"
+#include "known_root.h"
 #include "merged_rows.h"
-#include "reading.h"
+#include "messages/any_reading.h"
 
 namespace kvj::tool {
 
@@ -19,14 +19,6 @@ namespace {
 
 using kvjxml::finding;
 using kvjxml::finding_kind;
-
-std::vector<std::string> rootsIn(std::string_view bytes) {
-    const Utf8Reply document(bytes);
-    if (!document.top() && !bytes.empty()) throw Failure(ExitCode::inputOutput, "is too large to be read");
-    std::vector<std::string> roots;
-    for (const Element root : document.top().children()) roots.emplace_back(root.name());
-    return roots;
-}
 
 /// Adds what one reader found. Several readers may read the same element, each into a field of its own: a fault in it
 /// is told once, for the first of them that has a field.
@@ -52,33 +44,34 @@ void add(std::vector<finding>& all, std::vector<finding> found) {
 
 /// A document of no known message is read as the one that may have been meant: what is wrong with it otherwise is the
 /// same for all.
-CheckedDocument unknownDocument(std::string_view bytes, const std::vector<std::string>& roots) {
-    const std::string first = roots.empty() ? std::string() : roots.front();
-    const auto nearestRoot = nearest(first, messages(), [](const Message& message) { return message.root; });
-    const bool isNear = !nearestRoot.empty();
-    const Message& meant = isNear ? *messagesWithRoot(nearestRoot).front() : messages().front();
-    Reading reading = readMessage(meant, bytes, Diagnosing::yes);
-    if (!isNear) {
+CheckedDocument unknownDocument(std::string_view bytes, std::string_view root) {
+    const std::string_view near = nearestRoot(root);
+    const Message& meant = near.empty() ? messages().front() : *messagesWithRoot(near).front();
+    AnyReading reading = readAny(meant, bytes, kvjxml::diagnose);
+    if (near.empty()) {
         for (finding& one : reading.findings) {
             if (one.kind != finding_kind::unknown_message) continue;
-            one.detail = roots.empty() ? "there is no element" : "no known message has this name";
+            one.detail = root.empty() ? "there is no element" : "no known message has this name";
         }
     }
-    return {
-        .root = {}, .isWhole = reading.isWhole, .findings = std::move(reading.findings), .omitted = reading.omitted};
+    return {.root = {}, .isWhole = reading.whole, .findings = std::move(reading.findings), .omitted = reading.omitted};
 }
 
 }  // namespace
 
 CheckedDocument checkDocument(std::string_view bytes) {
-    const auto roots = rootsIn(bytes);
-    const auto root =
-        std::ranges::find_if(roots, [](const std::string& name) { return !messagesWithRoot(name).empty(); });
-    if (root == roots.end()) return unknownDocument(bytes, roots);
-    CheckedDocument checked{.root = *root, .readers = messagesWithRoot(*root)};
+    CheckedDocument checked;
+    {
+        const Utf8Reply document(bytes);
+        if (!document.top() && !bytes.empty()) throw Failure(ExitCode::inputOutput, "is too large to be read");
+        auto [root, readers] = knownRootIn(document);
+        if (!root) return unknownDocument(bytes, firstRootIn(document));
+        checked.root = root.name();
+        checked.readers = std::move(readers);
+    }
     for (const Message* const reader : checked.readers) {
-        Reading reading = readMessage(*reader, bytes, Diagnosing::yes);
-        checked.isWhole = reading.isWhole;
+        AnyReading reading = readAny(*reader, bytes, kvjxml::diagnose);
+        checked.isWhole = reading.whole;
         checked.omitted = std::max(checked.omitted, reading.omitted);
         add(checked.findings, std::move(reading.findings));
     }

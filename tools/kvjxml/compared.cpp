@@ -69,7 +69,7 @@ using Pair = std::pair<std::size_t, std::size_t>;
 class Alignment {
 public:
     Alignment(const ReadList& before, const ReadList& after)
-        : before_(before), after_(after), entry_(*before.field->entries->entry) {}
+        : before_(before), after_(after), entry_(before.entryField()) {}
 
     std::vector<Pair> pairs() {
         std::size_t first = 0;
@@ -141,7 +141,7 @@ private:
 
 class Comparison {
 public:
-    Comparison(const Reading& before, const Reading& after, const std::function<void(const Difference&)>& tell)
+    Comparison(const AnyReading& before, const AnyReading& after, const std::function<void(const Difference&)>& tell)
         : before_(before), after_(after), tell_(tell) {}
 
     // Records nest as deep as they are declared, so the recursion ends.
@@ -169,7 +169,7 @@ public:
 
 private:
     void compare(const ReadList& before, const ReadList& after, const std::string& pointer) {
-        const Field& entry = *before.field->entries->entry;
+        const Field& entry = before.entryField();
         for (const auto& [i, k] : Alignment(before, after).pairs()) {
             const auto side = [&](const ReadList& list, std::size_t index) -> Side {
                 if (index == none) return {pointer, nullptr};
@@ -187,7 +187,7 @@ private:
     // NOLINTEND(misc-no-recursion)
 
     /// Whether a reply had something for a field. What is in an entry of a list, or is a single bit, always counts.
-    static bool isThere(const Reading& reading, const Field& field, const void* record) {
+    static bool isThere(const AnyReading& reading, const Field& field, const void* record) {
         if (field.type == FieldType::bit) return true;
         const auto* const first = static_cast<const std::byte*>(field.at(record));
         const auto at = static_cast<std::size_t>(first - reading.record.data());
@@ -196,14 +196,14 @@ private:
                std::any_of(first, first + field.size, [](std::byte byte) { return byte != std::byte{}; });
     }
 
-    const Reading& before_;
-    const Reading& after_;
+    const AnyReading& before_;
+    const AnyReading& after_;
     const std::function<void(const Difference&)>& tell_;
 };
 
 }  // namespace
 
-void compare(const Reading& before, const Reading& after, const std::string& pointer,
+void compare(const AnyReading& before, const AnyReading& after, const std::string& pointer,
              const std::function<void(const Difference&)>& tell) {
     const Field& record = before.message->record;
     const std::string inside = record.name.empty() ? pointer : pointer + "/" + std::string(record.name);

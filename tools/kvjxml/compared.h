@@ -6,7 +6,7 @@
 #include <functional>
 #include <string>
 
-#include "reading.h"
+#include "messages/any_reading.h"
 #include "shown_value.h"
 
 namespace kvj::tool {
@@ -26,7 +26,7 @@ struct Difference {
 /// Tells what differs. A field that only one reply had differs too, even where it is 0. Entries of lists are brought
 /// side by side by what they have in common; those without a counterpart are on one side alone.
 /// @param pointer  where the message stands in what decode prints.
-void compare(const Reading& before, const Reading& after, const std::string& pointer,
+void compare(const AnyReading& before, const AnyReading& after, const std::string& pointer,
              const std::function<void(const Difference&)>& tell);
 
 }  // namespace kvj::tool

@@ -12,15 +12,15 @@ namespace kvj::tool {
 
 namespace {
 
-void printEntries(JsonPrinter& json, const GrownList& list, const Showing& showing) {
+void printEntries(JsonPrinter& json, const ReadList& list, const Showing& showing) {
     for (std::size_t i = 0; i < list.count(); ++i) {
         json.entry();
-        print(json, nullptr, *list.field().entries->entry, list.at(i), showing);
+        print(json, nullptr, list.entryField(), list.entry(i), showing);
     }
 }
 
-const GrownList& listIn(const DecodedMessage& decoded, const Field& field) {
-    return *std::ranges::find_if(decoded.lists, [&](const GrownList& each) { return &each.field() == &field; });
+const ReadList& listIn(const DecodedMessage& decoded, const Field& field) {
+    return *std::ranges::find_if(decoded.lists, [&](const ReadList& each) { return &each.field() == &field; });
 }
 
 // ---- Lists of the root: an entry can take 4 KiB, so one is read, printed and forgotten before the next ----
@@ -129,7 +129,7 @@ void printListOf(JsonPrinter& json, const DecodedMessage& decoded, const Field& 
         Entries entries(decoded.root, *list);
         return printList(json, field, countChildren(decoded.root), [&] { entries.print(json, showing); });
     }
-    const GrownList& grown = listIn(decoded, field);
+    const ReadList& grown = listIn(decoded, field);
     printList(json, field, isOfHost ? countChildren(decoded.root) : grown.count(),
               [&] { printEntries(json, grown, showing); });
 }
@@ -191,9 +191,8 @@ void printDocument(JsonPrinter& json, const DecodedDocument& document, const Vie
 void printText(std::ostream& out, const std::string& source, const DecodedDocument& document, const View& view) {
     for (const DecodedMessage& reader : document.readers()) {
         TextPrinter text(out, {view.redacts, reader.sent.get()}, view.colours);
-        const auto viewOfList = [](const GrownList& list) {
-            return ListView{list.field().entries->entry, list.count(),
-                            [&list](std::size_t index) { return list.at(index); }};
+        const auto viewOfList = [](const ReadList& list) {
+            return ListView{&list.entryField(), list.count(), [&list](std::size_t index) { return list.entry(index); }};
         };
         text.begin(source + std::string(reader.message->name));
         if (!document.isWhole()) text.warn("damaged: read as far as it goes");

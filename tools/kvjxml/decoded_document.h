@@ -3,11 +3,7 @@
 #ifndef KVJXML_TOOL_DECODED_DOCUMENT_H
 #define KVJXML_TOOL_DECODED_DOCUMENT_H
 
-#include <kvjxml_v1.h>
-
 #include <cstddef>
-#include <cstdlib>
-
 #include <kvjxml_read.hpp>
 #include <memory>
 #include <set>
@@ -18,38 +14,10 @@
 
 #include "face/utf8_reply.h"
 #include "messages/message.h"
+#include "messages/read_list.h"
 #include "sent.h"
 
 namespace kvj::tool {
-
-/// The entries of a list, as many as the reply has.
-class GrownList {
-public:
-    /// @param sent  is told where the entries are; null for nobody.
-    GrownList(const Field& field, Sent* sent) : field_(&field), name_(field.name), sent_(sent) {}
-
-    /// The list of the record that they stand for.
-    [[nodiscard]] const Field& field() const { return *field_; }
-    [[nodiscard]] std::size_t count() const { return count_; }
-    [[nodiscard]] const void* at(std::size_t index) const { return bytes_.get() + index * entrySize(); }
-
-    /// As the library takes it; the list stays in its place until it is filled.
-    [[nodiscard]] kvjxml_v1_list asTarget();
-
-private:
-    [[nodiscard]] std::size_t entrySize() const { return field_->entries->entry->size; }
-    void* resize(std::size_t count) noexcept;
-
-    struct Free {
-        void operator()(std::byte* bytes) const noexcept { std::free(bytes); }
-    };
-    const Field* field_;
-    std::string name_;
-    Sent* sent_;
-    std::unique_ptr<std::byte, Free> bytes_;
-    std::size_t count_ = 0;
-    std::size_t capacity_ = 0;
-};
 
 /// What one reader made of a document.
 struct DecodedMessage {
@@ -60,7 +28,7 @@ struct DecodedMessage {
     std::unique_ptr<Sent> sent{};
     /// The lists of the record; those of `Message::lists`, which can be read entry by entry, only when they are needed
     /// to count or to keep what was sent.
-    std::vector<GrownList> lists{};
+    std::vector<ReadList> lists{};
 };
 
 /// Whether it is counted what was ignored, changed or lost. Then all lists are in memory.

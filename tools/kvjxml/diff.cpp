@@ -1,18 +1,20 @@
 #include "diff.h"
 
 #include <iostream>
+#include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "compared.h"
+#include "decoded_document.h"
 #include "face/joined.h"
+#include "face/utf8_reply.h"
 #include "failure.h"
-#include "foundation/document.h"
-#include "foundation/reply.h"
+#include "known_root.h"
 #include "kvjxml_version.h"
-#include "merged_rows.h"
-#include "reading.h"
+#include "messages/any_reading.h"
 #include "visible_text.h"
 
 namespace kvj::tool {
@@ -21,45 +23,26 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-/// One of the two replies.
-struct Compared {
-    std::string name;
-    std::string bytes;
-};
-
-Compared readCompared(const Source& source) { return {visible(source.name()), readBytes(source)}; }
-
-/// The readers of the first element that is a known message's root, or of the first one at all.
-std::vector<const Message*> readersOf(const Compared& reply) {
-    const Reply document(reply.bytes.c_str());
-    std::string reason = "there is no XML element in it";
-    for (const Element root : document.top().children()) {
-        auto readers = messagesWithRoot(root.name());
-        if (!readers.empty()) return readers;
-        reason = "the root element \"" + visible(root.name()) + "\" is not that of a known message";
-    }
-    throw Failure(ExitCode::unknownMessage, reply.name + ": " + reason);
+/// The readers of a reply's message.
+std::vector<const Message*> readersOf(const Capture& reply) {
+    const Utf8Reply document(reply.text);
+    auto known = knownRootIn(document);
+    if (known.root) return std::move(known.readers);
+    throw Failure(ExitCode::unknownMessage, reply.origin.name() + ": " + visible(describeUnknown(document)));
 }
 
-Reading readOrFail(const Message& message, const Compared& reply) {
-    Reading reading = readMessage(message, reply.bytes);
-    if (reading.isFound) return reading;
+AnyReading readOrFail(const Message& message, const Capture& reply) {
+    AnyReading reading = readAny(message, reply.text);
+    if (reading.found) return reading;
     throw Failure(ExitCode::unknownMessage,
-                  reply.name + ": there is no \"" + std::string(message.root) + "\" in it, but in the other");
+                  reply.origin.name() + ": there is no \"" + std::string(message.root) + "\" in it, but in the other");
 }
 
-/// Says where a reply is damaged; false when it is whole.
-bool isDamaged(const Reading& reading, const Compared& reply) {
-    if (reading.isWhole) return false;
-    std::string where;
-    for (const auto& finding : readMessage(*reading.message, reply.bytes, Diagnosing::yes).findings) {
-        if (finding.kind != kvjxml::finding_kind::malformed && finding.kind != kvjxml::finding_kind::encoding) continue;
-        where = ": line " + std::to_string(finding.line) + ", column " + std::to_string(finding.column) + ": " +
-                visible(finding.detail);
-        break;
-    }
-    std::cerr << "kvjxml: " << reply.name << ": is damaged, compared as far as it goes" << where << '\n';
-    return true;
+/// Says what has to be said of a reply besides what is in it.
+void tellRemarks(const AnyReading& reading, const Capture& reply) {
+    for (const std::string& note : reply.notes) tell(reply.origin, note);
+    if (reading.whole) return;
+    tell(reply.origin, "is damaged, compared as far as it goes: " + damageIn(reply.text, reply.line));
 }
 
 // ---- What is printed ----
@@ -92,8 +75,8 @@ private:
 
 class TextPrinter : public Printer {
 public:
-    TextPrinter(const Compared& before, const Compared& after, bool isMasked)
-        : Printer(isMasked), before_(before.name), after_(after.name) {}
+    TextPrinter(const Capture& before, const Capture& after, bool isMasked)
+        : Printer(isMasked), before_(before.origin.name()), after_(after.origin.name()) {}
 
 private:
     void print(const Difference& difference, bool isNext) override {
@@ -120,12 +103,12 @@ private:
 
 class JsonLinePrinter : public Printer {
 public:
-    JsonLinePrinter(const Compared& before, const Compared& after, std::string_view root, bool isMasked)
+    JsonLinePrinter(const Capture& before, const Capture& after, std::string_view root, bool isMasked)
         : Printer(isMasked) {
         const Json head{{"schema", 1},
                         {"tool", "kvjxml " KVJXML_VERSION},
-                        {"before", before.name},
-                        {"after", after.name},
+                        {"before", before.origin.file},
+                        {"after", after.origin.file},
                         {"message", root}};
         const std::string text = inJson(head);
         std::cout << text.substr(0, text.size() - 1) << ",\"differences\":[";
@@ -146,7 +129,7 @@ private:
     }
 };
 
-std::unique_ptr<Printer> makePrinter(const DiffOptions& options, const Compared& before, const Compared& after,
+std::unique_ptr<Printer> makePrinter(const DiffOptions& options, const Capture& before, const Capture& after,
                                      std::string_view root) {
     if (options.format == DiffFormat::text) return std::make_unique<TextPrinter>(before, after, options.isMasked);
     return std::make_unique<JsonLinePrinter>(before, after, root, options.isMasked);
@@ -154,21 +137,20 @@ std::unique_ptr<Printer> makePrinter(const DiffOptions& options, const Compared&
 
 }  // namespace
 
-ExitCode diff(const Source& before, const Source& after, const DiffOptions& options) {
-    const Compared was = readCompared(before);
-    const Compared is = readCompared(after);
-    const auto readers = readersOf(was);
-    const std::unique_ptr<Printer> printer = makePrinter(options, was, is, readers.front()->root);
+ExitCode diff(const Capture& before, const Capture& after, const DiffOptions& options) {
+    const auto readers = readersOf(before);
+    const std::unique_ptr<Printer> printer = makePrinter(options, before, after, readers.front()->root);
     bool isAnyDamaged = false;
     for (const Message* const message : readers) {
-        const Reading one = readOrFail(*message, was);
-        const Reading other = readOrFail(*message, is);
+        const AnyReading was = readOrFail(*message, before);
+        const AnyReading is = readOrFail(*message, after);
         if (message == readers.front()) {
-            const bool wasDamaged = isDamaged(one, was);
-            isAnyDamaged = isDamaged(other, is) || wasDamaged;
+            tellRemarks(was, before);
+            tellRemarks(is, after);
+            isAnyDamaged = !was.whole || !is.whole;
         }
         const std::string pointer = readers.size() == 1 ? std::string() : joined({"/", message->operation});
-        compare(one, other, pointer, [&](const Difference& difference) { printer->print(difference); });
+        compare(was, is, pointer, [&](const Difference& difference) { printer->print(difference); });
     }
     printer->end(isAnyDamaged);
     if (isAnyDamaged) return ExitCode::damaged;

@@ -3,8 +3,8 @@
 #ifndef KVJXML_TOOL_DIFF_H
 #define KVJXML_TOOL_DIFF_H
 
+#include "captures.h"
 #include "exit_code.h"
-#include "input.h"
 
 namespace kvj::tool {
 
@@ -18,7 +18,7 @@ struct DiffOptions {
 /// Prints each field that differs.
 /// @return `damaged` where one of them is, as far as it could be read; else `different` or `done`.
 /// @throws Failure
-ExitCode diff(const Source& before, const Source& after, const DiffOptions& options);
+ExitCode diff(const Capture& before, const Capture& after, const DiffOptions& options);
 
 }  // namespace kvj::tool
 

@@ -11,28 +11,29 @@ namespace kvj::tool {
 
 Run addDiff(CLI::App& verb) {
     struct Options {
-        Source before;
-        Source after;
-        DiffFormat format = DiffFormat::text;
-        bool redacts = false;
+        std::string before;
+        std::string after;
+        Captures how;
+        DiffOptions diff;
     };
     const auto options = std::make_shared<Options>();
-    verb.add_option("BEFORE", options->before.path, "A reply, in UTF-8; - for standard input")->required();
-    verb.add_option("AFTER", options->after.path, "Another of the same message")->required();
-    verb.add_option("--format", options->format, "text, for eyes, or json: one object on one line")
+    verb.add_option("BEFORE", options->before, "A reply; - for standard input")->required();
+    verb.add_option("AFTER", options->after, "Another of the same message")->required();
+    verb.add_option("--format", options->diff.format, "text, for eyes, or json: one object on one line")
         ->option_text("text|json")
         ->transform(CLI::CheckedTransformer(
             std::map<std::string, DiffFormat>{{"text", DiffFormat::text}, {"json", DiffFormat::json}}));
-    options->redacts = writesToTerminal();
-    verb.add_flag("--redact,!--no-redact", options->redacts,
+    options->diff.isMasked = writesToTerminal();
+    verb.add_flag("--redact,!--no-redact", options->diff.isMasked,
                   "Mask keys, passkeys and magnetic tracks; so it is on a terminal unless told otherwise");
-    addMaxSize(verb, options->before.maxSize);
+    addEncoding(verb, options->how.encoding);
+    addMaxSize(verb, options->how.maxSize);
     return [options] {
-        if (options->before.path == "-" && options->after.path == "-") {
+        if (options->before == "-" && options->after == "-") {
             throw Failure(ExitCode::usage, "only one of the two can be standard input");
         }
-        options->after.maxSize = options->before.maxSize;
-        return diff(options->before, options->after, {options->format, options->redacts});
+        return diff(readCapture(options->before, options->how), readCapture(options->after, options->how),
+                    options->diff);
     };
 }
 

@@ -1,12 +1,7 @@
 #include "read_back.h"
 
-#include <kvjxml_v1.h>
-
 #include <algorithm>
 #include <cstring>
-#include <deque>
-#include <memory>
-#include <new>
 #include <set>
 #include <span>
 #include <vector>
@@ -16,7 +11,7 @@
 #include "fields/differences.h"
 #include "foundation/convert.h"
 #include "foundation/document.h"
-#include "kvjxml_read.hpp"
+#include "messages/any_reading.h"
 #include "messages/message.h"
 #include "messages/zeroed_record.h"
 
@@ -32,56 +27,21 @@ const Message* readerOf(const Request& request) {
     return reader == messages().end() ? nullptr : &*reader;
 }
 
-/// The entries of a list that is read.
-struct Entries {
-    const Field* list;
-    std::string name{list->name};  ///< terminated
-    std::vector<std::byte> bytes{};
-
-    [[nodiscard]] std::size_t size() const { return list->entries->entry->size; }
-    static void* resize(void* entries, std::size_t count) {
-        auto& it = *static_cast<Entries*>(entries);
-        try {
-            it.bytes.resize(count * it.size());
-        } catch (const std::bad_alloc&) {
-            return nullptr;
-        }
-        return it.bytes.data();
-    }
-};
-
 /// A request as the reader of its message sees it.
 class Seen {
 public:
     Seen(const Message& message, const std::string& text)
-        : record_(message, message.record.size), carried_(message.record.size / 8 + 1) {
-        std::vector<kvjxml_v1_list> lists;
+        : reading_(readAny(message, text, kvjxml::diagnose)), record_(message, message.record.size) {
         for (const Field& field : message.record.record->fields) {
-            if (field.type != FieldType::list || field.entries->storage == Storage::inRecord) continue;
-            entries_.push_back({.list = &field});
-            Entries& entries = entries_.back();
-            lists.push_back({entries.name.c_str(), &entries, Entries::resize});
+            const bool isInRecord = field.type != FieldType::list || field.entries->storage == Storage::inRecord;
+            isInRecord ? copy(field) : hand(*reading_.list(field));
         }
-        char root[64];
-        const kvjxml_v1_target target{record_.get(), message.record.size, carried_.data(), lists.data(), lists.size(),
-                                      root,          sizeof root};
-        kvjxml_v1_findings* findings = nullptr;
-        const auto number = static_cast<int>(&message - messages().data());
-        const int result = kvjxml_v1_read(number, text.data(), text.size(), &target, &findings);
-        const std::unique_ptr<kvjxml_v1_findings, void (*)(kvjxml_v1_findings*)> owner(findings,
-                                                                                       kvjxml_v1_findings_release);
-        if ((result & kvjxml_v1_no_memory) != 0) throw std::bad_alloc();
-        for (Entries& entries : entries_) hand(entries);
         for (const HostList& list : message.lists) {
             if (list.isOneEntry) unlike_.insert(nameOf({message.record.record, list.field}));
         }
-        const std::size_t count = findings == nullptr ? 0 : kvjxml_v1_findings_count(findings);
-        for (std::size_t i = 0; i < count; ++i) {
-            kvjxml_v1_finding finding{};
-            kvjxml_v1_findings_at(findings, i, &finding);
-            const auto kind = static_cast<kvjxml::finding_kind>(finding.kind);
-            const bool isUnlike = kind == kvjxml::finding_kind::unknown_word || kind == kvjxml::finding_kind::repeated;
-            if (isUnlike) unlike_.insert(finding.field);
+        for (const kvjxml::finding& found : reading_.findings) {
+            using enum kvjxml::finding_kind;
+            if (found.kind == unknown_word || found.kind == repeated) unlike_.insert(found.field);
         }
     }
 
@@ -89,7 +49,7 @@ public:
     [[nodiscard]] bool carries(const void* field) const {
         const auto offset =
             static_cast<std::size_t>(static_cast<const std::byte*>(field) - static_cast<const std::byte*>(record()));
-        return (carried_[offset / 8] >> offset % 8 & 1U) != 0;
+        return reading_.has(offset);
     }
     /// Whether the printer takes a field in another way than it sends it: as another word, in two elements of one
     /// name, or as a list of which readers keep one entry. Nobody can tell then.
@@ -100,20 +60,23 @@ private:
         return std::string(at.record->name).append("::").append(at.field->name);
     }
 
-    void hand(Entries& entries) {
-        const auto& list = *entries.list->entries;
-        if (list.storage == Storage::ofHost) {
-            list.setCount(record_.get(), static_cast<std::int64_t>(entries.bytes.size() / entries.size()));
-            return list.provide(record_.get(), entries.bytes.data());
+    void copy(const Field& field) {
+        if (field.type == FieldType::bit) return setFlag(field, record_.get(), flagOf(field, reading_.record.data()));
+        std::memcpy(field.in(record_.get()), field.at(reading_.record.data()), field.size);
+    }
+    void hand(const ReadList& list) {
+        const Entries& entries = *list.field().entries;
+        if (entries.storage == Storage::ofHost) {
+            entries.setCount(record_.get(), static_cast<std::int64_t>(list.count()));
+            return entries.provide(record_.get(), const_cast<void*>(list.entry(0)));  // Nobody writes to it.
         }
-        for (std::size_t at = 0; at < entries.bytes.size(); at += entries.size()) {
-            std::memcpy(list.append(record_.get()), entries.bytes.data() + at, entries.size());
+        for (std::size_t i = 0; i < list.count(); ++i) {
+            std::memcpy(entries.append(record_.get()), list.entry(i), entries.entry->size);
         }
     }
 
-    std::deque<Entries> entries_;
+    AnyReading reading_;
     ZeroedRecord<Message> record_;
-    std::vector<unsigned char> carried_;
     std::set<std::string> unlike_;
 };
 

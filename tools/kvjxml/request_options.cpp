@@ -5,8 +5,8 @@
 #include <map>
 #include <string_view>
 
-#include "face/nearest.h"
 #include "sections.h"
+#include "suggestion.h"
 #include "visible_text.h"
 
 namespace kvj::tool {
@@ -23,10 +23,8 @@ CLI::Validator oneOf(const NamedNumbers& numbers) {
                 if (found == numbers.end()) {
                     std::string reason = "\"" + visible(text) + "\" is none of";
                     for (const auto& [name, number] : numbers) reason.append(" ").append(name);
-                    const auto meant =
-                        nearest(text, numbers, [](const auto& named) -> std::string_view { return named.first; });
-                    if (!meant.empty()) reason.append("; did you mean \"").append(meant).append("\"?");
-                    return reason;
+                    return reason + meant(nearest(text, numbers,
+                                                  [](const auto& named) -> std::string_view { return named.first; }));
                 }
                 text = std::to_string(found->second);
                 return std::string();

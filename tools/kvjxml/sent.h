@@ -12,6 +12,7 @@
 
 #include "foundation/watch.h"
 #include "messages/message.h"
+#include "messages/read_list.h"
 
 namespace kvj::tool {
 
@@ -23,7 +24,7 @@ struct SentValue {
 };
 
 /// Told of each element while a message is read, it keeps what the fields were read from.
-class Sent final : public Watch::Diagnosis {
+class Sent final : public Watch::Diagnosis, public EntryWatch {
 public:
     /// @param record  that of the message, which outlives it as well.
     Sent(const Message& message, const void* record) : message_(&message), record_(record) {}
@@ -42,10 +43,8 @@ public:
     /// Whether the reply carried any field that is stored there.
     [[nodiscard]] bool knows(const void* memory, std::size_t size) const;
 
-    /// Entries of a list are elsewhere now.
-    void move(std::uintptr_t from, std::size_t size, const void* to);
-    /// Entries of a list are no more.
-    void forget(const void* first, std::size_t size);
+    void move(std::uintptr_t from, std::size_t size, const void* to) override;
+    void forget(const void* first, std::size_t size) override;
 
 private:
     /// A record and the first of its fields have the same address.

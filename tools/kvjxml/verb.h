@@ -5,6 +5,7 @@
 
 #include <CLI/CLI.hpp>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -41,6 +42,9 @@ Run addTemplate(CLI::App& verb);
 
 /// The option of every verb that limits its input.
 void addMaxSize(CLI::App& verb, std::uint64_t& maxSize);
+
+/// Adds `--encoding`.
+void addEncoding(CLI::App& verb, std::optional<Encoding>& encoding);
 /// The documents that a verb reads, see captures.h.
 /// @param captures  outlives the command line.
 void addCaptures(CLI::App& verb, const std::string& content, Captures& captures);

@@ -1,4 +1,4 @@
-// Readings of any message, as the tool makes them.
+// Readings of any message, by what is known of it at run time.
 #include <StatusRecords.h>
 #include <gtest/gtest.h>
 
@@ -8,30 +8,29 @@
 #include <kvjxml_read.hpp>
 #include <string>
 
-#include "reading.h"
+#include "messages/any_reading.h"
 #include "support/files.h"
 
 namespace {
 
 using namespace kvj;
-using namespace kvj::tool;
 
 const Message& messageOf(std::string_view name) { return *std::ranges::find(messages(), name, &Message::name); }
 std::string sampleOf(std::string_view root) {
     return tests::contentOf(std::string(KVJXML_REPLIES) + "/" + std::string(root) + ".xml");
 }
 
-TEST(Reading, OfEverySampleIsFoundAndWhole) {
+TEST(AnyReading, OfEverySampleIsFoundAndWhole) {
     for (const Message& message : messages()) {
-        const Reading reading = readMessage(message, sampleOf(message.root));
-        EXPECT_TRUE(reading.isFound && reading.isWhole) << message.name;
+        const AnyReading reading = readAny(message, sampleOf(message.root));
+        EXPECT_TRUE(reading.found && reading.whole) << message.name;
         EXPECT_TRUE(reading.findings.empty()) << message.name;
     }
 }
 
-TEST(Reading, HasTheRecordThatHostsGet) {
+TEST(AnyReading, HasTheRecordThatHostsGet) {
     const std::string reply = sampleOf("get_general_status");
-    const Reading reading = readMessage(messageOf("general_status"), reply);
+    const AnyReading reading = readAny(messageOf("general_status"), reply);
     const auto expected = kvjxml::read<kvjxml::messages::general_status>(reply);
     ASSERT_TRUE(expected);
     Kavrin::KVGeneralStatus record{};
@@ -42,51 +41,51 @@ TEST(Reading, HasTheRecordThatHostsGet) {
     EXPECT_EQ(record.jobsDoneOk, expected->jobsDoneOk);
 }
 
-TEST(Reading, TellsWhichFieldsTheReplyCarried) {
-    const Reading reading =
-        readMessage(messageOf("general_status"), "<get_general_status><alarms>0</alarms></get_general_status>");
+TEST(AnyReading, TellsWhichFieldsTheReplyCarried) {
+    const AnyReading reading =
+        readAny(messageOf("general_status"), "<get_general_status><alarms>0</alarms></get_general_status>");
     using Record = Kavrin::KVGeneralStatus;
     EXPECT_TRUE(reading.has(offsetof(Record, alarms), sizeof Record::alarms));
     EXPECT_FALSE(reading.has(offsetof(Record, printerState), sizeof Record::printerState));
 }
 
-TEST(Reading, HasEveryEntryOfALongList) {
+TEST(AnyReading, HasEveryEntryOfALongList) {
     std::string reply = "<get_job_list>";
     for (int id = 1; id <= 100; ++id) reply += "<job><action_id>" + std::to_string(id) + "</action_id></job>";
     const Message& message = messageOf("job_list");
-    const Reading reading = readMessage(message, reply + "</get_job_list>");
+    const AnyReading reading = readAny(message, reply + "</get_job_list>");
     ASSERT_EQ(reading.lists.size(), 1U);
     const ReadList& jobs = reading.lists.front();
-    EXPECT_EQ(reading.list(*jobs.field), &jobs);
+    EXPECT_EQ(reading.list(jobs.field()), &jobs);
     EXPECT_EQ(reading.list(message.record), nullptr);
     ASSERT_EQ(jobs.count(), 100U);
     Kavrin::_KVJobInfo last{};
-    ASSERT_EQ(jobs.entrySize(), sizeof last);
+    ASSERT_EQ(jobs.entryField().size, sizeof last);
     std::memcpy(&last, jobs.entry(99), sizeof last);
     EXPECT_EQ(last.actionId, 100);
 }
 
-TEST(Reading, OfAnotherMessageNamesTheRoot) {
-    const Reading reading = readMessage(messageOf("job_status"), "<get_weather/>");
-    EXPECT_FALSE(reading.isFound);
-    EXPECT_TRUE(reading.isWhole);
+TEST(AnyReading, OfAnotherMessageNamesTheRoot) {
+    const AnyReading reading = readAny(messageOf("job_status"), "<get_weather/>");
+    EXPECT_FALSE(reading.found);
+    EXPECT_TRUE(reading.whole);
     EXPECT_EQ(reading.root, "get_weather");
 }
 
-TEST(Reading, OfACutReplyIsNotWholeAndTellsWhereItEnds) {
+TEST(AnyReading, OfACutReplyIsNotWholeAndTellsWhereItEnds) {
     const std::string reply = "<get_job_status><action_id>7</act";
-    const Reading reading = readMessage(messageOf("job_status"), reply, Diagnosing::yes);
-    EXPECT_TRUE(reading.isFound);
-    EXPECT_FALSE(reading.isWhole);
+    const AnyReading reading = readAny(messageOf("job_status"), reply, kvjxml::diagnose);
+    EXPECT_TRUE(reading.found);
+    EXPECT_FALSE(reading.whole);
     ASSERT_EQ(reading.findings.size(), 1U);
     EXPECT_EQ(reading.findings[0].kind, kvjxml::finding_kind::malformed);
     EXPECT_EQ(reading.findings[0].path, "/get_job_status/action_id");
 }
 
-TEST(Reading, CountsTheFindingsThatAreTooMany) {
+TEST(AnyReading, CountsTheFindingsThatAreTooMany) {
     std::string reply = "<get_job_status>";
     for (int i = 0; i < 10'005; ++i) reply += "<x/>";
-    const Reading reading = readMessage(messageOf("job_status"), reply + "</get_job_status>", Diagnosing::yes);
+    const AnyReading reading = readAny(messageOf("job_status"), reply + "</get_job_status>", kvjxml::diagnose);
     EXPECT_EQ(reading.findings.size(), 10'000U);
     EXPECT_EQ(reading.omitted, 5U);
 }
