@@ -136,6 +136,61 @@ TEST(EncodeChanges, WhatIsChosenToBeLeftOutNeedNotBeGiven) {
     expectSent("configuration --mask 0xFFFFFF --card 2", card, "<description>Visitor badge, thin</description>");
 }
 
+// ---- What is sent under another name, or is kept elsewhere ----
+
+TEST(EncodeChanges, BothNetworksAreComparedThoughTheyAreSentUnderOneName) {
+    const json networks = {{"ethernet", sample("configuration")["ethernet"]},
+                           {"wireless", sample("configuration")["wireless"]}};
+    expectSent("configuration --sections ethernet,wireless", networks, "<ssid>");
+    for (const std::string name : {"ethernet", "wireless"}) {
+        json other = networks;
+        other[name]["dhcp"] = !networks[name]["dhcp"].get<bool>();
+        expectSent("configuration --sections ethernet,wireless", other, "<ssid>");
+    }
+    // What a reader makes of a channel that does not fit is told of the wireless network, not of the wired one.
+    json wide = networks;
+    wide["wireless"]["ssid"] = "two  blanks";
+    expectChange("configuration --sections ethernet,wireless", wide,
+                 change("/wireless/ssid", "two  blanks", "two  blanks"), "<ssid>two  blanks</ssid>");
+}
+
+TEST(EncodeChanges, ACustomCardThatThePrinterWouldKeepInTheOtherPlaceIsNamed) {
+    json cards = {{"customCard1", sample("configuration")["customCard1"]},
+                  {"customCard2", sample("configuration")["customCard2"]}};
+    // Settings with a fraction are sent as their maximum, which is not the point here.
+    for (const char* speed : {"inputSingle", "outputSingle"})
+        cards["customCard1"]["transferSpeeds"][speed]["value"] = 3.5;
+    cards["customCard1"]["laminatorAdjustments"]["speedAdjust"]["value"] = 1;
+    expectSent("configuration --sections cards", cards, "<description>Custom 1</description>");
+    json other = cards;
+    other["customCard1"]["description"] = "Badge";
+    expectChange("configuration --sections cards", other, change("/customCard1", "customCard1", "customCard2"),
+                 "<description>Badge</description>");
+    other = cards;
+    other["customCard2"]["description"] = "Custom 1";
+    expectChange("configuration --sections cards", other, change("/customCard2", "customCard2", "customCard1"),
+                 "<description>Custom 1</description>");
+}
+
+TEST(EncodeChanges, AWordThatIsAnotherFieldsIsNamed) {
+    json caps = sample("capabilities");
+    caps["magHeadType"] = 2;
+    expectChange("capabilities", caps, change("/magHeadType", "2", "1_side"), "<mag_encoder>1_side</mag_encoder>");
+}
+
+TEST(EncodeChanges, AChannelThatIsAlwaysUsbIsNamedWhenAnotherIsAsked) {
+    json encoder = {{"internalEncoder", sample("capabilities")["internalEncoder"]}};
+    encoder["internalEncoder"]["contactlessEncoder"] = 1;
+    encoder["internalEncoder"]["commsChannel"] = "usb";
+    expectSent("capabilities --mode encoder", encoder, "<comms_channel>usb_2_0</comms_channel>");
+    for (const int channel : {0, 1}) {
+        encoder["internalEncoder"]["commsChannel"] = channel;
+        expectChange("capabilities --mode encoder", encoder,
+                     change("/internalEncoder/commsChannel", std::to_string(channel), "usb_2_0"),
+                     "<comms_channel>usb_2_0</comms_channel>");
+    }
+}
+
 // ---- Decoded and encoded, unchanged ----
 
 template <class Reading, class Compose>
@@ -256,6 +311,8 @@ TEST(EncodeChanges, OnlyTheLastDevicePortIsReadBackButAllAreSent) {
     caps["hostPorts"].erase(2);
     caps["graphicFormats"].erase(2);
     caps["internalEncoder"] = {{"contactlessEncoder", 1}, {"contactEncoding", true}};
+    for (const char* name : {"magHeadType", "magStripeLocation"})
+        caps.erase(name);  // Their elements are the laminator's.
     caps["devicePorts"] = {{{"portId", 1}, {"portType", 1}}, {{"portId", 2}, {"portType", 0}}};
     expectSent("capabilities", caps, "<port_id>2</port_id>");
 }

@@ -151,7 +151,7 @@ TEST(EncodeRecord, ANumberWithAPointHasToFit) {
 TEST(EncodeCapabilities, TheModesTakeOneEncoderAlone) {
     EXPECT_EQ(runTool("encode capabilities --mode mag", R"({"magHeadType":2})").out,
               declaration + "<capabilities>\n    <mag_encoder>aamva</mag_encoder>\n</capabilities>\n");
-    const std::string encoder = R"({"internalEncoder":{"commsChannel":0,"contactEncoding":true,"contactlessEncoder":1,)"
+    const std::string encoder = R"({"internalEncoder":{"commsChannel":2,"contactEncoding":true,"contactlessEncoder":1,)"
                                 R"("contactlessEncoder2":0,"contactStation":true}})";
     EXPECT_EQ(runTool("encode capabilities --mode encoder", encoder).out,
               declaration +
