@@ -112,6 +112,19 @@ TEST(EncodeChanges, WhatADamagedReplyLeftIsNotSent) {
     expectSent("configuration --sections standby_timeout", {{"damaged", false}, {"standbyTimeout", 15}}, ">15<");
 }
 
+TEST(EncodeChanges, ALineOfManyIsTakenForItsRecord) {
+    const std::string whole = reply("configuration");
+    const std::string options = "configuration --sections wireless,ethernet";
+    const json record = json::parse(runTool("decode", whole).out);
+    const Outcome expected = runTool("encode " + options, record.dump());
+    ASSERT_EQ(expected.code, 0) << expected.error;
+    expectSent(options, json::parse(runTool("decode --format jsonl --words", whole).out), expected.out);
+    expectRefused(options, json::parse(runTool("decode --format jsonl", whole.substr(0, whole.size() / 2)).out),
+                  "\"/damaged\" says that the reply was damaged: what it did not say would be sent as zeros");
+    expectRefused(options, json::parse(runTool("decode --format jsonl", "<get_weather/>").out),
+                  "\"/error\" says that there was no document of a known message");
+}
+
 TEST(EncodeChanges, WhatASectionWritesHasToBeGivenAndNothingElse) {
     const json whole = wireless("country", "DE");
     for (const auto& [name, value] : whole["wireless"].items()) {

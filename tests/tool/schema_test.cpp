@@ -33,8 +33,11 @@ Json propertyOf(const std::string& root, const std::string& pointer) {
 /// Schemas and documents in a folder, and what the validator says of them.
 class Validated : public testing::Test {
 protected:
-    void decodeTo(const std::string& name, const std::string& reply) const {
-        write(folder_ / name, runTool("decode", reply).out);
+    void decodeTo(const std::string& name, const std::string& reply, const std::string& options = "") const {
+        write(folder_ / name, runTool("decode" + options, reply).out);
+    }
+    void give(const std::string& name, const std::string& root, const tool::SchemaForm& form) const {
+        write(folder_ / (name + ".schema"), tool::schemaOf(root, form).dump());
     }
     [[nodiscard]] Outcome validate() const {
         return runShell(std::string(KVJXML_VALIDATE " ") + (folder_ / "").string());
@@ -62,6 +65,45 @@ TEST_F(Validated, WhatDecodePrintsOfEveryMessageIsAllowed) {
         write(folder_ / ("all." + root), contentOf(folder_ / (root + ".reply")));
     }
     decodeTo("get_general_status.word", "<get_general_status><printer_state>odd</printer_state></get_general_status>");
+    const Outcome outcome = validate();
+    if (outcome.code == 77) GTEST_SKIP() << "python3-jsonschema is not installed";
+    EXPECT_EQ(outcome.code, 0) << outcome.out << outcome.error;
+}
+
+TEST_F(Validated, EveryFormOfWhatDecodePrintsIsAllowed) {
+    const struct {
+        const char* name;
+        const char* options;
+        tool::SchemaForm form;
+    } forms[] = {
+        {"words", " --words", {.words = true}},
+        {"lines", " --format jsonl", {.lines = true}},
+        {"both", " --format jsonl --words", {.words = true, .lines = true}},
+    };
+    std::set<std::string_view> roots;
+    for (const auto& [name, options, form] : forms) give(std::string(name) + "-all", "", form);
+    for (const Message& message : messages()) {
+        if (!roots.insert(message.root).second) continue;
+        const std::string root(message.root);
+        const std::string reply = replyOf(root);
+        std::ostringstream sample;
+        tool::writeSample(sample, root);
+        for (const auto& [name, options, form] : forms) {
+            const std::string schema = name + ("-" + root);
+            give(schema, root, form);
+            decodeTo(schema + ".reply", reply, options);
+            decodeTo(schema + ".sample", sample.str(), options);
+            decodeTo(schema + ".empty", "<" + root + "/>", options);
+            decodeTo(schema + ".cut", reply.substr(0, reply.size() - 5), options);
+            write(folder_ / (std::string(name) + "-all." + root), contentOf(folder_ / (schema + ".reply")));
+        }
+    }
+    const std::string odd =
+        "<get_general_status><printer_state>odd</printer_state><error>318abc</error></get_general_status>";
+    for (const auto& [name, options, form] : forms) {
+        decodeTo(std::string(name) + "-get_general_status.odd", odd, options);
+        if (form.lines) decodeTo(std::string(name) + "-all.error", "<get_weather/>", options);
+    }
     const Outcome outcome = validate();
     if (outcome.code == 77) GTEST_SKIP() << "python3-jsonschema is not installed";
     EXPECT_EQ(outcome.code, 0) << outcome.out << outcome.error;
@@ -137,6 +179,23 @@ TEST(Schema, HasEachReaderOfADocumentThatSeveralRead) {
     EXPECT_EQ(schema("get_count")["required"], Json({"ParseCardCount", "ParseCleanLogCount"}));
 }
 
+TEST(Schema, OfWordsHasTheCodeWithItsWord) {
+    const Json with = Json::parse(tool::schemaOf("get_general_status", {.words = true}).dump());
+    const Json& state = with["properties"]["printerState"];
+    EXPECT_EQ(state["required"], Json({"code"}));
+    EXPECT_EQ(state["properties"]["code"]["oneOf"], propertyOf("get_general_status", "/properties/printerState/oneOf"));
+    EXPECT_EQ(state["properties"]["word"]["type"], "string");
+    EXPECT_EQ(with["properties"]["error"]["anyOf"][1]["required"], Json({"value", "sent"}));
+}
+
+TEST(Schema, OfLinesHasTheRecordOrAnErrorInItsPlace) {
+    const Json lines = Json::parse(tool::schemaOf("get_general_status", {.lines = true}).dump());
+    EXPECT_EQ(lines["oneOf"][0]["properties"]["record"]["properties"]["printerState"],
+              propertyOf("get_general_status", "/properties/printerState"));
+    EXPECT_EQ(lines["oneOf"][0]["properties"]["message"]["const"], "get_general_status");
+    EXPECT_EQ(lines["oneOf"][1]["required"], Json({"schema", "source", "error"}));
+}
+
 TEST(Schema, AloneIsThatOfAllMessages) {
     const Json all = schema("");
     for (const Message& message : messages()) EXPECT_TRUE(all["$defs"].contains(message.root)) << message.root;
@@ -146,6 +205,10 @@ TEST(Schema, AloneIsThatOfAllMessages) {
 TEST(Schema, IsPrinted) {
     EXPECT_EQ(Json::parse(runTool("schema get_job_status").out), schema("get_job_status"));
     EXPECT_EQ(Json::parse(runTool("schema").out), schema(""));
+    EXPECT_EQ(Json::parse(runTool("schema --words --format jsonl").out),
+              Json::parse(tool::schemaOf("", {.words = true, .lines = true}).dump()));
+    EXPECT_EQ(Json::parse(runTool("schema --format json").out), schema(""));
+    EXPECT_EQ(runTool("schema --xml --words").code, 2);
     const Outcome wrong = runTool("schema get_jb_status");
     EXPECT_EQ(wrong.code, 2);
     EXPECT_THAT(wrong.error, HasSubstr("did you mean \"get_job_status\"?"));

@@ -1,5 +1,7 @@
 #include "request_json.h"
 
+#include <utility>
+
 #include "checked_json.h"
 #include "failure.h"
 #include "field_at.h"
@@ -51,18 +53,29 @@ void dropHelp(json& value) {
     }
 }
 
+void refuseDamaged(const json& fields, const std::string& source) {
+    if (!fields.is_object() || !fields.contains("damaged") || fields["damaged"] == false) return;
+    refuse(source, json::json_pointer("/damaged"),
+           "says that the reply was damaged: what it did not say would be sent as zeros");
+}
+
+/// The record of a line as `decode --format jsonl` prints it; anything else stays what it is.
+json withoutLine(json fields, const std::string& source) {
+    if (!fields.is_object() || !fields.contains("schema") || !fields.contains("source")) return fields;
+    if (fields.contains("error")) {
+        refuse(source, json::json_pointer("/error"), "says that there was no document of a known message");
+    }
+    refuseDamaged(fields, source);
+    return fields.contains("record") ? json(std::move(fields["record"])) : fields;
+}
+
 }  // namespace
 
 json requestJson(const std::string& text, const std::string& source, const std::vector<std::string>& edits,
                  const RecordType& record) {
-    json fields = checkedJson(text, source);
-    if (fields.is_object() && fields.contains("damaged")) {
-        if (fields["damaged"] != false) {
-            refuse(source, json::json_pointer("/damaged"),
-                   "says that the reply was damaged: what it did not say would be sent as zeros");
-        }
-        fields.erase("damaged");
-    }
+    json fields = withoutLine(checkedJson(text, source), source);
+    refuseDamaged(fields, source);
+    if (fields.is_object()) fields.erase("damaged");
     if (fields.is_structured()) dropHelp(fields);
     for (const std::string& change : edits) edit(fields, change, record);
     return fields;

@@ -12,6 +12,7 @@
 
 #include "code_words.h"
 #include "field_comments.h"
+#include "field_rows.h"
 #include "merged_rows.h"
 
 namespace kvj::tool {
@@ -141,9 +142,9 @@ Json number(const Field& field, const Rows& rows) {
 // Records nest as deep as they are declared, so the recursion ends.
 // NOLINTBEGIN(misc-no-recursion)
 
-Json value(const Field& field, const Rows& rows);
+Json value(const RecordType* around, const Field& field, const Rows& rows, const SchemaForm& form);
 
-Json object(const RecordType& record, const Rows& rows) {
+Json object(const RecordType& record, const Rows& rows, const SchemaForm& form) {
     Json properties = Json::object();
     Json required = Json::array();
     for (const Field& field : record.fields) {
@@ -156,14 +157,33 @@ Json object(const RecordType& record, const Rows& rows) {
         Json schema = Json::object();
         const std::string_view comment = commentOf(record.name, field.name);
         if (!comment.empty()) schema["description"] = comment;
-        schema.update(value(field, rowsOf(field, rows)));
+        schema.update(value(&record, field, rowsOf(field, rows), form));
         properties[std::string(field.name)] = schema;
         required.push_back(field.name);
     }
     return {{"type", "object"}, {"properties", properties}, {"required", required}, {"additionalProperties", false}};
 }
 
-Json value(const Field& field, const Rows& rows) {
+/// Of a value beside which something may stand.
+Json objectOf(std::string_view name, const Json& plain, const Json& more, const Json& required) {
+    Json properties{{std::string(name), plain}};
+    properties.update(more);
+    return {{"type", "object"}, {"properties", properties}, {"required", required}, {"additionalProperties", false}};
+}
+
+/// A value with its words, and with what was sent in its place.
+Json withWords(const Json& plain, bool isCode) {
+    const Json text{{"type", "string"}};
+    Json more{{"sent", {{"description", "what the printer sent, where it is not what was read"}, {"type", "string"}}}};
+    if (!isCode) return {{"anyOf", {plain, objectOf("value", plain, more, {"value", "sent"})}}};
+    more["word"] = {{"description", "the word that the printer sent for the code"}, {"type", "string"}};
+    more["words"] = {{"description", "a word for each bit of the code"}, {"type", "array"}, {"items", text}};
+    return objectOf("code", plain, more, {"code"});
+}
+
+bool hasWords(const Description* row) { return !row->words.name.empty(); }
+
+Json plainValue(const Field& field, const Rows& rows) {
     switch (field.type) {
         case FieldType::flag:
         case FieldType::bit:
@@ -181,32 +201,45 @@ Json value(const Field& field, const Rows& rows) {
         case FieldType::hostText:
             return {{"type", {"string", "null"}}};
         case FieldType::record:
-            return object(*field.record, rowsInside(rows));
-        case FieldType::list: {
-            const Field& entry = *field.entries->entry;
-            const Rows entries = rowsOfEntries(rows);
-            const bool isRecord = entry.type == FieldType::record;
-            return {{"type", "array"}, {"items", isRecord ? object(*entry.record, entries) : value(entry, entries)}};
-        }
+        case FieldType::list:
+            break;
     }
     return {};
 }
 
+Json value(const RecordType* around, const Field& field, const Rows& rows, const SchemaForm& form) {
+    if (field.type == FieldType::record) return object(*field.record, rowsInside(rows), form);
+    if (field.type == FieldType::list) {
+        const Field& entry = *field.entries->entry;
+        const Rows entries = rowsOfEntries(rows);
+        const bool isRecord = entry.type == FieldType::record;
+        return {{"type", "array"},
+                {"items", isRecord ? object(*entry.record, entries, form) : value(nullptr, entry, entries, form)}};
+    }
+    const Json plain = plainValue(field, rows);
+    if (!form.words) return plain;
+    const bool isNumber = field.type == FieldType::number;
+    const bool isCode = isNumber && around != nullptr && wordsRead(around->name, field.name) != nullptr;
+    if (isCode || !isNumber || std::ranges::none_of(rows, hasWords)) return withWords(plain, isCode);
+    // What stands for itself is a code where the reply had a word for it.
+    return {{"anyOf", {withWords(plain, false), withWords(plain, true)}}};
+}
+
 // NOLINTEND(misc-no-recursion)
 
-Json schemaOf(const Message& message) {
+Json schemaOf(const Message& message, const SchemaForm& form) {
     Rows rows;
     addRows(message.table, rows);
     const Field& field = message.record;
     Json schema{{"title", message.operation}};
     if (field.record != nullptr) {
         schema["description"] = commentOf(field.record->name);
-        schema.update(object(*field.record, rows));
+        schema.update(object(*field.record, rows, form));
     } else if (field.name.empty()) {
-        schema.update(value(field, rows));
+        schema.update(value(nullptr, field, rows, form));
     } else {
         schema.update({{"type", "object"},
-                       {"properties", {{std::string(field.name), value(field, rows)}}},
+                       {"properties", {{std::string(field.name), value(nullptr, field, rows, form)}}},
                        {"required", {field.name}},
                        {"additionalProperties", false}});
     }
@@ -214,13 +247,13 @@ Json schemaOf(const Message& message) {
 }
 
 /// Several readers may each take a part of one document: decode prints them side by side.
-Json schemaOfRoot(std::string_view root) {
+Json schemaOfRoot(std::string_view root, const SchemaForm& form) {
     const auto readers = messagesWithRoot(root);
-    if (readers.size() == 1) return schemaOf(*readers.front());
+    if (readers.size() == 1) return schemaOf(*readers.front(), form);
     Json properties = Json::object();
     Json required = Json::array();
     for (const Message* const message : readers) {
-        properties[std::string(message->operation)] = schemaOf(*message);
+        properties[std::string(message->operation)] = schemaOf(*message, form);
         required.push_back(message->operation);
     }
     return {{"type", "object"}, {"properties", properties}, {"required", required}, {"additionalProperties", false}};
@@ -229,7 +262,7 @@ Json schemaOfRoot(std::string_view root) {
 /// What is printed of a damaged reply says so: in the object, or around what is none.
 Json orDamaged(Json schema) {
     const Json damaged{{"description", "the reply is cut or broken, and this is what could be read"}, {"const", true}};
-    if (schema["type"] == "object") {
+    if (schema.contains("type") && schema["type"] == "object") {
         schema["properties"]["damaged"] = damaged;
         return schema;
     }
@@ -240,12 +273,41 @@ Json orDamaged(Json schema) {
     return {{"anyOf", {std::move(schema), around}}};
 }
 
+/// A line of decode: the record with what is known of the document, or an error in its place.
+Json lineOf(const Json& message, const Json& record) {
+    const Json whole{{"type", "integer"}, {"minimum", 0}};
+    const Json text{{"type", "string"}};
+    const Json source{{"type", "object"},
+                      {"properties", {{"file", text}, {"number", {{"type", "integer"}, {"minimum", 1}}}}},
+                      {"required", {"file", "number"}},
+                      {"additionalProperties", false}};
+    const Json error{{"type", "object"},
+                     {"properties", {{"code", whole}, {"text", text}}},
+                     {"required", {"code", "text"}},
+                     {"additionalProperties", false}};
+    const auto line = [&](const Json& more, const Json& required) -> Json {
+        Json properties{{"schema", {{"const", 1}}}, {"source", source}};
+        properties.update(more);
+        Json all{"schema", "source"};
+        all.insert(all.end(), required.begin(), required.end());
+        return {{"type", "object"}, {"properties", properties}, {"required", all}, {"additionalProperties", false}};
+    };
+    const Json read = line({{"message", message},
+                            {"damaged", {{"type", "boolean"}}},
+                            {"findings", whole},
+                            {"notes", {{"type", "array"}, {"items", text}}},
+                            {"record", record}},
+                           {"message", "damaged", "findings", "record"});
+    return {{"oneOf", {read, line({{"error", error}}, {"error"})}}};
+}
+
 }  // namespace
 
-Json schemaOf(std::string_view root) {
+Json schemaOf(std::string_view root, const SchemaForm& form) {
     Json schema{{"$schema", "https://json-schema.org/draft/2020-12/schema"}};
     if (!root.empty()) {
-        schema.update(orDamaged(schemaOfRoot(root)));
+        const Json record = orDamaged(schemaOfRoot(root, form));
+        schema.update(form.lines ? lineOf({{"const", root}}, record) : record);
         return schema;
     }
     Json any = Json::array();
@@ -253,7 +315,8 @@ Json schemaOf(std::string_view root) {
     for (const Message& message : messages()) {
         const std::string name(message.root);
         if (all.contains(name)) continue;
-        all[name] = orDamaged(schemaOfRoot(name));
+        const Json record = orDamaged(schemaOfRoot(name, form));
+        all[name] = form.lines ? lineOf({{"const", name}}, record) : record;
         any.push_back({{"$ref", "#/$defs/" + name}});
     }
     schema["anyOf"] = any;
@@ -261,9 +324,9 @@ Json schemaOf(std::string_view root) {
     return schema;
 }
 
-ExitCode printSchema(std::string_view root) {
+ExitCode printSchema(std::string_view root, const SchemaForm& form) {
     constexpr int indent = 4;
-    std::cout << schemaOf(root).dump(indent) << '\n';
+    std::cout << schemaOf(root, form).dump(indent) << '\n';
     return ExitCode::done;
 }
 

@@ -10,11 +10,17 @@
 
 namespace kvj::tool {
 
+/// Which of the forms that decode prints.
+struct SchemaForm {
+    bool words = false;  ///< with --words
+    bool lines = false;  ///< with --format jsonl
+};
+
 /// The JSON Schema, of draft 2020-12, of what decode prints for a document of that root; without a root for one of any
 /// message.
-nlohmann::ordered_json schemaOf(std::string_view root);
+nlohmann::ordered_json schemaOf(std::string_view root, const SchemaForm& form = {});
 
-ExitCode printSchema(std::string_view root);
+ExitCode printSchema(std::string_view root, const SchemaForm& form);
 
 }  // namespace kvj::tool
 
