@@ -56,6 +56,17 @@ TEST(Decode, AnUnknownMessageNameIsCode2AndNamesTheKnownOnes) {
     EXPECT_THAT(outcome.error, HasSubstr("get_general_status"));
 }
 
+TEST(Decode, SaysWhatStandsBehindTheMessage) {
+    Outcome outcome = runTool("decode", "<get_count>\n</get_count>junk");
+    EXPECT_EQ(outcome.code, 4);
+    EXPECT_EQ(outcome.error,
+              "kvjxml: standard input: read as far as it goes: line 2, column 13: a text beside elements\n");
+    outcome = runTool("decode", "<get_count/>\n<get_count/>");
+    EXPECT_EQ(outcome.code, 4);
+    EXPECT_EQ(outcome.error,
+              "kvjxml: standard input: read as far as it goes: line 2, column 1: an element beside the message\n");
+}
+
 TEST(Decode, AsksWhichMessageWasMeantByANameThatIsNear) {
     const Outcome outcome = runTool("decode", "<get_general_staus/>");
     EXPECT_EQ(outcome.code, 3);

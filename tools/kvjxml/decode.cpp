@@ -15,7 +15,9 @@ namespace {
 /// What has to be said of a document besides what is in it.
 std::vector<std::string> remarksOn(const Capture& capture, const DecodedDocument& document) {
     std::vector<std::string> remarks = capture.notes;
-    if (!document.isWhole()) remarks.push_back("read as far as it goes: " + damageIn(capture.text, capture.line));
+    if (!document.isWhole())
+        remarks.push_back("read as far as it goes: " +
+                          damageIn(*document.readers().front().message, capture.text, capture.line));
     return remarks;
 }
 

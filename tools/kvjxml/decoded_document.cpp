@@ -1,6 +1,7 @@
 #include "decoded_document.h"
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 
 #include "face/diagnosis.h"
@@ -10,6 +11,7 @@
 #include "foundation/watch.h"
 #include "known_root.h"
 #include "merged_rows.h"
+#include "messages/any_reading.h"
 
 namespace kvj::tool {
 
@@ -82,15 +84,17 @@ void DecodedDocument::read(DecodedMessage& reader, std::string_view text, Counti
 
 // ---- Damage ----
 
-std::string damageIn(std::string_view text, std::size_t line) {
-    // What breaks a document is the same for every message.
-    const auto reading = kvjxml::read<kvjxml::messages::nonce>(text, kvjxml::diagnose);
-    for (const kvjxml::finding& each : reading.findings()) {
-        if (each.kind != kvjxml::finding_kind::malformed && each.kind != kvjxml::finding_kind::encoding) continue;
-        return "line " + std::to_string(line + each.line) + ", column " + std::to_string(each.column) + ": " +
-               each.detail;
-    }
-    return "there is more in it than one message";
+std::string damageIn(const Message& message, std::string_view text, std::size_t line) {
+    using enum kvjxml::finding_kind;
+    const auto findings = readAny(message, text, kvjxml::diagnose).findings;
+    const auto breaks = [](const kvjxml::finding& each) { return each.kind == malformed || each.kind == encoding; };
+    auto fault = std::ranges::find_if(findings, breaks);
+    // Nothing breaks what stands behind the message, and is the last that nobody reads.
+    const auto behind = std::ranges::find(findings.rbegin(), findings.rend(), ignored, &kvjxml::finding::kind);
+    if (fault == findings.end() && behind != findings.rend()) fault = std::prev(behind.base());
+    if (fault == findings.end()) return "there is more in it than one message";
+    return "line " + std::to_string(line + fault->line) + ", column " + std::to_string(fault->column) + ": " +
+           fault->detail;
 }
 
 }  // namespace kvj::tool

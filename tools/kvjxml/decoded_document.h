@@ -64,8 +64,9 @@ private:
 };
 
 /// Where a document that is not whole breaks, for people: "line 3, column 5: the reply ends here".
-/// @param line  how many lines stand in front of the text.
-std::string damageIn(std::string_view text, std::size_t line);
+/// @param message  one that is in it.
+/// @param line     how many lines stand in front of the text.
+std::string damageIn(const Message& message, std::string_view text, std::size_t line);
 
 }  // namespace kvj::tool
 

@@ -42,7 +42,7 @@ AnyReading readOrFail(const Message& message, const Capture& reply) {
 void tellRemarks(const AnyReading& reading, const Capture& reply) {
     for (const std::string& note : reply.notes) tell(reply.origin, note);
     if (reading.whole) return;
-    tell(reply.origin, "is damaged, compared as far as it goes: " + damageIn(reply.text, reply.line));
+    tell(reply.origin, "is damaged, compared as far as it goes: " + damageIn(*reading.message, reply.text, reply.line));
 }
 
 // ---- What is printed ----
