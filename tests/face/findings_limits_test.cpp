@@ -13,6 +13,7 @@ namespace {
 
 using namespace kvj::tests;
 using kvjxml::finding_kind;
+using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -43,6 +44,22 @@ TEST(ARepeatedElement, IsFoundWithOthersInBetween) {
                     "here more than once, and the last one counts)"));
 }
 
+TEST(ADamagedReply, StaysSoWhateverFollows) {
+    for (const char* const after : {"<![CDATA[x]]>", "<!-- c -->", "<?i?>", "<b/>", "text"}) {
+        const std::string reply = "<get_job_status><>" + std::string(after) + "</get_job_status>";
+        EXPECT_FALSE(readAny(messageOf("job_status"), reply).whole) << after;
+        EXPECT_THAT(kindsIn("job_status", reply), Contains(finding_kind::malformed)) << after;
+    }
+}
+
+TEST(ATextBesideElements, IsFoundWhateverFollows) {
+    for (const char* const after : {"", "<!-- c -->", "<![CDATA[x]]>", "<?i?>", "<uuid>b</uuid>"}) {
+        const std::string reply =
+            "<get_job_status>text<action_id>1</action_id>" + std::string(after) + "</get_job_status>";
+        EXPECT_THAT(kindsIn("job_status", reply), Contains(finding_kind::ignored)) << after;
+    }
+}
+
 // ---- References ----
 
 TEST(AReference, ThatIsWrongIsFoundInAnAttribute) {
@@ -67,6 +84,12 @@ TEST(ADeclaration, MayStandOnSeveralLines) {
 TEST(ADeclaration, EndsBehindItsValues) {
     EXPECT_THAT(found("nonce", "<?xml version='>'?><nonce>1</nonce><b/>"),
                 ElementsAre("warning ignored 1:36 /b \"<b/>\" (an element beside the message)"));
+}
+
+TEST(ADeclaration, HasItsWordsInAnyCase) {
+    for (const char* const word : {"version", "VERSION", "standalone", "STANDALONE", "encoding", "ENCODING"}) {
+        EXPECT_THAT(found("nonce", "<?xml " + std::string(word) + "='><b/>'?><nonce>1</nonce>"), IsEmpty()) << word;
+    }
 }
 
 // ---- Numbers ----
