@@ -161,38 +161,34 @@ bool addArgumentText(Parent element, const char* text, std::string_view field, c
     return true;
 }
 
-bool setArgument(Parent element, const char* name, const char* text, std::string_view field) {
-    if (!setAttribute(element, name, text)) return false;
+void setArgument(Parent element, const char* name, const char* text, std::string_view field) {
+    if (!setAttribute(element, name, text)) return;
     if (Problems* const problems = listener(element)) {
         checkArgument(*problems, text, Stands::inAttribute, field, behind("/@", name));
     }
-    return true;
 }
 
-bool setArgument(Parent element, const char* name, float value, std::string_view field) {
+void setArgument(Parent element, const char* name, float value, std::string_view field) {
     const convert::Digits digits = convert::fromDouble(value, 1);
-    if (!setAttribute(element, name, digits.c_str())) return false;
+    if (!setAttribute(element, name, digits.c_str())) return;
     if (Problems* const problems = listener(element)) {
         checkDigits(*problems, digits, value, behind("/", field), behind("/@", name));
     }
-    return true;
 }
 
-bool setWord(Parent element, const char* name, const Words& table, int code, std::string_view field) {
-    if (setAttribute(element, name, wordOf(table, code))) return true;
+void setWord(Parent element, const char* name, const Words& table, int code, std::string_view field) {
+    if (setAttribute(element, name, wordOf(table, code))) return;
     if (Problems* const problems = listener(element)) {
         problems->found(problem_kind::no_word, convert::fromInt(code).c_str(), {}, behind("/", field),
                         behind("/@", name));
     }
-    return false;
 }
 
-bool addWordText(Parent element, const Words& table, int code, std::string_view field) {
-    if (addText(element, wordOf(table, code))) return true;
+void addWordText(Parent element, const Words& table, int code, std::string_view field) {
+    if (addText(element, wordOf(table, code))) return;
     if (Problems* const problems = listener(element)) {
         problems->found(problem_kind::no_word, convert::fromInt(code).c_str(), {}, behind("/", field));
     }
-    return false;
 }
 
 void need(Parent element, const char* text, std::string_view field, std::string_view path) {

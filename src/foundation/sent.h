@@ -47,12 +47,12 @@ bool addArgument(Parent parent, const char* name, const char* text, std::string_
 /// @param word  what stands for it, where the printer has a word of its own
 bool addArgumentText(Parent element, const char* text, std::string_view field, const char* word = nullptr);
 /// An attribute. Null is left out.
-bool setArgument(Parent element, const char* name, const char* text, std::string_view field);
+void setArgument(Parent element, const char* name, const char* text, std::string_view field);
 /// An attribute with one decimal.
-bool setArgument(Parent element, const char* name, float value, std::string_view field);
+void setArgument(Parent element, const char* name, float value, std::string_view field);
 /// The word of a code as an attribute, or as the element's text. A code without a word adds nothing.
-bool setWord(Parent element, const char* name, const Words& table, int code, std::string_view field);
-bool addWordText(Parent element, const Words& table, int code, std::string_view field);
+void setWord(Parent element, const char* name, const Words& table, int code, std::string_view field);
+void addWordText(Parent element, const Words& table, int code, std::string_view field);
 /// Tells that an argument that the request cannot do without is null.
 void need(Parent element, const char* text, std::string_view field, std::string_view path = {});
 

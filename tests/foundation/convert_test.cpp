@@ -389,6 +389,7 @@ TEST(ToHardwareAddress, WhatTheTextDoesNotGiveIsZero) {
     expectAddress("", {});
     expectAddress(" ", {});
     expectAddress("zz:01:02:03:04:05", {});
+    expectAddress("zz:zz:zz:zz:zz:zz", {});
     expectAddress("aa", {0xAA});
     expectAddress("aa:", {0xAA});
     expectAddress("aa:bb:cc", {0xAA, 0xBB, 0xCC});

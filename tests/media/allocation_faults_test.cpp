@@ -14,6 +14,7 @@
 #include "KVJSetMedia.h"
 #include "hostile/allocation_watch.h"
 #include "media/records.h"
+#include "messages/catalogue.h"
 #include "support/files.h"
 #include "support/xml.h"
 
@@ -264,6 +265,19 @@ TEST(MediaFaults, ComposingThrowsAndLeavesAComposerThatComposesTheNextRequest) {
 TEST(MediaFaults, ComposingWithoutABufferThrowsAsWell) {
     expectFaults(
         [](KVJSetMedia& composer, _KVMediaInfo& media) { return composer.SetMedia(media, nullptr, 0, 0, true); });
+}
+
+// The tool makes records where it has room for them.
+TEST(ACatalogueInItsPlace, LosesNothingWhereItCannotBeMade) {
+    alignas(Kavrin::_KVMediaInfo) std::byte place[sizeof(Kavrin::_KVMediaInfo)];
+    const auto makeAndEnd = [&] {
+        kvj::beginCatalogue(place);
+        kvj::endCatalogue(place);
+    };
+    forEachFault(allocationsOf(makeAndEnd), [&](Fault fault) {
+        fault.expectThrown(makeAndEnd);
+        fault.expectLost(0);
+    });
 }
 
 }  // namespace
