@@ -4,8 +4,9 @@
 #ifndef KVJXML_TESTS_CAPABILITIES_RECORDS_H
 #define KVJXML_TESTS_CAPABILITIES_RECORDS_H
 
+#include <iomanip>
+#include <sstream>
 #include <string>
-#include <tuple>
 #include <vector>
 
 #include "CapabilitiesRecords.h"
@@ -123,52 +124,58 @@ private:
 
 // ---- Fields: two records are equal when these are ----
 
-inline int fieldsOf(int code) { return code; }
-inline auto fieldsOf(const _PortCaps& port) { return std::tuple(port.portId, port.portType); }
+/// Values as a text that no others have. A tuple of them would be long to compile, wherever two are compared.
+template <class... Values>
+std::string shown(const Values&... values) {
+    std::ostringstream text;
+    ((text << values << ' '), ...);
+    return text.str();
+}
+
+inline auto fieldsOf(int code) { return shown(code); }
+inline auto fieldsOf(const _PortCaps& port) { return shown(port.portId, port.portType); }
 inline auto fieldsOf(const _InterfaceCaps& swInterface) {
-    return std::tuple(swInterface.protocol, swInterface.transport, swInterface.port);
+    return shown(swInterface.protocol, swInterface.transport, swInterface.port);
 }
-inline auto fieldsOf(const _OCPLanguageCaps& language) { return std::tuple(language.type, std::string(language.name)); }
+inline auto fieldsOf(const _OCPLanguageCaps& language) { return shown(language.type, std::quoted(language.name)); }
 inline auto fieldsOf(const _SecurityCaps& security) {
-    return std::tuple(security.passkeyProtection, security.encryptionAlgorithm);
+    return shown(security.passkeyProtection, security.encryptionAlgorithm);
 }
-inline auto fieldsOf(const _FontCaps& font) { return std::tuple(std::string(font.name), font.scalable, font.style); }
+inline auto fieldsOf(const _FontCaps& font) { return shown(std::quoted(font.name), font.scalable, font.style); }
 inline auto fieldsOf(const _TemplateCaps& stored) {
-    return std::tuple(std::string(stored.name), std::string(stored.location));
+    return shown(std::quoted(stored.name), std::quoted(stored.location));
 }
-inline auto fieldsOf(const _BarCodeCaps& barCode) { return std::string(barCode.name); }
+inline auto fieldsOf(const _BarCodeCaps& barCode) { return shown(std::quoted(barCode.name)); }
 inline auto fieldsOf(const _InternalEncoderInfo& encoder) {
-    return std::tuple(encoder.commsChannel, encoder.contactEncoding, encoder.contactlessEncoder,
-                      encoder.contactlessEncoder2, encoder.contactStation);
+    return shown(encoder.commsChannel, encoder.contactEncoding, encoder.contactlessEncoder, encoder.contactlessEncoder2,
+                 encoder.contactStation);
 }
 /// Of a list, where it is and what room it has.
 inline auto fieldsOf(const _Capabilities& caps) {
-    const std::tuple lists(caps.hostPortCount, caps.hostPorts, caps.devicePortCount, caps.devicePorts,
-                           caps.swInterfaceCount, caps.swInterfaces, caps.ocpLanguageCount, caps.ocpLanguages,
-                           caps.graphicFormatCount, caps.graphicFormats, caps.fontCount, caps.fonts, caps.templateCount,
-                           caps.templates, caps.graphicCount, caps.graphics, caps.barCodeCount, caps.barCodes);
-    const std::tuple printing(caps.imageSharpeningLevels, caps.ramSize, caps.flashSize, caps.printSystem,
-                              caps.printType, caps.atm, caps.magazineCapacity, caps.logicalPageLength,
-                              caps.logicalPageWidth, caps.physicalPageLength, caps.physicalPageWidth,
-                              caps.printResolution);
-    const std::tuple options(fieldsOf(caps.security), caps.magHeadType, caps.magStripeLocation,
-                             fieldsOf(caps.internalEncoder), caps.laminator, caps.laminatorType);
-    return std::tuple(lists, printing, options);
+    return shown(caps.hostPortCount, caps.hostPorts, caps.devicePortCount, caps.devicePorts, caps.swInterfaceCount,
+                 caps.swInterfaces, caps.ocpLanguageCount, caps.ocpLanguages, caps.graphicFormatCount,
+                 caps.graphicFormats, caps.fontCount, caps.fonts, caps.templateCount, caps.templates, caps.graphicCount,
+                 caps.graphics, caps.barCodeCount, caps.barCodes) +
+           shown(caps.imageSharpeningLevels, caps.ramSize, caps.flashSize, caps.printSystem, caps.printType, caps.atm,
+                 caps.magazineCapacity, caps.logicalPageLength, caps.logicalPageWidth, caps.physicalPageLength,
+                 caps.physicalPageWidth, caps.printResolution) +
+           shown(fieldsOf(caps.security), caps.magHeadType, caps.magStripeLocation, fieldsOf(caps.internalEncoder),
+                 caps.laminator, caps.laminatorType);
 }
 
 /// Of each entry of a list.
 template <class Entry>
-auto fieldsOf(const std::vector<Entry>& entries) {
-    std::vector<decltype(fieldsOf(Entry{}))> all;
+std::vector<std::string> fieldsOf(const std::vector<Entry>& entries) {
+    std::vector<std::string> all;
     for (const Entry& entry : entries) all.push_back(fieldsOf(entry));
     return all;
 }
 
 /// Of each entry of each list.
-inline auto fieldsOf(const Lists& lists) {
-    return std::tuple(fieldsOf(lists.hostPorts), fieldsOf(lists.devicePorts), fieldsOf(lists.swInterfaces),
-                      fieldsOf(lists.ocpLanguages), fieldsOf(lists.graphicFormats), fieldsOf(lists.fonts),
-                      fieldsOf(lists.templates), fieldsOf(lists.graphics), fieldsOf(lists.barCodes));
+inline std::vector<std::vector<std::string>> fieldsOf(const Lists& lists) {
+    return {fieldsOf(lists.hostPorts),    fieldsOf(lists.devicePorts),    fieldsOf(lists.swInterfaces),
+            fieldsOf(lists.ocpLanguages), fieldsOf(lists.graphicFormats), fieldsOf(lists.fonts),
+            fieldsOf(lists.templates),    fieldsOf(lists.graphics),       fieldsOf(lists.barCodes)};
 }
 
 }  // namespace kvj::tests

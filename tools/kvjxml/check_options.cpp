@@ -15,7 +15,7 @@ namespace {
 using kvjxml::finding_kind;
 using kvjxml::severity;
 
-struct Options {
+struct CheckCommand {
     Captures captures;
     std::string format = "text";
     std::string failOn = "warning";
@@ -56,25 +56,25 @@ void addIgnore(CLI::App& verb, std::vector<Ignored>& ignored) {
 std::map<std::string, severity> severities() {
     return {{"error", severity::error}, {"warning", severity::warning}, {"note", severity::note}};
 }
-std::map<std::string, MakeWriter> formats() {
+std::map<std::string, MakeWriter> writers() {
     return {{"text", textWriter}, {"json", jsonWriter}, {"sarif", sarifWriter}};
 }
 
-ExitCode run(const Options& options) {
+ExitCode run(const CheckCommand& options) {
     CheckOptions how = options.check;
     how.failOn = severities().at(options.failOn);
-    return check(options.captures, how, formats().at(options.format));
+    return check(options.captures, how, writers().at(options.format));
 }
 
 }  // namespace
 
 Run addCheck(CLI::App& verb) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<CheckCommand>();
     addCaptures(verb, "The documents", options->captures);
     verb.add_option("--format", options->format,
                     "text, json (an object for each document, on one line) or sarif (SARIF 2.1.0); text unless told")
         ->option_text("FORMAT")
-        ->check(CLI::IsMember(formats()));
+        ->check(CLI::IsMember(writers()));
     verb.add_option("--fail-on", options->failOn,
                     "The least severity that ends with code 6: error, warning or note; warning unless told")
         ->option_text("SEVERITY")

@@ -13,7 +13,7 @@ namespace kvj::tool {
 
 namespace {
 
-struct Options {
+struct EncodeCommand {
     Source source;
     RequestOptions request;
     EncodeOptions encode;
@@ -43,7 +43,7 @@ std::string contentOf(const Request& request) {
     return text;
 }
 
-void addOptions(CLI::App& verb, const Request& request, Options& options) {
+void addOptions(CLI::App& verb, const Request& request, EncodeCommand& options) {
     addSource(verb, "The JSON", options.source);
     verb.add_option("--set", options.encode.edits, "Change a value of the JSON on the way, as /lcdContrast/value=15")
         ->option_text("POINTER=VALUE")
@@ -57,7 +57,7 @@ void addOptions(CLI::App& verb, const Request& request, Options& options) {
 }  // namespace
 
 Run addEncode(CLI::App& verb) {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<EncodeCommand>();
     verb.require_subcommand(1);
     for (const auto& request : requests()) {
         CLI::App* const one =

@@ -29,7 +29,7 @@ std::string asBytes(std::string& text) {
     return {};
 }
 
-constexpr Verb all[] = {
+constexpr Verb allVerbs[] = {
     {"decode", "Print the record that a captured reply fills, as JSON", addDecode},
     {"check", "Say what would be ignored, changed or lost of documents", addCheck},
     {"diff", "Say what differs between two replies of one message", addDiff},
@@ -44,7 +44,7 @@ constexpr Verb all[] = {
 
 }  // namespace
 
-std::span<const Verb> verbs() { return all; }
+std::span<const Verb> verbs() { return allVerbs; }
 
 Run addMessages(CLI::App& /*verb*/) { return printReference; }
 
