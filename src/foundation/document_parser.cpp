@@ -368,6 +368,7 @@ private:
             found.value = at_;
             while (*at_ != '\0' && *at_ != '/' && *at_ != '>' && !is(*at_, blank)) {
                 if (is(*at_, quote)) return wrong(TiXmlBase::TIXML_ERROR_READING_ATTRIBUTES, at_);
+                if (judges && *at_ == '&') document_.isPlain_ = false;  // It is not decoded there.
                 ++at_;
             }
             found.valueEnd = at_;
