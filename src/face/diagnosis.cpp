@@ -468,17 +468,20 @@ void Diagnosis::read(const Read& read) {
     const Role role = roleOf(read.row);
     const bool hasElements = !read.element.children().empty();
     isPlain_ &= role == Role::value ? !hasElements : hasElements || read.element.text() == nullptr;
-    setRole(read.element, role, &read.row);
+    if (!isPlain_) roles().set(read.element.number(), role, &read.row);
     checkValue(read, candidates_);
-    if (read.row.kind == Kind::entry && room_ != 0 && ++entries_ > room_) {
-        candidates_.add({.kind = finding_kind::beyond_capacity,
-                         .node = read.element.number(),
-                         .detail = "the record of the named operation has room for " + std::to_string(room_)});
-    }
+    if (read.row.kind == Kind::entry && room_ != 0) countEntry(read.element);
+}
+
+void Diagnosis::countEntry(Element element) {
+    if (++entries_ <= room_) return;
+    candidates_.add({.kind = finding_kind::beyond_capacity,
+                     .node = element.number(),
+                     .detail = "the record of the named operation has room for " + std::to_string(room_)});
 }
 
 void Diagnosis::skip(Element element) {
-    setRole(element, Role::skipped);
+    if (!isPlain_) roles().set(element.number(), Role::skipped);
     const std::string_view name = element.name();
     for (const auto rows : rowsBeside(element.number())) {
         if (std::ranges::find(rows, name, &DescribedRow::name) != rows.end()) return;
@@ -514,10 +517,6 @@ void Diagnosis::suggest() {
         }
         if (!best.empty()) candidate.detail = "did you mean " + quoted(best) + "?";
     }
-}
-
-void Diagnosis::setRole(Element element, Role role, const Description* row) {
-    if (!isPlain_) roles().set(element.number(), role, row);
 }
 
 Roles& Diagnosis::roles() {

@@ -125,8 +125,9 @@ private:
     /// Tells what may have been meant by elements that nobody knows.
     void suggest();
 
+    void countEntry(Element element);
+
     // In most replies there is nothing to be found, and none of these is needed.
-    void setRole(Element element, Role role, const Description* row = nullptr);
     Roles& roles();
     const std::vector<std::uint32_t>& parents();
     const std::vector<Readers::Rows>& rowsBeside(std::size_t node);

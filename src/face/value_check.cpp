@@ -524,6 +524,9 @@ KnownField knownField(const FieldName& name) {
     return {};
 }
 
-void checkValue(const Read& read, Candidates& candidates) { Check(read, candidates).all(); }
+void checkValue(const Read& read, Candidates& candidates) {
+    // Elements around others have no value of their own.
+    if (hasOwnValue(read.row.kind) || read.again) Check(read, candidates).all();
+}
 
 }  // namespace kvj
