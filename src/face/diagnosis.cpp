@@ -436,6 +436,23 @@ void tell(Candidates& candidates, Places& places, const Document& document, std:
 
 }  // namespace
 
+const std::vector<Readers::Rows>& Readers::inside(std::size_t node, std::span<const std::uint32_t> parents) {
+    if (tables_.empty()) {
+        for (const Message& message : messages()) {
+            if (hasRoot(message, root_.name())) tables_.push_back(message.table);
+        }
+    }
+    if (node_ == node) return inside_;
+    node_ = node;
+    std::vector<std::string_view> names;
+    for (std::size_t at = node; at != 0 && at != root_.number(); at = parents[at])
+        names.push_back(document_[at].name());
+    std::ranges::reverse(names);
+    inside_.clear();
+    for (const Rows table : tables_) inside_.push_back(rowsInside(table, names));
+    return inside_;
+}
+
 Diagnosis::Diagnosis(const Document& document, std::string_view bytes, bool isWhole, Element root,
                      const Message& message, Findings& findings)
     : document_(document),
@@ -443,34 +460,40 @@ Diagnosis::Diagnosis(const Document& document, std::string_view bytes, bool isWh
       root_(root),
       message_(message),
       findings_(findings),
-      roles_(document),
       isPlain_(document.isPlain() && isWhole && (root.text() == nullptr || !root.children().empty())),
-      room_(roomIn(message.record)) {
-    roles_.set(root.number(), Role::around);
-}
+      readers_(document, root),
+      room_(roomIn(message.record)) {}
 
 void Diagnosis::read(const Read& read) {
     const Role role = roleOf(read.row);
-    roles_.set(read.element.number(), role, &read.row);
     const bool hasElements = !read.element.children().empty();
     isPlain_ &= role == Role::value ? !hasElements : hasElements || read.element.text() == nullptr;
+    if (!isPlain_) roles().set(read.element.number(), role, &read.row);
     checkValue(read, candidates_);
-    if (read.row.kind == Kind::entry && room_ != 0 && ++entries_ > room_) {
-        candidates_.add({.kind = finding_kind::beyond_capacity,
-                         .node = read.element.number(),
-                         .detail = "the record of the named operation has room for " + std::to_string(room_)});
-    }
+    if (read.row.kind == Kind::entry && room_ != 0) countEntry(read.element);
+}
+
+void Diagnosis::countEntry(Element element) {
+    if (++entries_ <= room_) return;
+    candidates_.add({.kind = finding_kind::beyond_capacity,
+                     .node = element.number(),
+                     .detail = "the record of the named operation has room for " + std::to_string(room_)});
 }
 
 void Diagnosis::skip(Element element) {
-    roles_.set(element.number(), Role::skipped);
-    candidates_.add({.kind = finding_kind::unknown_element, .node = element.number(), .text = excerpt(element.name())});
+    if (!isPlain_) roles().set(element.number(), Role::skipped);
+    const std::string_view name = element.name();
+    for (const auto rows : rowsBeside(element.number())) {
+        if (std::ranges::find(rows, name, &DescribedRow::name) != rows.end()) return;
+    }
+    candidates_.add({.kind = finding_kind::unknown_element, .node = element.number(), .text = excerpt(name)});
 }
 
 void Diagnosis::finish() {
-    const auto parents = settle();
+    settle();
     if (candidates_.all.empty()) return;
-    Places places(document_, bytes_, parents, message_);
+    suggest();
+    Places places(document_, bytes_, parents(), message_);
     tell(candidates_, places, document_, bytes_, findings_);
 }
 
@@ -479,35 +502,35 @@ std::size_t Diagnosis::count() {
     return candidates_.all.size() + candidates_.omitted;
 }
 
-std::vector<std::uint32_t> Diagnosis::settle() {
-    // In most replies there is nothing to be found.
-    if (isPlain_ && candidates_.all.empty()) return {};
-    auto parents = parentsIn(document_);
-    if (!isPlain_) Between(document_, bytes_, parents, roles_, root_.number(), candidates_).all();
-    const auto namesTo = [&](std::size_t node) {
-        std::vector<std::string_view> names;
-        for (; node != 0 && node != root_.number(); node = parents[node]) {
-            names.insert(names.begin(), document_[node].name());
-        }
-        return names;
-    };
-    // What another reader of the same reply knows is not unknown.
+void Diagnosis::settle() {
+    if (!isPlain_) Between(document_, bytes_, parents(), roles(), root_.number(), candidates_).all();
     dropValuesOf(candidates_.all);
-    std::erase_if(candidates_.all, [&](Candidate& candidate) {
-        if (candidate.kind != finding_kind::unknown_element) return false;
-        const auto names = namesTo(candidate.node);
-        const auto around = std::span(names).first(names.size() - 1);
+}
+
+void Diagnosis::suggest() {
+    for (Candidate& candidate : candidates_.all) {
+        if (candidate.kind != finding_kind::unknown_element) continue;
+        const std::string_view name = document_[candidate.node].name();
         std::string_view best;
-        for (const Message& message : messages()) {
-            if (!hasRoot(message, root_.name())) continue;
-            const auto rows = rowsInside(message.table, around);
-            if (std::ranges::find(rows, names.back(), &DescribedRow::name) != rows.end()) return true;
-            if (best.empty()) best = nearest(names.back(), rows, [](const DescribedRow& row) { return row.name; });
+        for (const auto rows : rowsBeside(candidate.node)) {
+            if (best.empty()) best = nearest(name, rows, [](const DescribedRow& row) { return row.name; });
         }
         if (!best.empty()) candidate.detail = "did you mean " + quoted(best) + "?";
-        return false;
-    });
-    return parents;
+    }
+}
+
+Roles& Diagnosis::roles() {
+    if (!roles_) roles_.emplace(document_).set(root_.number(), Role::around);
+    return *roles_;
+}
+
+const std::vector<std::uint32_t>& Diagnosis::parents() {
+    if (parents_.empty()) parents_ = parentsIn(document_);
+    return parents_;
+}
+
+const std::vector<Readers::Rows>& Diagnosis::rowsBeside(std::size_t node) {
+    return readers_.inside(parents()[node], parents());
 }
 
 void diagnoseWithout(const Document& document, std::string_view bytes, const Message& message, Findings& findings) {

@@ -6,6 +6,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -56,7 +58,7 @@ private:
     Candidate spare_{};
 };
 
-/// What a walk made of each element.
+/// What a walk made of an element.
 enum class Role : std::uint8_t {
     unread,   ///< nobody has looked at it
     skipped,  ///< no row for it
@@ -82,6 +84,26 @@ private:
     std::vector<const Description*> rows_;
 };
 
+/// What all readers of a reply know: what one of them skips may be what another one reads.
+class Readers {
+public:
+    using Rows = std::span<const DescribedRow>;
+
+    /// @param root  that of the message; its name tells who reads it.
+    Readers(const Document& document, Element root) : document_(document), root_(root) {}
+
+    /// The rows that each of them has for the elements inside an element.
+    /// @param parents  the numbers of the elements around those of the document.
+    const std::vector<Rows>& inside(std::size_t node, std::span<const std::uint32_t> parents);
+
+private:
+    const Document& document_;
+    Element root_;
+    std::vector<Rows> tables_;
+    std::size_t node_ = 0;      ///< the last that was asked for: most elements that are skipped stand together
+    std::vector<Rows> inside_;  ///< of that one
+};
+
 class Diagnosis final : public Watch::Diagnosis {
 public:
     /// All of them outlive it.
@@ -99,16 +121,27 @@ public:
 
 private:
     /// Looks at what is between the elements, and drops what turns out to be nothing.
-    /// @return the element around each; none where there is nothing to be found.
-    std::vector<std::uint32_t> settle();
+    void settle();
+    /// Tells what may have been meant by elements that nobody knows.
+    void suggest();
+
+    void countEntry(Element element);
+
+    // In most replies there is nothing to be found, and none of these is needed.
+    Roles& roles();
+    const std::vector<std::uint32_t>& parents();
+    const std::vector<Readers::Rows>& rowsBeside(std::size_t node);
 
     const Document& document_;
     std::string_view bytes_;
     Element root_;
     const Message& message_;
     Findings& findings_;
-    Roles roles_;
-    bool isPlain_;  ///< there is nothing between the elements that was not read
+    /// There is nothing between the elements that was not read. While that is so, nobody will ask for roles.
+    bool isPlain_;
+    std::optional<Roles> roles_;
+    std::vector<std::uint32_t> parents_;
+    Readers readers_;
     Candidates candidates_;
     std::size_t room_;         ///< of a list in the named operation's record; 0 when it has none
     std::size_t entries_ = 0;  ///< of that list

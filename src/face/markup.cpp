@@ -59,11 +59,11 @@ std::size_t endOfDeclaration(std::string_view bytes, std::size_t from) {
 
 std::vector<std::uint32_t> parentsIn(const Document& document) {
     std::vector<std::uint32_t> parents(document.size() + 1);
-    std::vector<std::size_t> open{0};
-    for (std::size_t node = 1; node < document.size(); ++node) {
-        while (node >= document.endOf(open.back())) open.pop_back();
-        parents[node] = static_cast<std::uint32_t>(open.back());
-        open.push_back(node);
+    std::uint32_t open = 0;
+    for (std::uint32_t node = 1; node < document.size(); ++node) {
+        while (node >= document.endOf(open)) open = parents[open];
+        parents[node] = open;
+        open = node;
     }
     return parents;
 }

@@ -3,7 +3,7 @@
 #ifndef KVJXML_FACE_UTF8_REPLY_H
 #define KVJXML_FACE_UTF8_REPLY_H
 
-#include <algorithm>
+#include <cstring>
 #include <string_view>
 #include <utility>
 
@@ -29,7 +29,7 @@ private:
 
     static Text copyOf(std::string_view bytes) {
         Text copy(bytes.size());
-        std::ranges::copy(bytes, copy.bytes());
+        if (!bytes.empty()) std::memcpy(copy.bytes(), bytes.data(), bytes.size());
         return copy;
     }
 

@@ -327,7 +327,22 @@ private:
             joined({"the field has ", std::to_string(form.bits), " bits", form.isSigned ? "" : ", without a sign"}));
     }
 
+    /// The same of a number with a decimal point.
+    static bool isPlainDecimal(std::string_view text) {
+        constexpr std::size_t most = 9;
+        std::size_t points = 0;
+        for (const char c : text) {
+            if (c == '.') {
+                ++points;
+            } else if (c < '0' || c > '9') {
+                return false;
+            }
+        }
+        return text.size() > points && text.size() <= most && points <= 1;
+    }
+
     void decimal() {
+        if (isPlainDecimal(*text_)) return;
         const Decimal number = decimalIn(*text_);
         if (number.used == 0) return noNumber();
         rest(number.used);
@@ -509,6 +524,9 @@ KnownField knownField(const FieldName& name) {
     return {};
 }
 
-void checkValue(const Read& read, Candidates& candidates) { Check(read, candidates).all(); }
+void checkValue(const Read& read, Candidates& candidates) {
+    // Elements around others have no value of their own.
+    if (hasOwnValue(read.row.kind) || read.again) Check(read, candidates).all();
+}
 
 }  // namespace kvj

@@ -227,11 +227,12 @@ private:
     bool openElement() {
         if (beginsWithMark(at_)) skipBlanks();  // In UTF-8 it counts as one.
         char* const name = at_;
-        if (beginsName(*at_)) {
-            do ++at_;
-            while (continuesName(*at_));
+        char* nameEnd = name;
+        if (beginsName(*nameEnd)) {
+            do ++nameEnd;
+            while (continuesName(*nameEnd));
         }
-        char* const nameEnd = at_;
+        at_ = nameEnd;
         if (judges) {
             topElements_ += atTop() ? 1 : 0;
             if (withText_ == open_ && !atTop()) document_.isPlain_ = false;
@@ -368,6 +369,7 @@ private:
             found.value = at_;
             while (*at_ != '\0' && *at_ != '/' && *at_ != '>' && !is(*at_, blank)) {
                 if (is(*at_, quote)) return wrong(TiXmlBase::TIXML_ERROR_READING_ATTRIBUTES, at_);
+                if (judges && *at_ == '&') document_.isPlain_ = false;  // It is not decoded there.
                 ++at_;
             }
             found.valueEnd = at_;

@@ -56,12 +56,22 @@ inline Room* roomFor(Rooms rooms, std::string_view field) noexcept {
     return found == rooms.end() ? nullptr : &*found;
 }
 
+/// How many children of a section have a row. What is skipped takes no room, or a short reply could ask for any.
+template <const auto& Table>
+std::size_t countEntries(Element section) {
+    std::size_t count = 0;
+    for (const Element child : section.children()) {
+        if (std::ranges::any_of(Table, [&](const auto& row) { return row.name == child.name(); })) ++count;
+    }
+    return count;
+}
+
 /// Reads all entries of a section, in the place of those that are there.
 template <const auto& Table>
 bool readAll(Element section, Room& room) {
     using Entry = typename decltype(RecordOfTable<Table>::entries)::element_type;
     room.resize<Entry>(0);
-    List<Entry> entries{room.resize<Entry>(countChildren(section))};
+    List<Entry> entries{room.resize<Entry>(countEntries<Table>(section))};
     const bool result = walk(section, entries, Table);
     room.resize<Entry>(entries.filled);
     return result;

@@ -42,17 +42,7 @@ public:
         : record_(record), size_(size), carried_(carried), diagnosis_(diagnosis) {}
 
     void read(const Element& element, const Description& row, const void* record, bool again) {
-        Read read{element, row, record, again, std::exchange(toOther_, false)};
-        const Kind kind = row.kind;
-        if (kind == Kind::wordOrNext) read.again = read.toOther && isMarked(row.otherField.at(record));
-        if (record != nullptr && hasOwnValue(kind)) {
-            if (kind == Kind::attribute) {
-                if (element.attribute(row.word.data()) != nullptr) mark(row.field, record);
-            } else if (kind != Kind::setting && kind != Kind::decimalSetting && element.text() != nullptr) {
-                markText(read);
-            }
-        }
-        if (diagnosis_ != nullptr) diagnosis_->read(read);
+        diagnosis_ == nullptr ? mark(element, row, record) : tell(element, row, record, again);
     }
     void skip(Element element) {
         if (diagnosis_ != nullptr) diagnosis_->skip(element);
@@ -60,7 +50,7 @@ public:
 
     /// A field was there. Rules that read several fields mark them by themselves.
     void mark(const void* field) noexcept {
-        const auto at = reinterpret_cast<std::uintptr_t>(field) - reinterpret_cast<std::uintptr_t>(record_);
+        const std::size_t at = placeOf(field);
         if (at >= size_) return;  // Entries of lists are stored elsewhere.
         carried_[at / 8] = static_cast<unsigned char>(carried_[at / 8] | 1U << at % 8);
     }
@@ -72,14 +62,51 @@ public:
     void follow(const void* record) noexcept { record_ = record; }
 
 private:
-    /// A text may be a code as well.
-    void markText(const Read& read) noexcept {
-        if (!read.toOther) mark(read.row.field, read.record);
-        if (read.toOther || read.row.kind == Kind::textAndCode) mark(read.row.otherField, read.record);
+    /// Whether there is a value for the row's field, and for no other, when the element has a text.
+    static constexpr bool isForOneField(Kind kind) noexcept {
+        switch (kind) {
+            case Kind::attribute:
+            case Kind::setting:
+            case Kind::decimalSetting:
+            case Kind::textAndCode:
+            case Kind::wordOrNext:
+                return false;
+            default:
+                return hasOwnValue(kind);
+        }
+    }
+
+    /// Marks what was read. This is done for each element, from many places.
+    [[gnu::noinline]] void mark(const Element& element, const Description& row, const void* record) {
+        if (!isForOneField(row.kind)) return markOthers(element, row, record);
+        if (element.text() != nullptr && record != nullptr) mark(row.field, record);
+    }
+    [[gnu::noinline]] void markOthers(const Element& element, const Description& row, const void* record) {
+        const bool toOther = std::exchange(toOther_, false);
+        if (record == nullptr || !hasValue(element, row)) return;
+        if (!toOther) mark(row.field, record);
+        if (toOther || row.kind == Kind::textAndCode) mark(row.otherField, record);  // A text may be a code as well.
+    }
+    /// Rules of settings look for themselves.
+    [[nodiscard]] static bool hasValue(const Element& element, const Description& row) {
+        if (!hasOwnValue(row.kind) || row.kind == Kind::setting || row.kind == Kind::decimalSetting) return false;
+        if (row.kind == Kind::attribute) return element.attribute(row.word.data()) != nullptr;
+        return element.text() != nullptr;
+    }
+
+    [[gnu::noinline]] void tell(const Element& element, const Description& row, const void* record, bool again) {
+        const bool toOther = toOther_;
+        if (row.kind == Kind::wordOrNext) again = toOther && isMarked(row.otherField.at(record));
+        mark(element, row, record);
+        diagnosis_->read({element, row, record, again, toOther});
+    }
+
+    [[nodiscard]] std::size_t placeOf(const void* field) const noexcept {
+        return reinterpret_cast<std::uintptr_t>(field) - reinterpret_cast<std::uintptr_t>(record_);
     }
 
     [[nodiscard]] bool isMarked(const void* field) const noexcept {
-        const auto at = reinterpret_cast<std::uintptr_t>(field) - reinterpret_cast<std::uintptr_t>(record_);
+        const std::size_t at = placeOf(field);
         return at < size_ && (carried_[at / 8] >> at % 8 & 1U) != 0;
     }
 

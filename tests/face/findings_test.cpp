@@ -227,6 +227,14 @@ TEST(FindingsInLists, AreOfASectionThatStandsTwice) {
                     "than once, and the last one counts)"));
 }
 
+// ---- References ----
+
+TEST(FindingsInAttributes, AreOfAReferenceInAValueWithoutQuotes) {
+    constexpr std::string_view reference = R"(error reference 1:1 /get_general_status "&x;" (nothing became of it))";
+    EXPECT_THAT(found("general_status", "<get_general_status a='&x;'/>"), ElementsAre(reference));
+    EXPECT_THAT(found("general_status", "<get_general_status a=&x;/>"), ElementsAre(reference));
+}
+
 // ---- Other readers of the same reply ----
 
 TEST(FindingsOfSharedReplies, DoNotCallUnknownWhatAnotherReaderKnows) {
@@ -236,6 +244,15 @@ TEST(FindingsOfSharedReplies, DoNotCallUnknownWhatAnotherReaderKnows) {
     EXPECT_THAT(found("sensor_status", reply), IsEmpty());
     EXPECT_THAT(found("sensor_info", reply), IsEmpty());
     EXPECT_THAT(found("printer_id", "<printer_id><sensor_values/></printer_id>").size(), 1U);
+}
+
+TEST(FindingsOfSharedReplies, AreNotLeftOutForWhatAnotherReaderKnows) {
+    std::string reply = "<get_sensor_status>";
+    for (int i = 0; i < 30'000; ++i) reply += "<doors/>";
+    const auto reading = readAny(messageOf("sensor_states"), reply + "<dors/></get_sensor_status>", kvjxml::diagnose);
+    EXPECT_THAT(toldOf(reading.findings), ElementsAre("note unknown-element 1:240020 /get_sensor_status/dors \"dors\" "
+                                                      "(did you mean \"doors\"?)"));
+    EXPECT_EQ(reading.omitted, 0U);
 }
 
 }  // namespace

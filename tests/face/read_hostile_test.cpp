@@ -9,6 +9,7 @@
 #include <kvjxml_read.hpp>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "hostile/samples.h"
 #include "messages/message.h"
@@ -120,6 +121,32 @@ TEST(HostileFindings, HaveExcerpts) {
     const auto reading = readAny(messageOf("nonce"), "<nonce>1<" + name + "/></nonce>", kvjxml::diagnose);
     ASSERT_EQ(reading.findings.size(), 1U);
     EXPECT_LE(reading.findings[0].text.size(), 60U);
+}
+
+// ---- Memory ----
+
+/// How many entries a list of the host's has memory for, beside those that the reply has.
+template <class Entry>
+std::size_t spareOf(const std::vector<Entry>& list) {
+    return list.capacity() - list.size();
+}
+
+TEST(HostileReadings, OfElementsThatNobodyKnowsTakeNoRoomInAList) {
+    namespace messages = kvjxml::messages;
+    const std::string unknown = times(1000, "<x/>");
+    const auto jobs = kvjxml::read<messages::job_list>(within("get_job_list", unknown + "<job/>" + unknown));
+    ASSERT_EQ(jobs->jobs.size(), 1U);
+    EXPECT_EQ(spareOf(jobs->jobs), 0U);
+    const auto points = kvjxml::read<messages::access_points>(within("AccessPoints", unknown));
+    EXPECT_EQ(spareOf(points->accessPoints), 0U);
+    const auto services = kvjxml::read<messages::service_history>(within("get_log_service_history", unknown));
+    EXPECT_EQ(spareOf(services->entries), 0U);
+    const auto cleanings = kvjxml::read<messages::cleaning_history>(within("get_log_cleaning_history", unknown));
+    EXPECT_EQ(spareOf(cleanings->entries), 0U);
+    const auto printer = kvjxml::read<messages::capabilities>(
+        within("capabilities", within("fonts", unknown) + within("host_ports", unknown)));
+    EXPECT_EQ(spareOf(printer->fonts), 0U);
+    EXPECT_EQ(spareOf(printer->hostPorts), 0U);
 }
 
 // ---- Time ----
