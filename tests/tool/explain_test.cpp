@@ -49,8 +49,9 @@ TEST(ExplainValue, OfAWordIsItsCode) {
 
 TEST(ExplainValue, OfAnUnknownWordIsTheCodeThatItBecomes) {
     EXPECT_THAT(said("printerState prinitng"),
-                HasSubstr("there is no word \"prinitng\"; did you mean \"printing\"?; it becomes 38\n"));
-    EXPECT_THAT(said("_WirelessParams::security wpa9"), HasSubstr("it leaves the field alone\n"));
+                HasSubstr("there is no word \"prinitng\", and it becomes 38; did you mean \"printing\"?\n"));
+    EXPECT_THAT(said("_WirelessParams::security wpa9"),
+                HasSubstr("there is no word \"wpa9\", and it leaves the field alone; did you mean \"wpa\"?\n"));
 }
 
 TEST(ExplainValue, OfBitsIsAWordForEach) {

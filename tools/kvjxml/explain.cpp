@@ -161,9 +161,10 @@ std::string meaningOf(const CodeTable& table, std::int64_t code) {
 std::string codeOfWord(const CodeTable& table, const std::string& word) {
     const Words& words = table.rows();
     if (const auto code = codeOf({words.rows, std::nullopt, words.match}, word.c_str())) return std::to_string(*code);
-    const std::string none = unknown("word", word, words.rows, &Word::word);
-    if (!words.other) return none + "; it leaves the field alone";
-    return none + "; it becomes " + std::to_string(*words.other);
+    const std::string becomes =
+        words.other ? "it becomes " + std::to_string(*words.other) : std::string("it leaves the field alone");
+    const auto nearestWord = nearest(word, words.rows, [](const Word& row) { return std::string_view(row.word); });
+    return "there is no word \"" + visible(word) + "\", and " + becomes + meant(nearestWord);
 }
 
 /// Of a value that is no code.

@@ -91,11 +91,12 @@ std::string_view nameRead(const Message& reader, const FieldName& field) {
 /// A request with its sections under the names that replies have for their fields: the printer takes a wireless network
 /// under the name of the wired one.
 std::string asReply(const Message& reader, const std::vector<WrittenRow>& sections, std::string text) {
-    for (auto section = sections.rbegin(); section != sections.rend(); ++section) {  // What is behind moves.
-        const std::string_view sent = section->row->name;
-        const std::string_view read = nameRead(reader, section->row->description.field);
-        if (!section->element || read.empty() || read == sent) continue;
-        const std::size_t begin = section->element.offset() + 1;
+    const std::size_t size = text.size();
+    for (const WrittenRow& section : sections) {
+        const std::string_view sent = section.row->name;
+        const std::string_view read = nameRead(reader, section.row->description.field);
+        if (!section.element || read.empty() || read == sent) continue;
+        const std::size_t begin = section.element.offset() + 1 + text.size() - size;
         const std::size_t tagEnd = text.find('>', begin);
         const bool isEmpty = text[tagEnd - 1] == '/';
         if (!isEmpty) text.replace(text.find("</" + std::string(sent), tagEnd) + 2, sent.size(), read);
@@ -249,11 +250,9 @@ void forEachRow(const std::vector<WrittenRow>& rows, const Asked& asked,
 /// Whether there is a text in an element, or further inside.
 // Requests are as deep as they are written here, so the recursion ends. NOLINTNEXTLINE(misc-no-recursion)
 bool hasText(Element element) {
-    if (element.children().empty()) return element.text() != nullptr;
-    for (const Element child : element.children()) {
-        if (hasText(child)) return true;
-    }
-    return false;
+    bool has = element.children().empty() && element.text() != nullptr;
+    for (const Element child : element.children()) has = has || hasText(child);
+    return has;
 }
 
 /// The field beside a part, of the same kind, that a part is kept in when it is not in its own; null when there is

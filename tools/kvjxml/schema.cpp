@@ -216,7 +216,7 @@ Json value(const RecordType* around, const Field& field, const Rows& rows, const
         return {{"type", "array"},
                 {"items", isRecord ? object(*entry.record, entries, form) : value(nullptr, entry, entries, form)}};
     }
-    const Json plain = plainValue(field, rows);
+    Json plain = plainValue(field, rows);
     if (!form.words) return plain;
     const bool isNumber = field.type == FieldType::number;
     const bool isCode = isNumber && around != nullptr && wordsRead(around->name, field.name) != nullptr;
