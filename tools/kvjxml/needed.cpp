@@ -43,6 +43,7 @@ Needed argumentsOf(const Request& request) {
 const Needed* Needed::of(std::string_view field) const {
     static const Needed everything{.all = true, .fields = {}};
     if (all) return &everything;
+    if (field.empty()) return this;
     const auto found = fields.find(field);
     return found == fields.end() ? nullptr : &found->second;
 }

@@ -14,7 +14,8 @@ struct Needed {
     bool all = false;                           ///< every field, with all that is in it; else only
     std::map<std::string_view, Needed> fields;  ///< these, with what of each
 
-    /// What of a field is needed; null when the field may be left out.
+    /// What of a field is needed; null when the field may be left out. A group without a field of its own needs what is
+    /// needed around it.
     [[nodiscard]] const Needed* of(std::string_view field) const;
 };
 

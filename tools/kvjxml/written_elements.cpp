@@ -5,12 +5,11 @@ namespace kvj::tool {
 std::vector<WrittenRow> writtenIn(Element parent, std::span<const DescribedRow> rows, const Asked& asked,
                                   const WrittenRow& around) {
     std::vector<WrittenRow> written;
-    const Needed& inside = *around.needed;
     const auto children = parent.children();
     auto child = children.begin();
     for (const DescribedRow& row : rows) {
         const auto& field = row.description.field;
-        const Needed* const needed = field.empty() ? &inside : inside.of(field.name);
+        const Needed* const needed = around.needed->of(field.name);
         if (needed == nullptr || (row.section & asked.choices.sections) != row.section) continue;
         const std::string pointer = field.empty() ? around.pointer : around.pointer + "/" + std::string(field.name);
         // Elements stand in the order of their rows: one of another name is a later row's.
