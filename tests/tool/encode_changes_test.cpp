@@ -151,7 +151,7 @@ TEST(EncodeChanges, WhatIsChosenToBeLeftOutNeedNotBeGiven) {
 
 // ---- What is sent under another name, or is kept elsewhere ----
 
-TEST(EncodeChanges, BothNetworksAreComparedThoughTheyAreSentUnderOneName) {
+TEST(EncodeChanges, BothNetworksAreSentUnderOneNameAndNeitherIsTakenForTheOther) {
     const json networks = {{"ethernet", sample("configuration")["ethernet"]},
                            {"wireless", sample("configuration")["wireless"]}};
     expectSent("configuration --sections ethernet,wireless", networks, "<ssid>");
@@ -160,7 +160,7 @@ TEST(EncodeChanges, BothNetworksAreComparedThoughTheyAreSentUnderOneName) {
         other[name]["dhcp"] = !networks[name]["dhcp"].get<bool>();
         expectSent("configuration --sections ethernet,wireless", other, "<ssid>");
     }
-    // What a reader makes of a channel that does not fit is told of the wireless network, not of the wired one.
+    // What gets lost of a name is told of the wireless network, not of the wired one.
     json wide = networks;
     wide["wireless"]["ssid"] = "two  blanks";
     expectChange("configuration --sections ethernet,wireless", wide,
