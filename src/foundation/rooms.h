@@ -15,6 +15,7 @@
 #include "foundation/element.h"
 #include "foundation/read_rules.h"
 #include "foundation/rows.h"
+#include "foundation/watch.h"
 
 namespace kvj {
 
@@ -72,6 +73,7 @@ bool readAll(Element section, Room& room) {
     using Entry = typename decltype(RecordOfTable<Table>::entries)::element_type;
     room.resize<Entry>(0);
     List<Entry> entries{room.resize<Entry>(countEntries<Table>(section))};
+    const DiagnosedAlone unmarked(section);
     const bool result = walk(section, entries, Table);
     room.resize<Entry>(entries.filled);
     return result;

@@ -88,9 +88,13 @@ bool walk(Element element, Record& record, const std::array<RowOf<Record>, N>& t
             result = rule.read(child, record);
             isKnown = true;
             if (watch == nullptr) break;
+            if (!watch->diagnoses()) {
+                watch->mark(child, rule.description, watched(record));
+                break;
+            }
             const std::uint64_t bit = std::uint64_t{1} << (&row - table.data());
             const bool isEntry = isList<Record> && rule.description.kind != Kind::firstEntry;
-            watch->read(child, rule.description, watched(record), !isEntry && (seen & bit) != 0);
+            watch->tell(child, rule.description, watched(record), !isEntry && (seen & bit) != 0);
             seen |= bit;
             break;
         }
@@ -103,7 +107,7 @@ bool walk(Element element, Record& record, const std::array<RowOf<Record>, N>& t
 template <class Record>
 bool readItself(Element element, Record& record, const ReadRule<Record>& rule) {
     const bool result = rule.read(element, record);
-    if (Watch* const watch = element.watch()) watch->read(element, rule.description, watched(record), false);
+    if (Watch* const watch = element.watch()) watch->read(element, rule.description, watched(record));
     return result;
 }
 

@@ -41,12 +41,26 @@ public:
     Watch(const void* record, std::size_t size, unsigned char* carried, Diagnosis* diagnosis) noexcept
         : record_(record), size_(size), carried_(carried), diagnosis_(diagnosis) {}
 
-    void read(const Element& element, const Description& row, const void* record, bool again) {
-        diagnosis_ == nullptr ? mark(element, row, record) : tell(element, row, record, again);
+    void read(const Element& element, const Description& row, const void* record) {
+        diagnoses() ? tell(element, row, record, false) : mark(element, row, record);
+    }
+    /// Marks what was read.
+    void mark(const Element& element, const Description& row, const void* record) {
+        if (!isForOneField(row.kind)) return markOthers(element, row, record);
+        if (element.text() != nullptr && record != nullptr) mark(row.field, record);
+    }
+    /// The same, and tells the diagnosis.
+    /// @param again  whether the row has read another child of the same parent before.
+    [[gnu::noinline]] void tell(const Element& element, const Description& row, const void* record, bool again) {
+        const bool toOther = toOther_;
+        if (row.kind == Kind::wordOrNext) again = toOther && isMarked(row.otherField.at(record));
+        mark(element, row, record);
+        diagnosis_->read({element, row, record, again, toOther});
     }
     void skip(Element element) {
         if (diagnosis_ != nullptr) diagnosis_->skip(element);
     }
+    [[nodiscard]] bool diagnoses() const noexcept { return diagnosis_ != nullptr; }
 
     /// A field was there. Rules that read several fields mark them by themselves.
     void mark(const void* field) noexcept {
@@ -76,11 +90,6 @@ private:
         }
     }
 
-    /// Marks what was read. This is done for each element, from many places.
-    [[gnu::noinline]] void mark(const Element& element, const Description& row, const void* record) {
-        if (!isForOneField(row.kind)) return markOthers(element, row, record);
-        if (element.text() != nullptr && record != nullptr) mark(row.field, record);
-    }
     [[gnu::noinline]] void markOthers(const Element& element, const Description& row, const void* record) {
         const bool toOther = std::exchange(toOther_, false);
         if (record == nullptr || !hasValue(element, row)) return;
@@ -92,13 +101,6 @@ private:
         if (!hasOwnValue(row.kind) || row.kind == Kind::setting || row.kind == Kind::decimalSetting) return false;
         if (row.kind == Kind::attribute) return element.attribute(row.word.data()) != nullptr;
         return element.text() != nullptr;
-    }
-
-    [[gnu::noinline]] void tell(const Element& element, const Description& row, const void* record, bool again) {
-        const bool toOther = toOther_;
-        if (row.kind == Kind::wordOrNext) again = toOther && isMarked(row.otherField.at(record));
-        mark(element, row, record);
-        diagnosis_->read({element, row, record, again, toOther});
     }
 
     [[nodiscard]] std::size_t placeOf(const void* field) const noexcept {
@@ -128,16 +130,26 @@ private:
 /// While it lives nobody is told what is read from an element.
 class Unwatched {
 public:
-    explicit Unwatched(Element element) noexcept : element_(element), watch_(element.watch()) {
-        element_.watchWith(nullptr);
-    }
+    explicit Unwatched(Element element) noexcept : Unwatched(element, true) {}
     ~Unwatched() { element_.watchWith(watch_); }
     Unwatched(const Unwatched&) = delete;
     Unwatched& operator=(const Unwatched&) = delete;
 
+protected:
+    Unwatched(Element element, bool pauses) noexcept : element_(element), watch_(element.watch()) {
+        if (pauses) element_.watchWith(nullptr);
+    }
+
 private:
     Element element_;
     Watch* watch_;
+};
+
+/// The same for entries of lists, whose fields have no marks: only a diagnosis is told of them.
+class DiagnosedAlone : Unwatched {
+public:
+    explicit DiagnosedAlone(Element element) noexcept
+        : Unwatched(element, element.watch() != nullptr && !element.watch()->diagnoses()) {}
 };
 
 }  // namespace kvj

@@ -37,6 +37,7 @@ inline constexpr ReadRule<Catalogue> append{
         if (!element) return false;
         if (catalogue.record == nullptr) {
             Room* const room = roomFor(catalogue.rooms, nameOf<Member>());
+            const DiagnosedAlone unmarked(element);
             return room != nullptr && walk(element, room->append<Entry>(), Table);
         }
         auto* const entries = catalogue.record->*Member;
