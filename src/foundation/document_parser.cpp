@@ -1,7 +1,9 @@
 #include <tinyxml.h>
 
 #include <algorithm>
+#include <bit>
 #include <cctype>
+#include <cstdint>
 #include <cstring>
 #include <span>
 #include <string_view>
@@ -30,6 +32,23 @@ bool beginsInAnyCase(const char* text, std::string_view words, bool onlyAscii) n
 
 bool begins(const char* text, std::string_view words) noexcept {
     return std::ranges::all_of(words, [&](char c) { return *text++ == c; });
+}
+
+/// Whether two names of the same length are the same. Most are short, and both are followed by padding: this takes
+/// fewer steps than a call.
+bool isSame(const char* one, const char* other, std::size_t length) noexcept {
+    std::uint64_t difference = 0;
+    for (;; one += sizeof difference, other += sizeof difference, length -= sizeof difference) {
+        std::uint64_t bytes = 0;
+        std::memcpy(&difference, one, sizeof difference);
+        std::memcpy(&bytes, other, sizeof bytes);
+        difference ^= bytes;
+        if (length <= sizeof difference) break;
+        if (difference != 0) return false;
+    }
+    if (length == 0) return true;
+    if constexpr (std::endian::native == std::endian::big) difference = __builtin_bswap64(difference);
+    return difference << 8 * (sizeof difference - length) == 0;
 }
 
 /// The most elements and attributes that a text can have: an element needs a "<" followed by a letter, an attribute an
@@ -296,7 +315,7 @@ private:
     bool closeElement() noexcept {
         const Node& node = nodes_[open_];
         char* const name = at_ + 1;
-        if (end_ - name < node.nameLength || std::memcmp(name, text_ + node.name, node.nameLength) != 0) {
+        if (end_ - name < node.nameLength || !isSame(name, text_ + node.name, node.nameLength)) {
             return fail(TiXmlBase::TIXML_ERROR_READING_END_TAG, at_ - 1);
         }
         at_ = name + node.nameLength;

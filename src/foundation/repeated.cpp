@@ -18,15 +18,6 @@ using Attributes = std::span<const Document::Attribute>;
 /// Up to this many, comparing each with all before it costs less than sorting.
 constexpr std::size_t few = 8;
 
-std::size_t firstRepeatedOfFew(Attributes attributes, const char* text) noexcept {
-    for (std::size_t i = 1; i < attributes.size(); ++i) {
-        for (std::size_t k = 0; k < i; ++k) {
-            if (std::strcmp(text + attributes[i].name, text + attributes[k].name) == 0) return i;
-        }
-    }
-    return attributes.size();
-}
-
 /// Eight bytes of a name, and whose they are.
 struct Part {
     std::uint64_t bytes;
@@ -42,6 +33,21 @@ std::uint64_t bytesOf(const char* name) noexcept {
     // The lowest bit that is set is that of the first byte that is zero.
     const std::uint64_t zeros = (bytes - 0x0101010101010101) & ~bytes & 0x8080808080808080;
     return zeros == 0 ? bytes : bytes & ((zeros & -zeros) - 1);
+}
+
+bool isSame(const char* one, const char* other) noexcept {
+    const std::uint64_t bytes = bytesOf(one);
+    if (bytes != bytesOf(other)) return false;  // As good as always.
+    return bytes >> 56 == 0 || std::strcmp(one, other) == 0;
+}
+
+std::size_t firstRepeatedOfFew(Attributes attributes, const char* text) noexcept {
+    for (std::size_t i = 1; i < attributes.size(); ++i) {
+        for (std::size_t k = 0; k < i; ++k) {
+            if (isSame(text + attributes[i].name, text + attributes[k].name)) return i;
+        }
+    }
+    return attributes.size();
 }
 
 /// Whether the name ends within its eight bytes.

@@ -83,6 +83,19 @@ TEST(Document, AnEndTagMayHaveBlanksBehindTheNameOnly) {
                     {"<a></aa>", "a{}", wrongEndTag}});
 }
 
+TEST(Document, AnEndTagHasEveryByteOfTheName) {
+    for (std::size_t length = 1; length <= 25; ++length) {
+        const std::string name(length, 'a');
+        const std::string tree = name + "{}";
+        expectReadings({{"<" + name + "></" + name + ">", tree}});
+        for (std::size_t place = 0; place < length; ++place) {
+            std::string other = name;
+            other[place] = 'b';
+            expectReadings({{"<" + name + "></" + other + ">", tree, wrongEndTag}});
+        }
+    }
+}
+
 TEST(Document, AWrongEndTagEndsEverything) {
     expectReadings({{"<r><a>1</a></b><c/></r>", "r \"a\"{a \"1\"{}}", wrongEndTag},
                     {"<r><a></b><c/></r>", "r \"a\"{a{}}", wrongEndTag},

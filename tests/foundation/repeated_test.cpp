@@ -110,7 +110,7 @@ TEST(Repeated, NamesThatAreBeginningsOfEachOtherDiffer) {
 }
 
 TEST(Repeated, NamesDifferInAnyOfTheirBytes) {
-    for (const std::size_t count : {20U, 500U}) {
+    for (const std::size_t count : {5U, 20U, 500U}) {
         for (std::size_t place = 0; place < 20; ++place) {
             std::vector<std::string> names;
             for (std::size_t i = 0; i < count; ++i) {
