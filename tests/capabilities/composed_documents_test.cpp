@@ -16,6 +16,8 @@
 #include "support/files.h"
 #include "support/xml.h"
 
+namespace composed_documents_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -430,3 +432,5 @@ TEST(CapabilitiesRequest, IsNotSavedWithoutANameOrWhereNoFileCanBe) {
 }
 
 }  // namespace
+
+}  // namespace composed_documents_test

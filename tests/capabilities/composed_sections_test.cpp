@@ -14,6 +14,8 @@
 #include "capabilities/whole.h"
 #include "support/xml.h"
 
+namespace composed_sections_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -399,3 +401,5 @@ TEST(ComposedSection, WithoutAnElementToAddToIsFalse) {
 }
 
 }  // namespace
+
+}  // namespace composed_sections_test

@@ -10,6 +10,8 @@
 #include "capabilities/records.h"
 #include "support/xml.h"
 
+namespace entries_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -183,3 +185,5 @@ TEST(GraphicFormatEntry, AnUnknownFormatIsMinus1AndRead) {
 }
 
 }  // namespace
+
+}  // namespace entries_test

@@ -17,6 +17,8 @@
 #include "foundation/member.h"
 #include "support/xml.h"
 
+namespace lists_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -435,3 +437,5 @@ TEST_F(DevicePortList, ASecondSectionForWhichThereIsRoomIsReadAfterARefusedOne) 
 }
 
 }  // namespace
+
+}  // namespace lists_test

@@ -11,6 +11,8 @@
 #include "support/files.h"
 #include "support/xml.h"
 
+namespace reading_back_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -213,3 +215,5 @@ TEST(ReadingBackCodes, AMagneticHeadSurvivesWhenItIsWrittenAlone) {
 }
 
 }  // namespace
+
+}  // namespace reading_back_test

@@ -12,6 +12,8 @@
 #include "support/files.h"
 #include "support/xml.h"
 
+namespace replies_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -366,3 +368,5 @@ TEST(CapabilitiesSample, TheSecondCallFillsTheLists) {
 }
 
 }  // namespace
+
+}  // namespace replies_test

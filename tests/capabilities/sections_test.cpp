@@ -9,6 +9,8 @@
 #include "capabilities/records.h"
 #include "support/xml.h"
 
+namespace sections_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -411,3 +413,5 @@ TEST(SingleValue, WithoutAnElementItIsFalse) {
 }
 
 }  // namespace
+
+}  // namespace sections_test

@@ -10,6 +10,8 @@
 #include "KVJHelper.h"
 #include "KVJSetCaps.h"
 
+namespace words_test {
+
 namespace {
 
 using namespace Kavrin;
@@ -114,3 +116,5 @@ TEST(BothDirections, WordsThatAreOnlyWrittenReadAsTheDefault) {
 }
 
 }  // namespace
+
+}  // namespace words_test

@@ -17,6 +17,8 @@
 #include "configuration/document.h"
 #include "configuration/records.h"
 
+namespace composed_sections_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -459,3 +461,5 @@ TEST(Texts, ThatAreNotTerminatedAreWrittenWholeAndNotBeyond) {
 }
 
 }  // namespace
+
+}  // namespace composed_sections_test

@@ -7,6 +7,8 @@
 
 #include "configuration/requests.h"
 
+namespace diagnostic_copy_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -92,3 +94,5 @@ TEST_F(ConfigurationCopy, IsNotLeftThroughALinkAndTheHostHasItsRequest) {
 }
 
 }  // namespace
+
+}  // namespace diagnostic_copy_test

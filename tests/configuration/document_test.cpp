@@ -12,6 +12,8 @@
 #include "KVJConfigParser.h"
 #include "configuration/records.h"
 
+namespace document_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -588,3 +590,5 @@ TEST(ExampleReply, HasEverySection) {
 }
 
 }  // namespace
+
+}  // namespace document_test

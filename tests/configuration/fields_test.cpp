@@ -14,6 +14,8 @@
 #include "KVJConfigParser.h"
 #include "configuration/records.h"
 
+namespace fields_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -432,3 +434,5 @@ TEST(InternalEncoder, AContactStationIsNeverRead) {
 }
 
 }  // namespace
+
+}  // namespace fields_test

@@ -9,6 +9,8 @@
 #include "KVJConfigParser.h"
 #include "configuration/records.h"
 
+namespace media_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -329,3 +331,5 @@ TEST(Laminate, OfTheTopAndOfTheBottomHaveTheirOwnRecords) {
 }
 
 }  // namespace
+
+}  // namespace media_test

@@ -12,6 +12,8 @@
 #include "KVJConfigParser.h"
 #include "configuration/records.h"
 
+namespace readers_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -242,3 +244,5 @@ INSTANTIATE_TEST_SUITE_P(Readers, SectionReader, testing::ValuesIn(sections()), 
 INSTANTIATE_TEST_SUITE_P(Readers, ReaderOfDistinctNames, testing::ValuesIn(sectionsButEncoder()), nameOfSection);
 
 }  // namespace
+
+}  // namespace readers_test

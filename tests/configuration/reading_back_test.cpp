@@ -7,6 +7,8 @@
 #include "KVJConfigParser.h"
 #include "configuration/requests.h"
 
+namespace reading_back_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -238,3 +240,5 @@ TEST_F(ReadingBack, AllSectionsTogetherComeBackAsEachByItself) {
 }
 
 }  // namespace
+
+}  // namespace reading_back_test

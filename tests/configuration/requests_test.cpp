@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+namespace requests_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -429,3 +431,5 @@ TEST_F(ConfigurationRequest, TextsAreEscaped) {
 }
 
 }  // namespace
+
+}  // namespace requests_test

@@ -10,6 +10,8 @@
 #include "KVJConfigParser.h"
 #include "configuration/records.h"
 
+namespace settings_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -285,3 +287,5 @@ TEST(LaminateControl, OfTheNamesForOneFieldTheLaterElementCounts) {
 }
 
 }  // namespace
+
+}  // namespace settings_test

@@ -15,6 +15,8 @@
 #include "KVJStatusParser.h"
 #include "configuration/requests.h"
 
+namespace threads_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -79,3 +81,5 @@ TEST_F(ConfigurationThreads, OneReadsWhileOthersComposeAndReadStatuses) {
 }
 
 }  // namespace
+
+}  // namespace threads_test

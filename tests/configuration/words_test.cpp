@@ -11,6 +11,8 @@
 #include "configuration/records.h"
 #include "foundation/name.h"
 
+namespace words_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -100,3 +102,5 @@ TEST(EncoderWords, DoNotDependOnTheLastArgument) {
 }
 
 }  // namespace
+
+}  // namespace words_test

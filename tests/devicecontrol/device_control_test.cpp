@@ -24,6 +24,8 @@
 
 #include "support/files.h"
 
+namespace device_control_test {
+
 using kvj::tests::contentOf;
 using kvj::tests::TemporaryFolder;
 
@@ -776,3 +778,5 @@ TEST_F(ServiceCopy, ThatItCannotBeWrittenIsNotReported) {
 }
 
 }  // namespace
+
+}  // namespace device_control_test

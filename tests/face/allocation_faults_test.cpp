@@ -10,6 +10,8 @@
 #include "face/random_records.h"
 #include "hostile/allocation_watch.h"
 
+namespace allocation_faults_test {
+
 using kvj::Choices;
 using kvj::Request;
 using kvj::ZeroedRecord;
@@ -63,3 +65,5 @@ TEST_P(AllocationFaults, AreThrownAndNothingIsLost) {
 }
 
 }  // namespace
+
+}  // namespace allocation_faults_test

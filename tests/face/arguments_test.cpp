@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+namespace arguments_test {
+
 namespace commands = kvjxml::commands;
 namespace handshake = kvjxml::handshake;
 using kvjxml::problem;
@@ -173,3 +175,5 @@ TEST(Handshake, LeavesOutTextsThatAreEmpty) {
 }
 
 }  // namespace
+
+}  // namespace arguments_test

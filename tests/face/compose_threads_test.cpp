@@ -9,6 +9,8 @@
 #include "face/faces.h"
 #include "face/random_records.h"
 
+namespace compose_threads_test {
+
 namespace {
 
 using kvj::Choices;
@@ -47,3 +49,5 @@ TEST(ComposingThreads, ShareARecord) {
 }
 
 }  // namespace
+
+}  // namespace compose_threads_test

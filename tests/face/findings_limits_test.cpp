@@ -9,6 +9,8 @@
 
 #include "support/readings.h"
 
+namespace findings_limits_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -166,3 +168,5 @@ TEST(AWordInCapitals, HasTheRightOneAsAHint) {
 }
 
 }  // namespace
+
+}  // namespace findings_limits_test

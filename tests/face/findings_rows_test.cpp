@@ -19,6 +19,8 @@
 #include "messages/message.h"
 #include "support/readings.h"
 
+namespace findings_rows_test {
+
 namespace {
 
 using namespace kvj;
@@ -610,3 +612,5 @@ TEST(EveryElement, WithAByteInItsNameThatIsNotUtf8IsFoundAtThatByte) {
 }
 
 }  // namespace
+
+}  // namespace findings_rows_test

@@ -14,6 +14,8 @@
 #include "support/random_replies.h"
 #include "support/readings.h"
 
+namespace findings_samples_test {
+
 namespace {
 
 using namespace kvj;
@@ -102,3 +104,5 @@ TEST(FindingsOfAnyReply, SayWhatTheReadingSays) {
 }
 
 }  // namespace
+
+}  // namespace findings_samples_test

@@ -10,6 +10,8 @@
 #include "messages/message.h"
 #include "support/readings.h"
 
+namespace findings_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -256,3 +258,5 @@ TEST(FindingsOfSharedReplies, AreNotLeftOutForWhatAnotherReaderKnows) {
 }
 
 }  // namespace
+
+}  // namespace findings_test

@@ -16,6 +16,8 @@
 #include "fields/status.h"
 #include "messages/message.h"
 
+namespace messages_test {
+
 namespace {
 
 /// A message of the header's.
@@ -100,3 +102,5 @@ TEST(Messages, HaveTheRecordOfTheNamedOperationOrOneOfTheirOwn) {
 }
 
 }  // namespace
+
+}  // namespace messages_test

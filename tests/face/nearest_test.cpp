@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+namespace nearest_test {
+
 namespace {
 
 using kvj::distance;
@@ -75,3 +77,5 @@ TEST(Nearest, IsTheFirstOfTheNearest) {
 }
 
 }  // namespace
+
+}  // namespace nearest_test

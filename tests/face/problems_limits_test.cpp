@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+namespace problems_limits_test {
+
 namespace {
 
 using kvjxml::problem_kind;
@@ -33,3 +35,5 @@ TEST(AnIpAddress, LosesWhatIsBeyondThat) {
 }
 
 }  // namespace
+
+}  // namespace problems_limits_test

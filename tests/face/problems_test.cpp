@@ -49,6 +49,8 @@ void PrintTo(const problem& it, std::ostream* out) {
 }  // namespace v1
 }  // namespace kvjxml
 
+namespace problems_test {
+
 namespace {
 
 /// A row that is a value, with where it is: its field in the record, and its element in the request.
@@ -534,3 +536,5 @@ TEST(ProblemsOfKeys, AreFoundInEach) {
 }
 
 }  // namespace
+
+}  // namespace problems_test

@@ -12,6 +12,8 @@
 #include "messages/message.h"
 #include "support/readings.h"
 
+namespace read_allocations_test {
+
 namespace {
 
 using namespace kvj;
@@ -90,3 +92,5 @@ TEST(FaultsInReadings, OfAHostAreThrown) {
 }
 
 }  // namespace
+
+}  // namespace read_allocations_test

@@ -16,6 +16,8 @@
 #include "support/guarded_memory.h"
 #include "support/readings.h"
 
+namespace read_hostile_test {
+
 namespace {
 
 using namespace kvj;
@@ -212,3 +214,5 @@ TEST(HostileReadings, OfManyAttributesTakeTimeInProportion) {
 }
 
 }  // namespace
+
+}  // namespace read_hostile_test

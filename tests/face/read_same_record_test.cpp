@@ -27,6 +27,8 @@ namespace kvj {
 inline void PrintTo(const Message& message, std::ostream* out) { *out << message.name; }
 }  // namespace kvj
 
+namespace read_same_record_test {
+
 namespace {
 
 using namespace kvj;
@@ -223,3 +225,5 @@ TEST(SameRecordOf, ACardWhoseSettingStandsTwice) {
 }
 
 }  // namespace
+
+}  // namespace read_same_record_test

@@ -21,6 +21,8 @@ namespace kvjxml {
 inline void PrintTo(const finding& found, std::ostream* out) { *out << to_string(found.kind) << " at " << found.path; }
 }  // namespace kvjxml
 
+namespace read_test {
+
 namespace {
 
 namespace messages = kvjxml::messages;
@@ -481,3 +483,5 @@ TEST(ReadFindings, ChangeNothingThatIsRead) {
 }
 
 }  // namespace
+
+}  // namespace read_test

@@ -15,6 +15,8 @@
 #include "hostile/samples.h"
 #include "support/readings.h"
 
+namespace read_threads_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -43,3 +45,5 @@ TEST(ReadingThreads, ReadConfigurationsAsOneDoes) {
 }
 
 }  // namespace
+
+}  // namespace read_threads_test

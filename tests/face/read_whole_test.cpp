@@ -9,6 +9,8 @@
 #include "hostile/samples.h"
 #include "support/readings.h"
 
+namespace read_whole_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -168,3 +170,5 @@ TEST(Whole, OrNotItIsReadAsFarAsItMakesSense) {
 }
 
 }  // namespace
+
+}  // namespace read_whole_test

@@ -23,6 +23,8 @@
 #include "messages/message.h"
 #include "sections.h"
 
+namespace results_test {
+
 using kvjxml::identity_section;
 using kvjxml::section;
 
@@ -180,3 +182,5 @@ TEST(Composing, LeavesNoCopy) {
 }
 
 }  // namespace
+
+}  // namespace results_test

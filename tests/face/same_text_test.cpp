@@ -11,6 +11,8 @@
 #include "face/random_records.h"
 #include "support/files.h"
 
+namespace same_text_test {
+
 using kvj::Choices;
 using kvj::Request;
 using kvj::ZeroedRecord;
@@ -116,3 +118,5 @@ TEST(SameText, WithoutAcceptedChangesWhereNothingIsRefused) {
 }
 
 }  // namespace
+
+}  // namespace same_text_test

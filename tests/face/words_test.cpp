@@ -21,6 +21,8 @@
 #include "support/lines.h"
 #include "words/word_file.h"
 
+namespace words_test {
+
 namespace {
 
 using kvj::DescribedRow;
@@ -349,3 +351,5 @@ TEST(FaceWords, BitsWithoutWordsAreListedByTheirNumbers) {
 }
 
 }  // namespace
+
+}  // namespace words_test

@@ -11,6 +11,8 @@
 #include "fields/list.h"
 #include "fields/status.h"
 
+namespace count_test {
+
 namespace {
 
 using Kavrin::_tagCleaningLogEntry;
@@ -54,3 +56,5 @@ TEST(CountOf, OfAnArrayWithoutACountEndsWithTheLastThatIsNotZero) {
 }
 
 }  // namespace
+
+}  // namespace count_test

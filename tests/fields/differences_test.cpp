@@ -14,6 +14,8 @@
 #include "fields/list.h"
 #include "fields/status.h"
 
+namespace differences_test {
+
 namespace {
 
 using testing::ElementsAre;
@@ -60,3 +62,5 @@ TEST(Differences, AreFoundInEntriesAndTheirNumber) {
 }
 
 }  // namespace
+
+}  // namespace differences_test

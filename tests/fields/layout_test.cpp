@@ -10,6 +10,8 @@
 #include "fields/records.h"
 #include "support/shell.h"
 
+namespace layout_test {
+
 namespace {
 
 using kvj::Field;
@@ -171,3 +173,5 @@ TEST(Layout, AFieldBeginsWhereTheOneBeforeItEnds) {
 }
 
 }  // namespace
+
+}  // namespace layout_test

@@ -6,6 +6,8 @@
 
 #include "kvjxml.h"
 
+namespace types_test {
+
 using namespace Kavrin;
 
 template <class... Readers>
@@ -34,3 +36,5 @@ static_assert(areAsLargeAsInt<USB_Speed, ErrorControl, _eFeedMode, WirelessSecur
 
 static_assert(sizeof(szRibbonName) == 32);
 static_assert(KVJOBLIST_CAPACITY == 64);
+
+}  // namespace types_test

@@ -7,6 +7,8 @@
 
 #include "support/xml.h"
 
+namespace both_test {
+
 namespace both = kvj::both;
 using kvj::Kind;
 using kvj::tests::written;
@@ -102,3 +104,5 @@ TEST(Both, SaysOfItselfWhatEachDirectionDoes) {
 }
 
 }  // namespace
+
+}  // namespace both_test

@@ -12,6 +12,8 @@
 #include "foundation/write_rules.h"
 #include "support/xml.h"
 
+namespace compose_test {
+
 using kvj::Selection;
 using kvj::tests::written;
 namespace put = kvj::put;
@@ -436,3 +438,5 @@ TEST(DescribedRequest, GroupsPartsAndListsSayTheirRows) {
 }
 
 }  // namespace
+
+}  // namespace compose_test

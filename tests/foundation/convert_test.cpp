@@ -21,6 +21,8 @@
 
 #include "support/locale_scope.h"
 
+namespace convert_test {
+
 namespace convert = kvj::convert;
 using kvj::tests::LocaleScope;
 
@@ -653,3 +655,5 @@ TEST(FromHardwareAddress, WritesTwoSmallDigitsAByte) {
 }
 
 }  // namespace
+
+}  // namespace convert_test

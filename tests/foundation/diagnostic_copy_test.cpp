@@ -22,6 +22,8 @@
 #include "support/file_size_limit.h"
 #include "support/files.h"
 
+namespace diagnostic_copy_test {
+
 using kvj::tests::contentOf;
 using kvj::tests::FileSizeLimit;
 using kvj::tests::TemporaryFolder;
@@ -389,3 +391,5 @@ TEST_F(DiagnosticCopy, OfAProcessThatIsEndedIsWholeAndWhatElseIsLeftOnlyItsOwner
 }
 
 }  // namespace
+
+}  // namespace diagnostic_copy_test

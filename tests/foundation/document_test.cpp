@@ -15,6 +15,8 @@
 #include "foundation/reading.h"
 #include "support/locale_scope.h"
 
+namespace document_test {
+
 using namespace kvj;
 using namespace kvj::tests;
 using std::string_view_literals::operator""sv;
@@ -757,3 +759,5 @@ TEST(Text, OfMoreThanThereCanBeThrows) {
 }
 
 }  // namespace
+
+}  // namespace document_test

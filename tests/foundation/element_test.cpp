@@ -8,6 +8,8 @@
 #include "support/tree.h"
 #include "support/xml.h"
 
+namespace element_test {
+
 using namespace kvj;
 using kvj::tests::documentOf;
 using kvj::tests::Xml;
@@ -126,3 +128,5 @@ TEST(Element, OneThatIsNullHasNothing) {
 }
 
 }  // namespace
+
+}  // namespace element_test

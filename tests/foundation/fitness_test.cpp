@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+namespace fitness_test {
+
 namespace {
 
 using kvj::isName;
@@ -53,3 +55,5 @@ TEST(Names, BeginWithALetter) {
 }
 
 }  // namespace
+
+}  // namespace fitness_test

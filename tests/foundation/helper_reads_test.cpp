@@ -12,6 +12,8 @@
 #include "foundation/name.h"
 #include "support/xml.h"
 
+namespace helper_reads_test {
+
 using kvj::tests::Name;
 using kvj::tests::Xml;
 
@@ -557,3 +559,5 @@ TEST(GetIP, IsReservedAlwaysFalseAndWritesNothing) {
 }
 
 }  // namespace
+
+}  // namespace helper_reads_test

@@ -12,6 +12,8 @@
 #include "foundation/name.h"
 #include "support/xml.h"
 
+namespace helper_writes_test {
+
 using kvj::tests::Name;
 using kvj::tests::written;
 
@@ -247,3 +249,5 @@ TEST_F(WrittenElements, AnAttributeNeedsAnElementANameAndAValue) {
 }
 
 }  // namespace
+
+}  // namespace helper_writes_test

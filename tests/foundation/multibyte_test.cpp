@@ -13,6 +13,8 @@
 #include "support/guarded_memory.h"
 #include "support/locale_scope.h"
 
+namespace multibyte_test {
+
 using kvj::tests::End;
 using kvj::tests::GuardedMemory;
 using kvj::tests::LocaleScope;
@@ -186,3 +188,5 @@ TEST(ToWide, FollowsTheLocale) {
 }
 
 }  // namespace
+
+}  // namespace multibyte_test

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+namespace references_test {
+
 namespace {
 
 using std::string_literals::operator""s;
@@ -87,3 +89,5 @@ TEST(References, MayBeDecodedToWhereTheyStandOrBefore) {
 }
 
 }  // namespace
+
+}  // namespace references_test

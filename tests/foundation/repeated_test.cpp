@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+namespace repeated_test {
+
 namespace {
 
 using kvj::Document;
@@ -147,3 +149,5 @@ TEST(Repeated, AgreesWithASetOnNamesOfEveryKind) {
 }
 
 }  // namespace
+
+}  // namespace repeated_test

@@ -12,6 +12,8 @@
 #include "support/locale_scope.h"
 #include "support/xml.h"
 
+namespace request_test {
+
 using kvj::tests::contentOf;
 using kvj::tests::LocaleScope;
 using kvj::tests::TemporaryFolder;
@@ -210,3 +212,5 @@ TEST(Save, WithoutAFileToWriteItIsFalse) {
 }
 
 }  // namespace
+
+}  // namespace request_test

@@ -9,6 +9,8 @@
 
 #include "foundation/request.h"
 
+namespace request_text_test {
+
 using kvj::Parent;
 using kvj::RequestText;
 using kvj::TextRoom;
@@ -127,3 +129,5 @@ TEST(RequestText, ThrowsWhenThereIsNoMoreRoom) {
 }
 
 }  // namespace
+
+}  // namespace request_text_test

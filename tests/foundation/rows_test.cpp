@@ -23,6 +23,8 @@ namespace kvj {
 constexpr WordTable levels({{"low", 3}});
 }
 
+namespace rows_test {
+
 namespace {
 
 enum Colour { red = 1, blue = 2 };
@@ -405,3 +407,5 @@ TEST(Description, OfATableHasItsRowsInOrderWithThoseOfItsGroups) {
 }
 
 }  // namespace
+
+}  // namespace rows_test

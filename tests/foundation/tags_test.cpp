@@ -5,6 +5,8 @@
 
 #include "support/xml.h"
 
+namespace tags_test {
+
 using kvj::tests::written;
 
 namespace {
@@ -121,3 +123,5 @@ TEST_F(SetAttribute, WithoutElementNameOrValueSetsNothing) {
 }
 
 }  // namespace
+
+}  // namespace tags_test

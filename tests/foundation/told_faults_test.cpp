@@ -9,6 +9,8 @@
 #include "KVJPrinterIDParser.h"
 #include "support/files.h"
 
+namespace told_faults_test {
+
 namespace {
 
 using kvj::tests::contentOf;
@@ -133,3 +135,5 @@ TYPED_TEST(ToldFaults, AByteOrderMarkIsKeptForTheFileThatTheHostSaves) {
 }
 
 }  // namespace
+
+}  // namespace told_faults_test

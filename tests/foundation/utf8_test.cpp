@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+namespace utf8_test {
+
 namespace {
 
 using kvj::firstOutsideUtf8;
@@ -59,3 +61,5 @@ TEST(FirstOutsideUtf8, IsWhatStandsForNoCharacter) {
 }
 
 }  // namespace
+
+}  // namespace utf8_test

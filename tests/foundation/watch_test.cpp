@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+namespace watch_test {
+
 namespace {
 
 using testing::ElementsAre;
@@ -36,3 +38,5 @@ TEST(Watch, MarksNothingBesideTheRecord) {
 }
 
 }  // namespace
+
+}  // namespace watch_test

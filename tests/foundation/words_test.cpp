@@ -16,6 +16,8 @@
 #include "foundation/vocabulary.h"
 #include "support/locale_scope.h"
 
+namespace words_test {
+
 using kvj::Match;
 using kvj::Word;
 using kvj::Words;
@@ -168,3 +170,5 @@ TEST(CommsChannel, TheCapabilitiesWriteAWordForUsbThatIsNotRead) {
 }
 
 }  // namespace
+
+}  // namespace words_test

@@ -19,6 +19,8 @@
 #include "hostile/samples.h"
 #include "support/readers.h"
 
+namespace allocation_faults_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -173,3 +175,5 @@ TEST(FaultsInComposers, AreThrownAndLeaveNothingBehindAndTheNextCallComposes) {
 }
 
 }  // namespace
+
+}  // namespace allocation_faults_test

@@ -7,6 +7,8 @@
 
 #include "messages/request.h"
 
+namespace composers_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -22,3 +24,5 @@ TEST(ComposingExamples, AreThereForEveryRequestWithTheCopyThatItLeaves) {
 }
 
 }  // namespace
+
+}  // namespace composers_test

@@ -17,6 +17,8 @@
 #include "support/file_size_limit.h"
 #include "support/files.h"
 
+namespace diagnostic_copy_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -166,3 +168,5 @@ TEST(DiagnosticCopy, InAFolderThatCannotBeWrittenIsNotMade) {
 }
 
 }  // namespace
+
+}  // namespace diagnostic_copy_test

@@ -11,6 +11,8 @@
 #include "support/guarded_memory.h"
 #include "support/readers.h"
 
+namespace guard_pages_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -105,3 +107,5 @@ TEST(GuardPages, AreNotTouchedByACharacterThatIsCut) {
 }
 
 }  // namespace
+
+}  // namespace guard_pages_test

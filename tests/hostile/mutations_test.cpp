@@ -9,6 +9,8 @@
 #include "hostile/samples.h"
 #include "support/readers.h"
 
+namespace mutations_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -40,3 +42,5 @@ TEST_P(Mutations, ByANulEndTheReply) {
 }
 
 }  // namespace
+
+}  // namespace mutations_test

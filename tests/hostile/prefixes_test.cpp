@@ -8,6 +8,8 @@
 #include "hostile/samples.h"
 #include "support/readers.h"
 
+namespace prefixes_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -55,3 +57,5 @@ TEST_P(Prefixes, OfAnotherReplyAReaderDoesNotRead) {
 }
 
 }  // namespace
+
+}  // namespace prefixes_test

@@ -10,6 +10,8 @@
 #include "hostile/sanitizers.h"
 #include "support/readers.h"
 
+namespace stack_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -81,3 +83,5 @@ TEST_F(SmallStack, IsEnoughForTheWidestReplies) {
 }
 
 }  // namespace
+
+}  // namespace stack_test

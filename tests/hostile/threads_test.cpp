@@ -20,6 +20,8 @@
 #include "hostile/sanitizers.h"
 #include "support/readers.h"
 
+namespace threads_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -114,3 +116,5 @@ TEST(Threads, ComposeAsOneDoes) {
 }
 
 }  // namespace
+
+}  // namespace threads_test

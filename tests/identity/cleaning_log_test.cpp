@@ -11,6 +11,8 @@
 #include "support/records.h"
 #include "support/xml.h"
 
+namespace cleaning_log_test {
+
 namespace {
 
 using Kavrin::_tagCleaningLogEntry;
@@ -200,3 +202,5 @@ TEST_F(CleaningLog, TheWalkersAreFalseForNoElementAndForOneWithoutChildren) {
 }
 
 }  // namespace
+
+}  // namespace cleaning_log_test

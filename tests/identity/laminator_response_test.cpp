@@ -7,6 +7,8 @@
 #include "KVJNDC.h"
 #include "support/xml.h"
 
+namespace laminator_response_test {
+
 namespace {
 
 using Kavrin::KVJNDC;
@@ -102,3 +104,5 @@ TEST(LaminatorResponse, ReplacesTheOneBefore) {
 }
 
 }  // namespace
+
+}  // namespace laminator_response_test

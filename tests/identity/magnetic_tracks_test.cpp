@@ -9,6 +9,8 @@
 #include "KVJGetEIN.h"
 #include "support/xml.h"
 
+namespace magnetic_tracks_test {
+
 namespace {
 
 using Kavrin::__GETTRACK;
@@ -165,3 +167,5 @@ TEST(MagneticTracks, TheWalkersAreFalseForNoElementAndForOneWithoutChildren) {
 }
 
 }  // namespace
+
+}  // namespace magnetic_tracks_test

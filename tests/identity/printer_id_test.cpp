@@ -13,6 +13,8 @@
 #include "support/files.h"
 #include "support/xml.h"
 
+namespace printer_id_test {
+
 namespace {
 
 using Kavrin::KVJPrinterIDParser;
@@ -421,3 +423,5 @@ TEST_F(PrinterId, TheWalkerIsFalseForNoElementAndForOneWithoutChildren) {
 }
 
 }  // namespace
+
+}  // namespace printer_id_test

@@ -13,6 +13,8 @@
 #include "support/records.h"
 #include "support/xml.h"
 
+namespace service_log_test {
+
 namespace {
 
 using Kavrin::_tagLogServiceValues;
@@ -331,3 +333,5 @@ TEST_F(ServiceLog, TheWalkersAreFalseForNoElementAndForOneWithoutChildren) {
 }
 
 }  // namespace
+
+}  // namespace service_log_test

@@ -17,6 +17,8 @@
 #include "support/files.h"
 #include "support/xml.h"
 
+namespace set_printer_info_test {
+
 namespace {
 
 using namespace Kavrin;
@@ -342,3 +344,5 @@ TEST_F(SetPrinterInfo, IsDeliveredWhenTheCopyCannotBeWritten) {
 }
 
 }  // namespace
+
+}  // namespace set_printer_info_test

@@ -18,6 +18,8 @@
 #include "support/files.h"
 #include "support/xml.h"
 
+namespace allocation_faults_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -281,3 +283,5 @@ TEST(ACatalogueInItsPlace, LosesNothingWhereItCannotBeMade) {
 }
 
 }  // namespace
+
+}  // namespace allocation_faults_test

@@ -13,6 +13,8 @@
 #include "media/records.h"
 #include "support/xml.h"
 
+namespace card_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -410,3 +412,5 @@ TEST(Card, NoElementAppendsNothingAndIsFalse) {
 }
 
 }  // namespace
+
+}  // namespace card_test

@@ -11,6 +11,8 @@
 #include "media/records.h"
 #include "support/files.h"
 
+namespace catalogue_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -211,3 +213,5 @@ TEST_F(Catalogue, WithoutListsIsNotFilled) {
 }
 
 }  // namespace
+
+}  // namespace catalogue_test

@@ -14,6 +14,8 @@
 #include "media/records.h"
 #include "support/files.h"
 
+namespace life_cycle_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -301,3 +303,5 @@ TEST_F(MediaLife, TheDestructorOfARecordThatIsNotBuiltFindsNothing) {
 }
 
 }  // namespace
+
+}  // namespace life_cycle_test

@@ -11,6 +11,8 @@
 #include "media/records.h"
 #include "support/xml.h"
 
+namespace lists_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -342,3 +344,5 @@ TEST(MediaLists, AListThatIsThereIsFilledWhereAnotherIsNot) {
 }
 
 }  // namespace
+
+}  // namespace lists_test

@@ -16,6 +16,8 @@
 #include "support/files.h"
 #include "support/xml.h"
 
+namespace set_media_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -484,3 +486,5 @@ TEST_F(SetMedia, TheExampleWrittenAndReadLosesItsListsItsOtherTypesAndItsSpeeds)
 }
 
 }  // namespace
+
+}  // namespace set_media_test

@@ -11,6 +11,8 @@
 #include "messages/any_reading.h"
 #include "support/files.h"
 
+namespace any_reading_test {
+
 namespace {
 
 using namespace kvj;
@@ -91,3 +93,5 @@ TEST(AnyReading, CountsTheFindingsThatAreTooMany) {
 }
 
 }  // namespace
+
+}  // namespace any_reading_test

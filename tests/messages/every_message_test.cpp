@@ -18,6 +18,8 @@ static void PrintTo(const Message& message, std::ostream* out) { *out << message
 
 }  // namespace kvj
 
+namespace every_message_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -171,3 +173,5 @@ std::string nameOf(const testing::TestParamInfo<Message>& info) { return std::st
 INSTANTIATE_TEST_SUITE_P(, EveryMessage, testing::ValuesIn(kvj::messages().begin(), kvj::messages().end()), nameOf);
 
 }  // namespace
+
+}  // namespace every_message_test

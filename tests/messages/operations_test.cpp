@@ -9,6 +9,8 @@
 #include "messages/request.h"
 #include "support/lines.h"
 
+namespace operations_test {
+
 namespace {
 
 using kvj::tests::exported;
@@ -37,3 +39,5 @@ TEST(Requests, AreAllThatTheLibraryComposes) {
 }
 
 }  // namespace
+
+}  // namespace operations_test

@@ -9,6 +9,8 @@
 #include "KVJSecAction.h"
 #include "support/xml.h"
 
+namespace sec_action_test {
+
 namespace {
 
 using namespace Kavrin;
@@ -461,3 +463,5 @@ TEST(Keys, TheWalkersAreFalseForNoElement) {
 }
 
 }  // namespace
+
+}  // namespace sec_action_test

@@ -14,6 +14,8 @@
 #include "support/files.h"
 #include "support/xml.h"
 
+namespace set_sec_actions_test {
+
 namespace {
 
 using namespace Kavrin;
@@ -240,3 +242,5 @@ TEST(SecurityRequest, NoKeyIsLeftInAnyDiagnosticFile) {
 }
 
 }  // namespace
+
+}  // namespace set_sec_actions_test

@@ -12,6 +12,8 @@
 #include "support/records.h"
 #include "support/xml.h"
 
+namespace access_points_test {
+
 namespace {
 
 using Kavrin::_tagAccessPoint;
@@ -392,3 +394,5 @@ TEST(AccessPointWalkers, AnElementWithoutChildrenIsTrueOnlyWhenAskedForTheSize) 
 }
 
 }  // namespace
+
+}  // namespace access_points_test

@@ -10,6 +10,8 @@
 #include "support/records.h"
 #include "support/xml.h"
 
+namespace counters_test {
+
 namespace {
 
 using Kavrin::__MEMORY;
@@ -284,3 +286,5 @@ TEST(CleaningStatus, RemoveCardsIs3CleaningIs0AndAnUnknownWord10) {
 }
 
 }  // namespace
+
+}  // namespace counters_test

@@ -8,6 +8,8 @@
 #include "support/records.h"
 #include "support/xml.h"
 
+namespace general_status_test {
+
 namespace {
 
 using Kavrin::KVGeneralStatus;
@@ -211,3 +213,5 @@ TEST(GeneralStatus, TheWalkerIsFalseForNoElement) {
 }
 
 }  // namespace
+
+}  // namespace general_status_test

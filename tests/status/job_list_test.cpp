@@ -10,6 +10,8 @@
 #include "support/records.h"
 #include "support/xml.h"
 
+namespace job_list_test {
+
 namespace {
 
 using Kavrin::_KVJobInfo;
@@ -292,3 +294,5 @@ TEST(JobList, TheWalkersAreFalseForAnElementWithoutChildren) {
 }
 
 }  // namespace
+
+}  // namespace job_list_test

@@ -9,6 +9,8 @@
 #include "support/records.h"
 #include "support/xml.h"
 
+namespace job_status_test {
+
 namespace {
 
 using Kavrin::KVJobStatus;
@@ -206,3 +208,5 @@ TEST(JobStatus, TheWalkersAreFalseForNoElementAndForOneWithoutChildren) {
 }
 
 }  // namespace
+
+}  // namespace job_status_test

@@ -13,6 +13,8 @@
 #include "support/records.h"
 #include "support/xml.h"
 
+namespace media_status_test {
+
 namespace {
 
 using Kavrin::KVJStatusParser;
@@ -508,3 +510,5 @@ TEST(MediaWalkers, TheRibbonDescriptionIsFalseWithoutABuffer) {
 }
 
 }  // namespace
+
+}  // namespace media_status_test

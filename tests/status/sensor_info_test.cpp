@@ -10,6 +10,8 @@
 #include "support/records.h"
 #include "support/xml.h"
 
+namespace sensor_info_test {
+
 namespace {
 
 using Kavrin::KVJSensorParser;
@@ -316,3 +318,5 @@ TEST(SensorInfo, TheWalkersAreFalseForNoElementAndForOneWithoutChildren) {
 }
 
 }  // namespace
+
+}  // namespace sensor_info_test

@@ -12,6 +12,8 @@
 #include "support/records.h"
 #include "support/xml.h"
 
+namespace sensor_states_test {
+
 namespace {
 
 using Kavrin::_KVPrinterSensorInfo;
@@ -255,3 +257,5 @@ TEST(SensorStates, TheWalkersAreFalseForNoElementAndForOneWithoutChildren) {
 }
 
 }  // namespace
+
+}  // namespace sensor_states_test

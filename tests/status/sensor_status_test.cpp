@@ -11,6 +11,8 @@
 #include "support/records.h"
 #include "support/xml.h"
 
+namespace sensor_status_test {
+
 namespace {
 
 using Kavrin::_SENSOR;
@@ -370,3 +372,5 @@ TEST(SensorStatus, TheWalkersAreFalseForNoElementAndForOneWithoutChildren) {
 }
 
 }  // namespace
+
+}  // namespace sensor_status_test

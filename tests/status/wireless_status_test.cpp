@@ -9,6 +9,8 @@
 #include "support/records.h"
 #include "support/xml.h"
 
+namespace wireless_status_test {
+
 namespace {
 
 using Kavrin::_tagPackets;
@@ -300,3 +302,5 @@ TEST(WirelessWalkers, AreFalseForNoElementAndForOneWithoutChildren) {
 }
 
 }  // namespace
+
+}  // namespace wireless_status_test

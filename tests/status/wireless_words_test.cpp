@@ -6,6 +6,8 @@
 #include "KVJStatusParser.h"
 #include "support/xml.h"
 
+namespace wireless_words_test {
+
 namespace {
 
 using Kavrin::KVJStatusParser;
@@ -107,3 +109,5 @@ TEST(CombinedWords, ATextThatIsThereButEmptyAddsNothingAndIsTrue) {
 }
 
 }  // namespace
+
+}  // namespace wireless_words_test

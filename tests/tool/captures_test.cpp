@@ -16,6 +16,8 @@
 #include "foundation/utf8.h"
 #include "support/files.h"
 
+namespace captures_test {
+
 namespace {
 
 using kvj::tests::TemporaryFolder;
@@ -253,3 +255,5 @@ TEST(Captures, AnEncodingThatIsGivenHoldsWhateverTheCaptureSays) {
 }
 
 }  // namespace
+
+}  // namespace captures_test

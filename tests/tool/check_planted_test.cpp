@@ -25,6 +25,8 @@
 #include "support/readings.h"
 #include "tool/checked.h"
 
+namespace check_planted_test {
+
 namespace {
 
 using namespace kvj;
@@ -395,3 +397,5 @@ TEST(CheckedSamples, TellOnlyWhatIsOddInThem) {
 }
 
 }  // namespace
+
+}  // namespace check_planted_test

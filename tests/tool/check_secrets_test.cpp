@@ -10,6 +10,8 @@
 #include "secrets.h"
 #include "tool/checked.h"
 
+namespace check_secrets_test {
+
 namespace {
 
 using namespace kvj;
@@ -117,3 +119,5 @@ TEST(CheckOfSecrets, MarksThePlaceInALineWithMasks) {
 }
 
 }  // namespace
+
+}  // namespace check_secrets_test

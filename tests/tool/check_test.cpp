@@ -8,6 +8,8 @@
 
 #include "tool/tool.h"
 
+namespace check_test {
+
 namespace {
 
 using kvj::tests::contentOf;
@@ -339,3 +341,5 @@ TEST(Check, TellsTheSameOfBrokenInputsThroughAPipeAndOnATerminal) {
 }
 
 }  // namespace
+
+}  // namespace check_test

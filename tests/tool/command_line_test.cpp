@@ -6,6 +6,8 @@
 
 #include "tool/tool.h"
 
+namespace command_line_test {
+
 namespace {
 
 using kvj::tests::Outcome;
@@ -73,3 +75,5 @@ TEST(CommandLine, TheFileStandsBeforeAndBehindOptions) {
 }
 
 }  // namespace
+
+}  // namespace command_line_test

@@ -9,6 +9,8 @@
 #include "support/files.h"
 #include "tool/tool.h"
 
+namespace completion_test {
+
 namespace {
 
 using kvj::tests::Outcome;
@@ -95,3 +97,5 @@ TEST(Completion, OfAnyShellNamesEveryVerb) {
 }
 
 }  // namespace
+
+}  // namespace completion_test

@@ -6,6 +6,8 @@
 
 #include "tool/tool.h"
 
+namespace decode_lists_test {
+
 namespace {
 
 using kvj::tests::Outcome;
@@ -153,3 +155,5 @@ TEST(DecodeLists, WhatIsPrintedPieceByPieceIsLaidOutAsAWhole) {
 }
 
 }  // namespace
+
+}  // namespace decode_lists_test

@@ -10,6 +10,8 @@
 
 #include "tool/tool.h"
 
+namespace decode_many_test {
+
 namespace {
 
 using kvj::tests::Outcome;
@@ -313,3 +315,5 @@ TEST(DecodeEncodings, Utf16ThatIsBrokenIsDamaged) {
 }
 
 }  // namespace
+
+}  // namespace decode_many_test

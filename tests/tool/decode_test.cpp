@@ -6,6 +6,8 @@
 
 #include "tool/tool.h"
 
+namespace decode_test {
+
 namespace {
 
 using kvj::tests::contentOf;
@@ -225,3 +227,5 @@ TEST(Decode, AHardwareAddressIsText) {
 }
 
 }  // namespace
+
+}  // namespace decode_test

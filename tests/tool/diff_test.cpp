@@ -10,6 +10,8 @@
 #include "tool/terminal.h"
 #include "tool/tool.h"
 
+namespace diff_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -319,3 +321,5 @@ TEST_F(Diff, OfBrokenRepliesIsTheSameThroughAPipeAndAFullDisk) {
 }
 
 }  // namespace
+
+}  // namespace diff_test

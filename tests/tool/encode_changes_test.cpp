@@ -12,6 +12,8 @@
 #include "sections.h"
 #include "tool/tool.h"
 
+namespace encode_changes_test {
+
 namespace {
 
 using kvj::tests::contentOf;
@@ -502,3 +504,5 @@ TEST(EncodeChanges, HelpInTheJsonIsLeftOut) {
 }
 
 }  // namespace
+
+}  // namespace encode_changes_test

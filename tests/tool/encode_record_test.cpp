@@ -6,6 +6,8 @@
 
 #include "tool/tool.h"
 
+namespace encode_record_test {
+
 namespace {
 
 using kvj::tests::contentOf;
@@ -271,3 +273,5 @@ TEST(EncodePrinterId, IsOfSectionsOrFull) {
 }
 
 }  // namespace
+
+}  // namespace encode_record_test

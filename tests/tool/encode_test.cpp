@@ -4,6 +4,8 @@
 
 #include "tool/tool.h"
 
+namespace encode_test {
+
 namespace {
 
 using kvj::tests::contentOf;
@@ -158,3 +160,5 @@ TEST(Encode, ALongTextIsWrittenWhole) {
 }
 
 }  // namespace
+
+}  // namespace encode_test

@@ -11,6 +11,8 @@
 #include "places.h"
 #include "tool/tool.h"
 
+namespace explain_test {
+
 namespace {
 
 using kvj::tests::Outcome;
@@ -154,3 +156,5 @@ TEST(FieldComments, AreOnOneLineAsTheHeadersHaveThem) {
 }
 
 }  // namespace
+
+}  // namespace explain_test

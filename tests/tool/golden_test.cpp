@@ -9,6 +9,8 @@
 
 #include "tool/tool.h"
 
+namespace golden_test {
+
 namespace {
 
 using kvj::tests::contentOf;
@@ -63,3 +65,5 @@ TEST(Golden, EverySampleHasItsPairAndEveryPairItsSample) {
 }
 
 }  // namespace
+
+}  // namespace golden_test

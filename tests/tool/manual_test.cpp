@@ -16,6 +16,8 @@
 #include "support/files.h"
 #include "tool/tool.h"
 
+namespace manual_test {
+
 namespace {
 
 using kvj::tests::contentOf;
@@ -122,3 +124,5 @@ TEST(Manual, IsWhatReadersOfPagesCanRead) {
 }
 
 }  // namespace
+
+}  // namespace manual_test

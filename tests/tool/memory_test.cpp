@@ -10,6 +10,8 @@
 #include "hostile/sanitizers.h"
 #include "tool/tool.h"
 
+namespace memory_test {
+
 namespace {
 
 using kvj::tests::Outcome;
@@ -166,3 +168,5 @@ TEST(PeakOfAStream, DoesNotGrowWithADocumentThatIsTooLarge) {
 }
 
 }  // namespace
+
+}  // namespace memory_test

@@ -8,6 +8,8 @@
 #include "tool/terminal.h"
 #include "tool/tool.h"
 
+namespace redact_test {
+
 namespace {
 
 using kvj::tests::runOnTerminal;
@@ -114,3 +116,5 @@ TEST(FullDisk, IsCode1AndSaysSo) {
 }
 
 }  // namespace
+
+}  // namespace redact_test

@@ -16,6 +16,8 @@
 #include "messages/request.h"
 #include "tool/tool.h"
 
+namespace reference_test {
+
 namespace {
 
 using kvj::DescribedRow;
@@ -221,3 +223,5 @@ TEST(Reference, TheHeaderHasEverySectionBesideItsBit) {
 }
 
 }  // namespace
+
+}  // namespace reference_test

@@ -15,6 +15,8 @@
 #include "sample.h"
 #include "tool/tool.h"
 
+namespace sample_test {
+
 namespace {
 
 using namespace kvj;
@@ -146,3 +148,5 @@ TEST(Sample, DecodesWithoutAComplaint) {
 }
 
 }  // namespace
+
+}  // namespace sample_test

@@ -16,6 +16,8 @@
 #include "support/files.h"
 #include "tool/tool.h"
 
+namespace schema_test {
+
 namespace {
 
 using namespace kvj;
@@ -260,3 +262,5 @@ TEST(VocabularyTree, HasAttributesAndCodes) {
 }
 
 }  // namespace
+
+}  // namespace schema_test

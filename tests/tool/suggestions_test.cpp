@@ -6,6 +6,8 @@
 
 #include "tool/tool.h"
 
+namespace suggestions_test {
+
 namespace {
 
 using kvj::tests::Outcome;
@@ -63,3 +65,5 @@ TEST(Suggestions, AreNotNeededWhereAWordIsMissing) {
 }
 
 }  // namespace
+
+}  // namespace suggestions_test

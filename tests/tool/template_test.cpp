@@ -7,6 +7,8 @@
 #include "messages/request.h"
 #include "tool/tool.h"
 
+namespace template_test {
+
 namespace {
 
 using kvj::tests::contentOf;
@@ -125,3 +127,5 @@ TEST(EncodeHelp, AMisspeltSectionGetsTheNearest) {
 }
 
 }  // namespace
+
+}  // namespace template_test

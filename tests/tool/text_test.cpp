@@ -12,6 +12,8 @@
 #include "tool/tool.h"
 #include "units.h"
 
+namespace text_test {
+
 namespace {
 
 using kvj::tests::contentOf;
@@ -241,3 +243,5 @@ TEST(Text, JsonHasNoColours) {
 }
 
 }  // namespace
+
+}  // namespace text_test

@@ -10,6 +10,8 @@
 #include "messages/message.h"
 #include "secrets.h"
 
+namespace visible_text_test {
+
 namespace {
 
 using namespace kvj::tool;
@@ -78,3 +80,5 @@ TEST(FieldRows, EachRowIsThereOnce) {
 }
 
 }  // namespace
+
+}  // namespace visible_text_test

@@ -11,6 +11,8 @@
 #include "messages/message.h"
 #include "tool/tool.h"
 
+namespace words_test {
+
 namespace {
 
 using kvj::DescribedRow;
@@ -263,3 +265,5 @@ TEST(Words, OfAListThatStandsTwiceTheLast) {
 }
 
 }  // namespace
+
+}  // namespace words_test

@@ -5,6 +5,8 @@
 
 #include <cwchar>
 
+namespace xml_text_test {
+
 namespace {
 
 using kvj::tool::firstNotOfXml;
@@ -43,3 +45,5 @@ TEST(XmlText, ANameBeginsWithALetter) {
 }
 
 }  // namespace
+
+}  // namespace xml_text_test

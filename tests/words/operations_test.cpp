@@ -18,6 +18,8 @@ void PrintTo(const WritingOperation& operation, std::ostream* out) { *out << ope
 
 }  // namespace kvj::tests
 
+namespace operations_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -86,3 +88,5 @@ TEST_P(WritingOperations, HaveTheWordOfEachCode) {
 INSTANTIATE_TEST_SUITE_P(, WritingOperations, testing::ValuesIn(writingOperations()), nameOf<WritingOperation>);
 
 }  // namespace
+
+}  // namespace operations_test

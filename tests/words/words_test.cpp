@@ -25,6 +25,8 @@ void PrintTo(const NamedWords& words, std::ostream* out) { *out << words.name; }
 
 }  // namespace kvj
 
+namespace words_test {
+
 namespace {
 
 using kvj::DescribedRow;
@@ -138,3 +140,5 @@ INSTANTIATE_TEST_SUITE_P(, WordTable, testing::ValuesIn(kvj::tests::wordTables()
                          [](const auto& test) { return kvj::tests::identifierOf(test.param.name); });
 
 }  // namespace
+
+}  // namespace words_test

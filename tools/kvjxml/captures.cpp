@@ -11,6 +11,7 @@
 #include "pieces.h"
 #include "progress.h"
 #include "visible_text.h"
+#include "xml_text.h"
 
 namespace kvj::tool {
 
@@ -37,8 +38,6 @@ std::vector<std::string> entriesIn(const std::string& folder) {
 
 // ---- What captures have around a reply ----
 
-bool isBlank(std::string_view text) { return text.find_first_not_of(" \t\r\n") == std::string_view::npos; }
-
 /// The next line with its end; an empty one at the end of the text.
 std::string_view lineAt(std::string_view text, std::size_t at) {
     const std::size_t end = text.find('\n', at);
@@ -59,14 +58,14 @@ bool isHeader(std::string_view line) {
     return name != 0 && name != std::string_view::npos && line[name] == ':';
 }
 
-struct Header {
+struct HttpHeader {
     std::size_t length = 0;
     std::size_t lines = 0;
 };
 
 /// Header lines of HTTP and the blank one behind them; none where something else stands.
-Header headerOf(std::string_view text) {
-    Header header;
+HttpHeader headerOf(std::string_view text) {
+    HttpHeader header;
     for (;;) {
         const std::string_view line = lineAt(text, header.length);
         if (line.empty()) return {};
@@ -80,7 +79,7 @@ Header headerOf(std::string_view text) {
 }
 
 void removeHeader(Capture& capture) {
-    const Header header = headerOf(capture.text);
+    const HttpHeader header = headerOf(capture.text);
     if (header.lines == 0) return;
     capture.offset += sizeIn(capture.encoding, std::string_view(capture.text).substr(0, header.length));
     capture.line += header.lines;

@@ -29,7 +29,7 @@ bool isMeant(std::string_view step, std::string_view by) {
 }
 
 /// The code of one document: what it is says more than what is found in it.
-ExitCode codeOf(const CheckedDocument& checked, kvjxml::severity failOn) {
+ExitCode exitCodeOf(const CheckedDocument& checked, kvjxml::severity failOn) {
     if (checked.readers.empty()) return ExitCode::unknownMessage;
     if (!checked.isWhole) return ExitCode::damaged;
     const bool fails =
@@ -81,7 +81,7 @@ ExitCode check(const Capture& capture, const CheckOptions& options, FindingWrite
                      .findings = toldOf(checked.findings, capture, hidden),
                      .omitted = checked.omitted,
                      .hidden = hidden});
-    return codeOf(checked, options.failOn);
+    return exitCodeOf(checked, options.failOn);
 }
 
 ExitCode check(const Captures& captures, const CheckOptions& options, MakeWriter makeWriter) {

@@ -12,29 +12,29 @@ namespace kvj::tool {
 
 namespace {
 
-using nlohmann::json;
+using SortedJson = nlohmann::json;
 
 /// Follows the parser through the text and checks what it reads.
 class Check {
 public:
     explicit Check(const std::string& source) : source_(&source) {}
 
-    void operator()(json::parse_event_t event, const json& parsed) {
+    void operator()(SortedJson::parse_event_t event, const SortedJson& parsed) {
         switch (event) {
-            case json::parse_event_t::object_start:
-            case json::parse_event_t::array_start:
-                levels_.push_back({.isList = event == json::parse_event_t::array_start});
+            case SortedJson::parse_event_t::object_start:
+            case SortedJson::parse_event_t::array_start:
+                levels_.push_back({.isList = event == SortedJson::parse_event_t::array_start});
                 break;
-            case json::parse_event_t::key:
+            case SortedJson::parse_event_t::key:
                 levels_.back().key = parsed.get<std::string>();
                 if (!levels_.back().keys.insert(*levels_.back().key).second) refuse("occurs twice");
                 break;
-            case json::parse_event_t::object_end:
-            case json::parse_event_t::array_end:
+            case SortedJson::parse_event_t::object_end:
+            case SortedJson::parse_event_t::array_end:
                 levels_.pop_back();
                 endValue();
                 break;
-            case json::parse_event_t::value:
+            case SortedJson::parse_event_t::value:
                 if (parsed.is_string()) checkText(parsed.get_ref<const std::string&>());
                 endValue();
                 break;
@@ -43,7 +43,7 @@ public:
 
     /// @throws Failure for the place that the parser has come to.
     [[noreturn]] void refuse(const std::string& reason) const {
-        json::json_pointer pointer;
+        SortedJson::json_pointer pointer;
         for (const auto& level : levels_) {
             if (level.isList) {
                 pointer /= level.index;
@@ -81,16 +81,16 @@ private:
 
 }  // namespace
 
-json checkedJson(const std::string& text, const std::string& source) {
+SortedJson checkedJson(const std::string& text, const std::string& source) {
     Check check(source);
     try {
-        return json::parse(text, [&](int /*depth*/, json::parse_event_t event, json& parsed) {
+        return SortedJson::parse(text, [&](int /*depth*/, SortedJson::parse_event_t event, SortedJson& parsed) {
             check(event, parsed);
             return true;
         });
-    } catch (const json::parse_error& error) {
+    } catch (const SortedJson::parse_error& error) {
         check.refuse("is not JSON at byte " + std::to_string(error.byte));
-    } catch (const json::out_of_range&) {  // A number that not even a double can hold.
+    } catch (const SortedJson::out_of_range&) {  // A number that not even a double can hold.
         check.refuse("is out of range");
     }
 }

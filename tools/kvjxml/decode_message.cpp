@@ -66,9 +66,9 @@ std::vector<Section> sectionsOf(Element root, const HostList& list) {
 
 /// The entries of a list, as an array that is large enough would have them after reading: those of a section that
 /// stands again go over those of the first, and what is behind the last that was written is none.
-class Entries {
+class HostEntries {
 public:
-    Entries(Element root, const HostList& list)
+    HostEntries(Element root, const HostList& list)
         : list_(&list), sections_(sectionsOf(root, list)), entry_(std::make_unique<char[]>(field().size)) {}
 
     void print(JsonPrinter& json, const Showing& showing) {
@@ -126,7 +126,7 @@ void printListOf(JsonPrinter& json, const DecodedMessage& decoded, const Field& 
     const auto list = std::ranges::find(decoded.message->lists, &field, &HostList::field);
     const bool isOfHost = list != decoded.message->lists.end();
     if (isOfHost && showing.sent == nullptr) {
-        Entries entries(decoded.root, *list);
+        HostEntries entries(decoded.root, *list);
         return printList(json, field, countChildren(decoded.root), [&] { entries.print(json, showing); });
     }
     const ReadList& grown = listIn(decoded, field);

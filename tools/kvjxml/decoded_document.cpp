@@ -12,6 +12,7 @@
 #include "known_root.h"
 #include "merged_rows.h"
 #include "messages/any_reading.h"
+#include "xml_text.h"
 
 namespace kvj::tool {
 
@@ -21,8 +22,6 @@ namespace {
 bool isReadByEntry(const Message& message, const Field& list) {
     return std::ranges::find(message.lists, &list, &HostList::field) != message.lists.end();
 }
-
-bool isBlank(std::string_view text) { return text.find_first_not_of(" \t\r\n") == std::string_view::npos; }
 
 }  // namespace
 

@@ -73,9 +73,9 @@ private:
     bool isAny_ = false;
 };
 
-class TextPrinter : public Printer {
+class LinePrinter : public Printer {
 public:
-    TextPrinter(const Capture& before, const Capture& after, bool isMasked)
+    LinePrinter(const Capture& before, const Capture& after, bool isMasked)
         : Printer(isMasked), before_(before.origin.name()), after_(after.origin.name()) {}
 
 private:
@@ -131,7 +131,7 @@ private:
 
 std::unique_ptr<Printer> makePrinter(const DiffOptions& options, const Capture& before, const Capture& after,
                                      std::string_view root) {
-    if (options.format == DiffFormat::text) return std::make_unique<TextPrinter>(before, after, options.isMasked);
+    if (options.format == DiffFormat::text) return std::make_unique<LinePrinter>(before, after, options.isMasked);
     return std::make_unique<JsonLinePrinter>(before, after, root, options.isMasked);
 }
 

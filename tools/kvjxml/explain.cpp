@@ -57,11 +57,11 @@ std::string quoted(std::string text) {
 
 // ---- What there is, by names ----
 
-using Places = std::vector<const ElementPlace*>;
+using FoundPlaces = std::vector<const ElementPlace*>;
 
 template <class Wanted>
-Places placesWhere(Wanted wanted) {
-    Places places;
+FoundPlaces placesWhere(Wanted wanted) {
+    FoundPlaces places;
     for (const ElementPlace& place : elementPlaces()) {
         if (wanted(place)) places.push_back(&place);
     }
@@ -69,14 +69,14 @@ Places placesWhere(Wanted wanted) {
 }
 
 /// A field of a record.
-struct KnownField {
+struct NamedField {
     const RecordType* record;
     const Field* field;
 };
 
 /// The fields of that name, which may have its record in front.
-std::vector<KnownField> fieldsNamed(std::string_view name) {
-    std::vector<KnownField> found;
+std::vector<NamedField> fieldsNamed(std::string_view name) {
+    std::vector<NamedField> found;
     for (const RecordType* const record : recordTypes()) {
         for (const Field& field : record->fields) {
             const std::string qualified = std::string(record->name).append("::").append(field.name);
@@ -86,20 +86,20 @@ std::vector<KnownField> fieldsNamed(std::string_view name) {
     return found;
 }
 
-Places placesOf(const KnownField& known) {
+FoundPlaces placesOf(const NamedField& known) {
     return placesWhere(
         [&](const ElementPlace& place) { return isFor(*place.row, known.record->name, known.field->name); });
 }
 
-Places placesNamed(std::string_view name) {
+FoundPlaces placesNamed(std::string_view name) {
     const std::string path = withoutIndexes(name);
     return placesWhere([&](const ElementPlace& place) { return place.row->name == path || place.path == path; });
 }
 
 /// The tables of words of these places, each once.
-using Tables = std::vector<CodeTable>;
+using CodeTables = std::vector<CodeTable>;
 
-void add(Tables& tables, const Description& row) {
+void add(CodeTables& tables, const Description& row) {
     const auto table = codeTable(row);
     if (table && std::ranges::none_of(tables, [&](const CodeTable& each) { return each.is(row.words); })) {
         tables.push_back(*table);
@@ -107,18 +107,18 @@ void add(Tables& tables, const Description& row) {
 }
 
 template <class PointersToPlaces>
-Tables tablesOf(const PointersToPlaces& places) {
-    Tables tables;
+CodeTables tablesOf(const PointersToPlaces& places) {
+    CodeTables tables;
     for (const ElementPlace* const place : places) add(tables, place->row->description);
     return tables;
 }
 
-Tables allTables() {
+CodeTables allTables() {
     return tablesOf(placesWhere([](const ElementPlace& /*place*/) { return true; }));
 }
 
-Tables tablesNamed(std::string_view name) {
-    Tables tables = allTables();
+CodeTables tablesNamed(std::string_view name) {
+    CodeTables tables = allTables();
     std::erase_if(tables, [&](const CodeTable& table) { return !isLastOf(name, table.words->name); });
     return tables;
 }
@@ -144,7 +144,7 @@ std::string bitsOf(std::uint64_t number) {
     return text;
 }
 
-std::string joined(const std::vector<std::string>& parts, std::string_view between) {
+std::string listed(const std::vector<std::string>& parts, std::string_view between) {
     std::string text;
     for (const std::string& part : parts) text.append(&part == parts.data() ? "" : between).append(part);
     return text;
@@ -208,7 +208,7 @@ public:
         columns(cells);
     }
 
-    void places(const Places& places) {
+    void places(const FoundPlaces& places) {
         std::vector<Cells> cells;
         for (const ElementPlace* const place : places) {
             const bool isRead = place->direction == Direction::read;
@@ -218,7 +218,7 @@ public:
         columns(cells);
     }
 
-    void words(const Tables& tables) {
+    void words(const CodeTables& tables) {
         for (const auto& [table, isOfBits] : tables) {
             line(std::string(table->name) + (isOfBits ? ", bits that are added up:" : ":"));
             std::vector<Cells> cells;
@@ -311,18 +311,18 @@ void explainRecords(Explanation& out, std::string_view name) {
 }
 
 void explainFields(Explanation& out, std::string_view name) {
-    for (const KnownField& known : fieldsNamed(name)) {
+    for (const NamedField& known : fieldsNamed(name)) {
         out.title(std::string(known.field->name) + ": a field of " + std::string(known.record->name) + ", " +
                   typeOf(*known.field));
         out.line(commentOf(known.record->name, known.field->name));
-        const Places places = placesOf(known);
+        const FoundPlaces places = placesOf(known);
         out.places(places);
         out.words(tablesOf(places));
     }
 }
 
 void explainElements(Explanation& out, std::string_view name) {
-    const Places places = placesNamed(name);
+    const FoundPlaces places = placesNamed(name);
     if (places.empty()) return;
     out.title(std::string(places.front()->row->name) + ": an element");
     out.places(places);
@@ -362,7 +362,7 @@ void explainWord(Explanation& out, const std::string& word) {
     for (const CodeTable& table : allTables()) {
         const Words& words = table.rows();
         if (const auto code = codeOf({words.rows, std::nullopt, Match::whole}, word.c_str())) {
-            cells.push_back({std::to_string(*code), std::string(table.words->name), joined(fieldsWith(table), ", ")});
+            cells.push_back({std::to_string(*code), std::string(table.words->name), listed(fieldsWith(table), ", ")});
         }
     }
     if (cells.empty()) return;
@@ -383,13 +383,13 @@ void explainName(Explanation& out, const std::string& name) {
 // ---- Of a value ----
 
 /// The same value can be read by several rows of a field.
-void explainValue(Explanation& out, const std::string& subject, const Places& places, const std::string& value) {
+void explainValue(Explanation& out, const std::string& subject, const FoundPlaces& places, const std::string& value) {
     const std::string title = subject + " " + visible(value) + ": ";
     std::set<std::string> meanings;
     for (const ElementPlace* const place : places) {
         const Description& row = place->row->description;
         if (!hasOwnValue(row.kind) || place->direction == Direction::written) continue;
-        Tables tables;
+        CodeTables tables;
         add(tables, row);
         const std::string meaning = tables.empty() ? meaningOf(row, value) : meaningOf(tables.front(), value);
         if (meanings.insert(meaning).second) out.title(title + meaning);
@@ -397,7 +397,7 @@ void explainValue(Explanation& out, const std::string& subject, const Places& pl
 }
 
 void explainValue(Explanation& out, const std::string& name, const std::string& value) {
-    for (const KnownField& known : fieldsNamed(name)) {
+    for (const NamedField& known : fieldsNamed(name)) {
         const std::string subject = std::string(known.record->name) + "::" + std::string(known.field->name);
         explainValue(out, subject, placesOf(known), value);
     }
@@ -429,7 +429,7 @@ void list(Explanation& out) {
     for (const CodeTable& table : allTables()) {
         std::vector<std::string> words;
         for (const Word& row : table.rows().rows) words.emplace_back(row.word);
-        cells.push_back({std::string(table.words->name), joined(words, ", ")});
+        cells.push_back({std::string(table.words->name), listed(words, ", ")});
     }
     out.columns(cells);
     out.title("And each record, field, element and word of these: explain a message to see them.");

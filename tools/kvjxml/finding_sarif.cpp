@@ -38,7 +38,7 @@ constexpr std::array<std::string_view, 17> meanings{
 };
 static_assert(to_string(finding_kind{static_cast<int>(meanings.size())}).empty());
 
-std::string textOf(const Json& json) { return json.dump(-1, ' ', true, Json::error_handler_t::replace); }
+std::string printed(const Json& json) { return json.dump(-1, ' ', true, Json::error_handler_t::replace); }
 
 Json rules() {
     Json all = Json::array();
@@ -92,13 +92,13 @@ public:
     explicit SarifWriter(std::ostream& out) : out_(&out) {
         const Json driver{{"name", "kvjxml"}, {"version", KVJXML_VERSION}, {"rules", rules()}};
         *out_ << R"({"$schema":"https://json.schemastore.org/sarif-2.1.0.json","version":"2.1.0","runs":[)"
-              << R"({"tool":{"driver":)" << textOf(driver) << R"(},"columnKind":"unicodeCodePoints","results":[)";
+              << R"({"tool":{"driver":)" << printed(driver) << R"(},"columnKind":"unicodeCodePoints","results":[)";
     }
 
     void document(const ToldDocument& document) override {
         const Origin& origin = document.capture.origin;
         for (const ToldFinding& one : document.findings) {
-            *out_ << std::exchange(separator_, ",\n") << textOf(resultOf(one.finding, origin));
+            *out_ << std::exchange(separator_, ",\n") << printed(resultOf(one.finding, origin));
         }
         for (const std::string& note : document.capture.notes) notify("note", origin, note);
         if (document.omitted != 0) {
@@ -112,7 +112,7 @@ public:
     void end() override {
         const Json invocation{{"executionSuccessful", isComplete_},
                               {"toolExecutionNotifications", std::move(notifications_)}};
-        *out_ << R"(],"invocations":[)" << textOf(invocation) << "]}]}\n";
+        *out_ << R"(],"invocations":[)" << printed(invocation) << "]}]}\n";
     }
 
 private:

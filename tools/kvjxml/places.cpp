@@ -21,7 +21,7 @@ void collect(const ElementPlace& around, std::span<const DescribedRow> rows, Pla
     }
 }
 
-Places all() {
+Places allPlaces() {
     Places places;
     for (const Message& message : messages()) {
         const ElementPlace root{joined({"/", message.root}), nullptr, Direction::read, message.operation};
@@ -37,7 +37,7 @@ Places all() {
 }  // namespace
 
 std::span<const ElementPlace> elementPlaces() {
-    static const Places places = all();
+    static const Places places = allPlaces();
     return places;
 }
 

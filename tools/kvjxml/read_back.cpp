@@ -294,7 +294,7 @@ void addSeenOtherwise(const Asked& asked, const std::string& text, Changes& chan
         if (addMisplaced(asked, seen, row, changes)) elsewhere.push_back(row.pointer + "/");
     });
     addOtherWords(asked, seen, changes);
-    for (const Difference& difference : differences(type, asked.record, seen.record())) {
+    for (const kvj::Difference& difference : differences(type, asked.record, seen.record())) {
         const std::string pointer = difference.path.substr(0, difference.path.find(' '));
         const auto isAround = [&](const std::string& around) { return pointer.starts_with(around); };
         if (std::ranges::any_of(elsewhere, isAround)) continue;

@@ -12,16 +12,17 @@ namespace kvj::tool {
 
 namespace {
 
-using nlohmann::json;
+using SortedJson = nlohmann::json;
 
 /// A value that has come through the command line: JSON, or else the text as it stands.
-json valueOf(const std::string& text, const std::string& source) {
-    return checkedJson(json::accept(text) ? text : json(text).dump(-1, ' ', false, json::error_handler_t::strict),
-                       source);
+SortedJson valueOf(const std::string& text, const std::string& source) {
+    return checkedJson(
+        SortedJson::accept(text) ? text : SortedJson(text).dump(-1, ' ', false, SortedJson::error_handler_t::strict),
+        source);
 }
 
 /// Makes `/lcdContrast/value=15` true.
-void edit(json& fields, const std::string& change, const RecordType& record) {
+void edit(SortedJson& fields, const std::string& change, const RecordType& record) {
     const std::string option = "--set " + visible(change);
     const auto refuse = [&](const std::string& reason) { throw Failure(ExitCode::usage, option + ": " + reason); };
     const std::size_t equals = change.find('=');
@@ -32,48 +33,49 @@ void edit(json& fields, const std::string& change, const RecordType& record) {
         if (isSecretAt(record, pointer)) {
             throw Failure(ExitCode::usage, "--set " + visible(pointer) + ": a key is read from the JSON alone");
         }
-        const json::json_pointer place(pointer);
-        json* owner = &fields;
+        const SortedJson::json_pointer place(pointer);
+        SortedJson* owner = &fields;
         for (const std::string& part : partsOf(place.parent_pointer().to_string())) {
             const bool isNew = owner->is_object() && !owner->contains(part);
-            owner = isNew ? &((*owner)[part] = json::object()) : &owner->at(json::json_pointer() / part);
+            owner = isNew ? &((*owner)[part] = SortedJson::object()) : &owner->at(SortedJson::json_pointer() / part);
         }
-        json& target = owner->is_array() ? owner->at(json::json_pointer() / place.back()) : (*owner)[place.back()];
+        SortedJson& target =
+            owner->is_array() ? owner->at(SortedJson::json_pointer() / place.back()) : (*owner)[place.back()];
         target = valueOf(change.substr(equals + 1), option);
-    } catch (const json::exception&) {
+    } catch (const SortedJson::exception&) {
         refuse("there is no such place");
     }
 }
 
 // What a host sends nests only so deep. NOLINTNEXTLINE(misc-no-recursion)
-void dropHelp(json& value) {
+void dropHelp(SortedJson& value) {
     if (value.is_object()) value.erase(helpKey);
-    for (json& inner : value) {
+    for (SortedJson& inner : value) {
         if (inner.is_structured()) dropHelp(inner);
     }
 }
 
-void refuseDamaged(const json& fields, const std::string& source) {
+void refuseDamaged(const SortedJson& fields, const std::string& source) {
     if (!fields.is_object() || !fields.contains("damaged") || fields["damaged"] == false) return;
-    refuse(source, json::json_pointer("/damaged"),
+    refuse(source, SortedJson::json_pointer("/damaged"),
            "says that the reply was damaged: what it did not say would be sent as zeros");
 }
 
 /// The record of a line as `decode --format jsonl` prints it; anything else stays what it is.
-json withoutLine(json fields, const std::string& source) {
+SortedJson withoutLine(SortedJson fields, const std::string& source) {
     if (!fields.is_object() || !fields.contains("schema") || !fields.contains("source")) return fields;
     if (fields.contains("error")) {
-        refuse(source, json::json_pointer("/error"), "says that there was no document of a known message");
+        refuse(source, SortedJson::json_pointer("/error"), "says that there was no document of a known message");
     }
     refuseDamaged(fields, source);
-    return fields.contains("record") ? json(std::move(fields["record"])) : fields;
+    return fields.contains("record") ? SortedJson(std::move(fields["record"])) : fields;
 }
 
 }  // namespace
 
-json requestJson(const std::string& text, const std::string& source, const std::vector<std::string>& edits,
-                 const RecordType& record) {
-    json fields = withoutLine(checkedJson(text, source), source);
+SortedJson requestJson(const std::string& text, const std::string& source, const std::vector<std::string>& edits,
+                       const RecordType& record) {
+    SortedJson fields = withoutLine(checkedJson(text, source), source);
     refuseDamaged(fields, source);
     if (fields.is_object()) fields.erase("damaged");
     if (fields.is_structured()) dropHelp(fields);

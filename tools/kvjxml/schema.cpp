@@ -23,11 +23,11 @@ using Json = nlohmann::ordered_json;
 
 // ---- The rows of a record ----
 
-using Rows = std::vector<const Description*>;
+using Descriptions = std::vector<const Description*>;
 
 /// The rows of a table that read into the record itself, those of its groups as well.
 // Groups nest as deep as the tables are written, so the recursion ends. NOLINTNEXTLINE(misc-no-recursion)
-void addRows(std::span<const DescribedRow> table, Rows& rows) {
+void addRows(std::span<const DescribedRow> table, Descriptions& rows) {
     for (const auto& [name, row, condition, section] : table) {
         rows.push_back(&row);
         if (row.kind == Kind::group || row.kind == Kind::wordOfPanels) addRows(row.group, rows);
@@ -40,22 +40,23 @@ bool reads(const Description& row, const Field& field) {
     return row.field.name == field.name || row.otherField.name == field.name;
 }
 
-Rows rowsOf(const Field& field, const Rows& rows) {
-    Rows found;
+Descriptions rowsOf(const Field& field, const Descriptions& rows) {
+    Descriptions found;
     std::ranges::copy_if(rows, std::back_inserter(found), [&](const Description* row) { return reads(*row, field); });
     return found;
 }
 
 /// The rows inside those of a record that is a field.
-Rows rowsInside(const Rows& around) {
-    Rows rows;
+Descriptions rowsInside(const Descriptions& around) {
+    Descriptions rows;
     for (const Description* const row : around) addRows(row->group, rows);
     return rows;
 }
 
-/// The rows of a list's entries. Rows of a list have rows of entries in them, or rows that read an entry's text.
-Rows rowsOfEntries(const Rows& ofList) {
-    Rows rows;
+/// The rows of a list's entries. Rows of a list have rows of entries in them, or rows that read an entry's
+/// text.
+Descriptions rowsOfEntries(const Descriptions& ofList) {
+    Descriptions rows;
     for (const Description* const row : ofList) {
         if (row->kind != Kind::list) {
             addRows(row->group, rows);
@@ -119,7 +120,7 @@ std::optional<CodeTable> tableFor(const Description& row, const Field& field) {
     return isText ? std::nullopt : codeTable(row);
 }
 
-Json number(const Field& field, const Rows& rows) {
+Json number(const Field& field, const Descriptions& rows) {
     Width width{static_cast<int>(8 * field.size), field.isSigned};
     std::vector<CodeTable> tables;
     bool isCode = !rows.empty();
@@ -142,9 +143,9 @@ Json number(const Field& field, const Rows& rows) {
 // Records nest as deep as they are declared, so the recursion ends.
 // NOLINTBEGIN(misc-no-recursion)
 
-Json value(const RecordType* around, const Field& field, const Rows& rows, const SchemaForm& form);
+Json value(const RecordType* around, const Field& field, const Descriptions& rows, const SchemaForm& form);
 
-Json object(const RecordType& record, const Rows& rows, const SchemaForm& form) {
+Json object(const RecordType& record, const Descriptions& rows, const SchemaForm& form) {
     Json properties = Json::object();
     Json required = Json::array();
     for (const Field& field : record.fields) {
@@ -181,9 +182,9 @@ Json withWords(const Json& plain, bool isCode) {
     return objectOf("code", plain, more, {"code"});
 }
 
-bool hasWords(const Description* row) { return !row->words.name.empty(); }
+bool readsWord(const Description* row) { return !row->words.name.empty(); }
 
-Json plainValue(const Field& field, const Rows& rows) {
+Json plainValue(const Field& field, const Descriptions& rows) {
     switch (field.type) {
         case FieldType::flag:
         case FieldType::bit:
@@ -207,11 +208,11 @@ Json plainValue(const Field& field, const Rows& rows) {
     return {};
 }
 
-Json value(const RecordType* around, const Field& field, const Rows& rows, const SchemaForm& form) {
+Json value(const RecordType* around, const Field& field, const Descriptions& rows, const SchemaForm& form) {
     if (field.type == FieldType::record) return object(*field.record, rowsInside(rows), form);
     if (field.type == FieldType::list) {
         const Field& entry = *field.entries->entry;
-        const Rows entries = rowsOfEntries(rows);
+        const Descriptions entries = rowsOfEntries(rows);
         const bool isRecord = entry.type == FieldType::record;
         return {{"type", "array"},
                 {"items", isRecord ? object(*entry.record, entries, form) : value(nullptr, entry, entries, form)}};
@@ -220,7 +221,7 @@ Json value(const RecordType* around, const Field& field, const Rows& rows, const
     if (!form.words) return plain;
     const bool isNumber = field.type == FieldType::number;
     const bool isCode = isNumber && around != nullptr && wordsRead(around->name, field.name) != nullptr;
-    if (isCode || !isNumber || std::ranges::none_of(rows, hasWords)) return withWords(plain, isCode);
+    if (isCode || !isNumber || std::ranges::none_of(rows, readsWord)) return withWords(plain, isCode);
     // What stands for itself is a code where the reply had a word for it.
     return {{"anyOf", {withWords(plain, false), withWords(plain, true)}}};
 }
@@ -228,7 +229,7 @@ Json value(const RecordType* around, const Field& field, const Rows& rows, const
 // NOLINTEND(misc-no-recursion)
 
 Json schemaOf(const Message& message, const SchemaForm& form) {
-    Rows rows;
+    Descriptions rows;
     addRows(message.table, rows);
     const Field& field = message.record;
     Json schema{{"title", message.operation}};

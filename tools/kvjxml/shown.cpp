@@ -14,17 +14,17 @@ namespace kvj::tool {
 
 namespace {
 
-using nlohmann::json;
+using SortedJson = nlohmann::json;
 
 /// A float in as few digits as tell it from its neighbours, 24.35 and not 24.350000381469727.
-json decimal(float value) {
+SortedJson decimal(float value) {
     if (!std::isfinite(value)) return nullptr;  // JSON has no other number for it.
     std::array<char, 64> digits{};
     std::to_chars(digits.data(), digits.data() + digits.size() - 1, value);
-    return json::parse(digits.data());
+    return SortedJson::parse(digits.data());
 }
 
-json number(const Field& field, const void* record) {
+SortedJson number(const Field& field, const void* record) {
     const std::int64_t number = wholeNumberOf(field, record);
     if (field.isSigned) return number;
     return static_cast<std::uint64_t>(number);
@@ -70,7 +70,7 @@ void addWords(Shown& shown, const SentValue& sent, std::int64_t code) {
 
 }  // namespace
 
-json valueIn(const Field& field, const void* record) {
+SortedJson valueIn(const Field& field, const void* record) {
     switch (field.type) {
         case FieldType::flag:
         case FieldType::bit:

@@ -33,7 +33,7 @@ std::string textOf(const nlohmann::json& value) {
     return text.empty() ? "\"\"" : visible(text);
 }
 
-std::string joined(const std::vector<std::string_view>& words) {
+std::string listed(const std::vector<std::string_view>& words) {
     std::string text;
     for (const std::string_view word : words) text.append(text.empty() ? "" : ", ").append(visible(word));
     return text;
@@ -66,7 +66,7 @@ ListView viewOf(const Field& list, const void* record) {
 TextPrinter::Line TextPrinter::lineOf(const RecordType* type, const Field& field, const void* record) const {
     const Shown value = shown(type, field, record, showing_);
     if (!value.isCarried && !isThere(field, record)) return {std::string(field.name), "-", {}, {}, true};
-    Line line{std::string(field.name), textOf(value.value), joined(value.words), sentText(value)};
+    Line line{std::string(field.name), textOf(value.value), listed(value.words), sentText(value)};
     const std::string_view unit = type == nullptr ? std::string_view() : unitOf(type->name, field.name);
     if (!unit.empty()) line.value.append(" ").append(unit);
     return line;

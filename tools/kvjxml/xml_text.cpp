@@ -27,4 +27,6 @@ bool isElementName(std::string_view text) {
     return !text.empty() && isFirst(text.front()) && std::ranges::all_of(text, isNext);
 }
 
+bool isBlank(std::string_view text) { return text.find_first_not_of(" \t\r\n") == std::string_view::npos; }
+
 }  // namespace kvj::tool

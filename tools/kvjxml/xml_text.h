@@ -1,6 +1,5 @@
 /// @file xml_text.h
-/// Checks that a text may stand in a request. TinyXML writes whatever it is given, but a printer's parser takes only
-/// XML.
+/// What XML knows of a text. TinyXML writes whatever it is given, but a printer's parser takes only XML.
 #ifndef KVJXML_TOOL_XML_TEXT_H
 #define KVJXML_TOOL_XML_TEXT_H
 
@@ -16,6 +15,9 @@ std::string firstNotOfXml(std::string_view text);
 /// Whether an element can have this name. Printers use ASCII names, so no other letters are taken; nor is the colon,
 /// which XML keeps for prefixes.
 bool isElementName(std::string_view text);
+
+/// Whether there is nothing in a text but blanks.
+bool isBlank(std::string_view text);
 
 }  // namespace kvj::tool
 
