@@ -11,6 +11,8 @@
 #include "KVJCapsParser.h"
 #include "support/xml.h"
 
+namespace header_example_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -71,3 +73,5 @@ TEST(HeaderExample, ReadsAListThatGrowsOrShrinksWhileItIsRead) {
 }
 
 }  // namespace
+
+}  // namespace header_example_test

@@ -11,6 +11,8 @@
 #include "foundation/reply.h"
 #include "support/xml.h"
 
+namespace allocations_test {
+
 namespace {
 
 using kvj::tests::Name;
@@ -199,3 +201,5 @@ TEST(Allocations, WritingNothingTakesNone) {
 }
 
 }  // namespace
+
+}  // namespace allocations_test

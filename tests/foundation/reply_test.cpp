@@ -17,6 +17,8 @@
 #include "support/tree.h"
 #include "support/xml.h"
 
+namespace reply_test {
+
 using kvj::Element;
 using kvj::Reply;
 using kvj::tests::End;
@@ -288,3 +290,5 @@ TEST(Reply, TheFirstFaultHasAPlaceInTheTextThatCameIn) {
 TEST(Reply, WithoutAFaultThereIsNone) { EXPECT_FALSE(Reply("<r><a>1</a></r>").fault()); }
 
 }  // namespace
+
+}  // namespace reply_test

@@ -21,6 +21,8 @@ const char* TiXmlDocument::Parse(const char* text, TiXmlParsingData* /*before*/,
     return nullptr;
 }
 
+namespace parser_test {
+
 namespace {
 
 using namespace kvj::tests;
@@ -53,3 +55,5 @@ TEST(TinyXmlParser, IsGivenNothingButTheMarkForAReplyThatBeginsWithOne) {
 }
 
 }  // namespace
+
+}  // namespace parser_test

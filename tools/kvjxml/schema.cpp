@@ -53,8 +53,7 @@ Descriptions rowsInside(const Descriptions& around) {
     return rows;
 }
 
-/// The rows of a list's entries. Rows of a list have rows of entries in them, or rows that read an entry's
-/// text.
+/// The rows of a list's entries. Rows of a list have rows of entries in them, or rows that read an entry's text.
 Descriptions rowsOfEntries(const Descriptions& ofList) {
     Descriptions rows;
     for (const Description* const row : ofList) {
