@@ -197,16 +197,24 @@ TEST(Reference, TheHeadersNameTheElementOfEveryFieldBesideIt) {
     EXPECT_GT(compared, 400U);
 }
 
+/// Whether the code comes after the word, or after those that share it: "a", "b" and "c" 7
+bool isListed(const std::string& headers, const std::string& word, const std::string& code) {
+    const std::string quoted = '"' + word + '"';
+    const std::regex rest(R"((?:(?:,| and)[\s/]*"[^"]+")*[\s/]*)" + code + "\\b");
+    for (std::size_t at = headers.find(quoted); at != std::string::npos; at = headers.find(quoted, at + 1)) {
+        const char* const behind = &headers[at + quoted.size()];
+        if (std::regex_search(behind, rest, std::regex_constants::match_continuous)) return true;
+    }
+    return false;
+}
+
 TEST(Reference, TheHeadersHaveEveryWordOfEveryTable) {
     const std::string headers = publicHeaders();
     const std::string reference = runTool("messages").out;
     const auto words = matchesOf(reference, std::regex(R"(\| `([^`]+)` \| (-?\d+) \|\n)"));
     ASSERT_FALSE(words.empty());
     for (const auto& word : words) {
-        // The code comes after the word, or after those that share it: "a", "b" and "c" 7
-        const std::regex listed(std::string("\"") + word[1].str() + R"("(?:(?:,| and)[\s/]*"[^"]+")*[\s/]*)" +
-                                word[2].str() + "\\b");
-        EXPECT_TRUE(std::regex_search(headers, listed)) << word[1] << " is not in the headers as " << word[2];
+        EXPECT_TRUE(isListed(headers, word[1], word[2])) << word[1] << " is not in the headers as " << word[2];
     }
 }
 
