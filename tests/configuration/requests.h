@@ -12,7 +12,7 @@
 
 #include "KVJSetConfig.h"
 #include "configuration/records.h"
-#include "hostile/copy_scope.h"
+#include "support/copy_scope.h"
 
 namespace kvj::tests {
 

@@ -1,17 +1,12 @@
 // The service commands, byte for byte, and the copy of them that the service engineer finds.
 #include "KVJDeviceControl.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/file.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
-#include <cerrno>
 #include <cfloat>
 #include <climits>
 #include <cstddef>
-#include <cstdio>
 #include <filesystem>
 #include <functional>
 #include <limits>
@@ -22,11 +17,13 @@
 #include <utility>
 #include <vector>
 
+#include "support/copy_scope.h"
 #include "support/files.h"
 
 namespace device_control_test {
 
 using kvj::tests::contentOf;
+using kvj::tests::CopyScope;
 using kvj::tests::TemporaryFolder;
 
 namespace {
@@ -53,32 +50,6 @@ public:
 
 private:
     std::optional<std::string> text_;
-};
-
-/// The copy has one name for all processes: while this lives, no other test looks at it, and what was there before is
-/// set aside.
-class CopyScope {
-public:
-    CopyScope() : lock_(open("/tmp/kvjxml-test-composedXML.lock", O_RDWR | O_CREAT | O_CLOEXEC, 0600)) {
-        if (lock_ < 0 || flock(lock_, LOCK_EX) != 0) throw std::runtime_error("no lock on " + copyPath.string());
-        // The name itself is moved: it may be a link, or a file that only its owner can write.
-        if (std::rename(copyPath.c_str(), aside_.c_str()) != 0 && errno != ENOENT) {
-            close(lock_);
-            throw std::runtime_error("cannot move " + copyPath.string());
-        }
-    }
-    ~CopyScope() {
-        std::error_code ignored;
-        std::filesystem::remove_all(copyPath, ignored);
-        std::filesystem::rename(aside_, copyPath, ignored);
-        close(lock_);
-    }
-    CopyScope(const CopyScope&) = delete;
-    CopyScope& operator=(const CopyScope&) = delete;
-
-private:
-    int lock_;
-    std::filesystem::path aside_ = copyPath.string() + ".before-" + std::to_string(getpid());
 };
 
 /// Calls `print` with a buffer that has room for everything, and gives the text that it leaves there; after its

@@ -14,9 +14,9 @@
 
 #include "hostile/allocation_watch.h"
 #include "hostile/composers.h"
-#include "hostile/copy_scope.h"
 #include "hostile/outcome.h"
 #include "hostile/samples.h"
+#include "support/copy_scope.h"
 #include "support/readers.h"
 
 namespace allocation_faults_test {

@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-#include "hostile/copy_scope.h"
+#include "support/copy_scope.h"
 
 namespace kvj::tests {
 

@@ -14,10 +14,10 @@
 #include <vector>
 
 #include "hostile/composers.h"
-#include "hostile/copy_scope.h"
 #include "hostile/outcome.h"
 #include "hostile/samples.h"
 #include "hostile/sanitizers.h"
+#include "support/copy_scope.h"
 #include "support/readers.h"
 
 namespace threads_test {

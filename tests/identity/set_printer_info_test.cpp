@@ -13,7 +13,7 @@
 
 #include "KVJPrinterIDParser.h"
 #include "KVJSetPrinterInfo.h"
-#include "hostile/copy_scope.h"
+#include "support/copy_scope.h"
 #include "support/files.h"
 #include "support/xml.h"
 

@@ -1,7 +1,7 @@
 /// @file copy_scope.h
 /// The files that composers leave for the service engineer have one name for all processes.
-#ifndef KVJXML_TESTS_HOSTILE_COPY_SCOPE_H
-#define KVJXML_TESTS_HOSTILE_COPY_SCOPE_H
+#ifndef KVJXML_TESTS_SUPPORT_COPY_SCOPE_H
+#define KVJXML_TESTS_SUPPORT_COPY_SCOPE_H
 
 #include <fcntl.h>
 #include <sys/file.h>
