@@ -6,10 +6,12 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <kvjxml_read.hpp>
 #include <ostream>
 #include <set>
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -325,6 +327,30 @@ TEST(EveryNumber, ThatItsFieldCannotHoldIsFound) {
     });
 }
 
+TEST(EveryNumber, WithAPlusBeforeItIsRight) {
+    withRows(numbers, [](const Place& place) {
+        if (place.description().number.base == Base::hexadecimal) return;  // Nothing stands in front of "0x".
+        expectFindings(place, reply(place, element(place.row(), "+" + rightValue(place))), {});
+    });
+}
+
+TEST(EveryWholeNumber, UpToTheMostThatItsFieldHoldsIsRight) {
+    withRows({Kind::number}, [](const Place& place) {
+        const Number& number = place.description().number;
+        if (number.digits != 0) return;
+        const int bits = number.isSigned ? number.bits - 1 : number.bits;
+        const std::uint64_t most = ~std::uint64_t{0} >> (64 - bits);
+        const bool isHexadecimal = number.base == Base::hexadecimal;
+        const auto with = [&](std::uint64_t value) {
+            std::ostringstream text;
+            text << std::showbase << (isHexadecimal ? std::hex : std::dec) << value;
+            return reply(place, element(place.row(), text.str()));
+        };
+        expectFindings(place, with(most), {});
+        if (bits < 64) expectFindings(place, with(most + 1), {here(Found::out_of_range, place)});
+    });
+}
+
 TEST(EveryWholeNumber, BelowZeroIsFoundWhereItsFieldHasNoSign) {
     withRows(wholeNumbers, [](const Place& place) {
         const Number& number = place.description().number;
@@ -339,6 +365,14 @@ TEST(EverySetting, OutsideItsRangeIsFound) {
         expectFindings(place, reply(place, element(place.row(), "-1")), {here(Found::clamped, place)});
         expectFindings(place, reply(place, element(place.row(), "0")), {});
         expectFindings(place, reply(place, element(place.row(), "9")), {});
+    });
+}
+
+TEST(EverySetting, ThatItsFieldCannotHoldIsFoundWithTheReason) {
+    withRows(settings, [](const Place& place) {
+        const bool isWhole = place.description().kind == Kind::setting;
+        EXPECT_EQ(detailOf(place, reply(place, element(place.row(), isWhole ? "99999999999" : "1e99"))),
+                  isWhole ? "the field has 32 bits" : "the field is a float");
     });
 }
 
