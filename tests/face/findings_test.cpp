@@ -237,6 +237,15 @@ TEST(FindingsInAttributes, AreOfAReferenceInAValueWithoutQuotes) {
     EXPECT_THAT(found("general_status", "<get_general_status a=&x;/>"), ElementsAre(reference));
 }
 
+// ---- Numbers ----
+
+TEST(FindingsOfNumbers, ShowTheLargestWithoutASign) {
+    EXPECT_THAT(found("host_keys", "<diffie_hellman><modulus>0xFFFFFFFFFFFFFFC5 V</modulus></diffie_hellman>"),
+                ElementsAre("error trailing-text 1:17 /diffie_hellman/modulus Kavrin::_tagHostDHKeys::modulus "
+                            "\"0xFFFFFFFFFFFFFFC5 V\" -> \"18446744073709551557\" (\"V\" behind the number was "
+                            "ignored)"));
+}
+
 // ---- Other readers of the same reply ----
 
 TEST(FindingsOfSharedReplies, DoNotCallUnknownWhatAnotherReaderKnows) {
