@@ -7,6 +7,7 @@
 #include <sys/file.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <filesystem>
 #include <stdexcept>
@@ -20,7 +21,11 @@ public:
     CopyScope() : lock_(open("/tmp/kvjxml-test-composedXML.lock", O_RDWR | O_CREAT | O_CLOEXEC, 0600)) {
         if (lock_ < 0 || flock(lock_, LOCK_EX) != 0) throw std::runtime_error("no lock on the diagnostic files");
         // The names themselves are moved: one may be a link, or a file that only its owner can write.
-        for (const char* path : paths) static_cast<void>(std::rename(path, aside(path).c_str()));
+        for (const char* path : paths) {
+            if (std::rename(path, aside(path).c_str()) == 0 || errno == ENOENT) continue;
+            close(lock_);
+            throw std::runtime_error(std::string("cannot move ") + path);
+        }
     }
     ~CopyScope() {
         std::error_code ignored;
