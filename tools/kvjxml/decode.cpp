@@ -87,7 +87,7 @@ void printFailureLine(const Origin& origin, const Failure& failure) {
     });
 }
 
-const Format all[] = {
+const Format eachFormat[] = {
     {"json", "one document of JSON behind the other", Counting::no, Keeping::no, printJson, tellFailure},
     {"jsonl", "one line of JSON for each, with its source; what cannot be read is an error in its place", Counting::yes,
      Keeping::no, printDocumentLine, printFailureLine},
@@ -100,7 +100,7 @@ void checkOutput() {
 
 }  // namespace
 
-std::span<const Format> formats() { return all; }
+std::span<const Format> formats() { return eachFormat; }
 
 ExitCode decode(const Captures& captures, const std::string& message, const Format& format, const View& view) {
     View shown = view;
