@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "tool/terminal.h"
 #include "tool/tool.h"
 
 namespace check_test {
@@ -14,9 +15,11 @@ namespace {
 
 using kvj::tests::contentOf;
 using kvj::tests::Outcome;
+using kvj::tests::runOnTerminal;
 using kvj::tests::runShell;
 using kvj::tests::runTool;
 using kvj::tests::TemporaryFolder;
+using kvj::tests::whyNoTerminal;
 using kvj::tests::write;
 using nlohmann::json;
 using testing::ElementsAre;
@@ -303,10 +306,11 @@ Outcome runInTerminal(const std::string& words, const std::string& input) {
     const TemporaryFolder folder;
     const std::string file = (folder / "reply.xml").string();
     write(file, input);
-    return runShell("script -qec '" + std::string(KVJXML_TOOL) + " " + words + " " + file + "' /dev/null");
+    return runOnTerminal(words + " " + file);
 }
 
 TEST(Check, MasksSecretsOnATerminalAndElsewhereAsTold) {
+    if (const std::string why = whyNoTerminal(); !why.empty()) GTEST_SKIP() << why;
     for (const char* const format : {" --format text", " --format json", " --format sarif"}) {
         const std::string words = std::string("check") + format;
         const Outcome shown = runInTerminal(words, secret);
@@ -320,6 +324,7 @@ TEST(Check, MasksSecretsOnATerminalAndElsewhereAsTold) {
 }
 
 TEST(Check, TellsTheSameOfBrokenInputsThroughAPipeAndOnATerminal) {
+    if (const std::string why = whyNoTerminal(); !why.empty()) GTEST_SKIP() << why;
     for (const std::string& broken : {cut, clean + clean, std::string("<get_job_status>\xFF</get_job_status>"),
                                       std::string("<get_job_status></get_job>"), std::string("ready"),
                                       std::string("<get_job_status/>\0<x/>", 22)}) {
@@ -328,7 +333,7 @@ TEST(Check, TellsTheSameOfBrokenInputsThroughAPipeAndOnATerminal) {
         write(file, broken);
         const std::string tool = std::string(KVJXML_TOOL) + " check --no-redact " + file;
         const Outcome piped = runShell(tool + " | cat");
-        Outcome shown = runShell("script -qec '" + tool + "' /dev/null");
+        Outcome shown = runOnTerminal("check --no-redact " + file);
         std::erase(shown.out, '\r');
         EXPECT_NE(shown.out, "") << broken;
         EXPECT_EQ(piped.out, shown.out);

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "tool/terminal.h"
 #include "tool/tool.h"
 
 namespace decode_many_test {
@@ -18,6 +19,7 @@ using kvj::tests::Outcome;
 using kvj::tests::runShell;
 using kvj::tests::runTool;
 using kvj::tests::TemporaryFolder;
+using kvj::tests::whyNoTerminal;
 using kvj::tests::write;
 using nlohmann::json;
 using testing::HasSubstr;
@@ -227,6 +229,7 @@ TEST(DecodeMany, AFullDiskEndsItWithCode1) {
 // ---- Progress ----
 
 TEST(DecodeProgress, IsShownAtATerminalWhenAStreamTakesLong) {
+    if (const std::string why = whyNoTerminal(); !why.empty()) GTEST_SKIP() << why;
     const TemporaryFolder folder;
     const std::string out = (folder / "out").string();
     const std::string stream = "(echo " + std::string("\"<nonce/>\"") + "; sleep 1.2; echo \"<nonce/>\")";

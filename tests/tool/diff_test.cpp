@@ -269,6 +269,7 @@ TEST_F(Diff, ShowsSecretsWhereNobodyLooksOverAShoulder) {
 }
 
 TEST_F(Diff, MasksSecretsOnATerminalAndWhenToldTo) {
+    if (const std::string why = whyNoTerminal(); !why.empty()) GTEST_SKIP() << why;
     give(twoKeys[0], twoKeys[1]);
     for (const Outcome& outcome : {runTool(words("--redact")), runTool(words("--redact --format json")),
                                    runOnTerminal(words()), runOnTerminal(words("--format json"))}) {
@@ -289,6 +290,7 @@ TEST_F(Diff, ShowsThatThereIsNoSecret) {
 }
 
 TEST_F(Diff, GivesATerminalNothingThatItWouldObey) {
+    if (const std::string why = whyNoTerminal(); !why.empty()) GTEST_SKIP() << why;
     // An escape, U+009B that is one as well, U+202E that turns a text around, and a byte that is no text.
     const std::string wild =
         "a\x1B[2Jb\xC2\x9B"
@@ -306,6 +308,7 @@ TEST_F(Diff, GivesATerminalNothingThatItWouldObey) {
 }
 
 TEST_F(Diff, OfBrokenRepliesIsTheSameThroughAPipeAndAFullDisk) {
+    if (const std::string why = whyNoTerminal(); !why.empty()) GTEST_SKIP() << why;
     const std::string whole = contentOf(std::string(KVJXML_REPLIES) + "/get_general_status.xml");
     for (const std::size_t length : {whole.size() / 3, whole.size() / 2, whole.size() - 5}) {
         give(whole, whole.substr(0, length));

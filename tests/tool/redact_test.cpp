@@ -15,6 +15,7 @@ namespace {
 using kvj::tests::runOnTerminal;
 using kvj::tests::runTool;
 using kvj::tests::TemporaryFolder;
+using kvj::tests::whyNoTerminal;
 using kvj::tests::write;
 using nlohmann::json;
 using testing::HasSubstr;
@@ -33,6 +34,7 @@ const std::pair<std::string, std::string> secrets[] = {
 };
 
 TEST(Secrets, AreMaskedOnATerminal) {
+    if (const std::string why = whyNoTerminal(); !why.empty()) GTEST_SKIP() << why;
     for (const auto& [name, secret] : secrets) {
         const auto outcome = runOnTerminal("decode " + sample(name));
         EXPECT_EQ(outcome.code, 0) << name;
@@ -48,6 +50,7 @@ TEST(Secrets, AreShownElsewhere) {
 }
 
 TEST(Secrets, AreMaskedOrShownAnywhereAsTheUserSays) {
+    if (const std::string why = whyNoTerminal(); !why.empty()) GTEST_SKIP() << why;
     for (const auto& [name, secret] : secrets) {
         EXPECT_THAT(runTool("decode --redact " + sample(name)).out, Not(HasSubstr(secret))) << name;
         EXPECT_THAT(runTool("decode --words --redact " + sample(name)).out, Not(HasSubstr(secret))) << name;
@@ -86,6 +89,7 @@ const std::string hostile =
 const std::string hostileReply = "<get_job_status><uuid>" + hostile + "</uuid></get_job_status>";
 
 TEST(Controls, ReachNoTerminalAsTheyAre) {
+    if (const std::string why = whyNoTerminal(); !why.empty()) GTEST_SKIP() << why;
     const TemporaryFolder folder;
     write(folder / "reply.xml", hostileReply);
     for (const std::string options : {"", "--words ", "--format text ", "--format jsonl "}) {
@@ -102,6 +106,7 @@ TEST(Controls, ReachNoTerminalAsTheyAre) {
 TEST(Controls, AreTheSameInJson) { EXPECT_EQ(json::parse(runTool("decode", hostileReply).out).at("uuid"), hostile); }
 
 TEST(Controls, InAFilesNameReachNoTerminalAsTheyAre) {
+    if (const std::string why = whyNoTerminal(); !why.empty()) GTEST_SKIP() << why;
     EXPECT_THAT(runOnTerminal("decode \"$(printf '/nowhere/\\033[2J')\"").out, Not(HasSubstr("\x1B")));
 }
 

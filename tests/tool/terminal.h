@@ -16,6 +16,16 @@
 
 namespace kvj::tests {
 
+/// Why a test is skipped where there are no pseudo-terminals, as in some containers; empty where there are.
+inline std::string whyNoTerminal() {
+    int terminal = -1;
+    int program = -1;
+    if (openpty(&terminal, &program, nullptr, nullptr, nullptr) == -1) return "there are no pseudo-terminals here";
+    close(terminal);
+    close(program);
+    return {};
+}
+
 /// Runs the tool with these words of a command line on a pseudo-terminal. What it prints there, on either stream, has
 /// its lines ended by a carriage return and a line feed, as terminals want it.
 inline Outcome runOnTerminal(const std::string& words, const std::string& environment = {}) {

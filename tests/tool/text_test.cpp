@@ -20,6 +20,7 @@ using kvj::tests::contentOf;
 using kvj::tests::runOnTerminal;
 using kvj::tests::runTool;
 using kvj::tests::TemporaryFolder;
+using kvj::tests::whyNoTerminal;
 using kvj::tests::write;
 using nlohmann::json;
 using testing::HasSubstr;
@@ -227,6 +228,7 @@ TEST(Text, SecretsAreMasked) {
 }
 
 TEST(Text, HasColoursOnATerminalAlone) {
+    if (const std::string why = whyNoTerminal(); !why.empty()) GTEST_SKIP() << why;
     const TemporaryFolder folder;
     write(folder / "reply.xml", "<get_count><total_cards_done>3</total_cards_done></get_count>");
     const std::string words = "decode --format text " + (folder / "reply.xml").string();
@@ -236,6 +238,7 @@ TEST(Text, HasColoursOnATerminalAlone) {
 }
 
 TEST(Text, JsonHasNoColours) {
+    if (const std::string why = whyNoTerminal(); !why.empty()) GTEST_SKIP() << why;
     const TemporaryFolder folder;
     write(folder / "reply.xml", "<get_count><total_cards_done>3</total_cards_done></get_count>");
     EXPECT_THAT(runOnTerminal("decode --words " + (folder / "reply.xml").string(), "-u NO_COLOR").out,
